@@ -1,0 +1,37 @@
+# SPDX-License-Identifier: MIT
+include(CMakePackageConfigHelpers)
+
+set(olv_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OlvWidgets)
+set(olv_qmake_dir ${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/modules)
+
+install(TARGETS OlvWidgets OlvSystemInfo
+    EXPORT OlvWidgetsTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT OlvWidgetsTargets
+    NAMESPACE OlvWidgets::
+    DESTINATION ${olv_cmake_dir})
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OlvWidgetsConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake
+    INSTALL_DESTINATION ${olv_cmake_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/OlvWidgetsConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake
+    ${PROJECT_BINARY_DIR}/OlvWidgetsConfigVersion.cmake
+    DESTINATION ${olv_cmake_dir})
+
+# pkg-config and qmake find the installed tree relative to their own files, so that a tree installed
+# into another prefix (cmake --install --prefix) works as it stands.
+file(RELATIVE_PATH olv_prefix_from_pkgconfig
+    /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+file(RELATIVE_PATH olv_prefix_from_qmake /prefix/${olv_qmake_dir} /prefix)
+foreach(module OlvWidgets OlvSystemInfo)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${module}.pc.in
+        ${PROJECT_BINARY_DIR}/${module}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${module}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/qt_${module}.pri.in
+        ${PROJECT_BINARY_DIR}/qt_${module}.pri @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/qt_${module}.pri DESTINATION ${olv_qmake_dir})
+endforeach()

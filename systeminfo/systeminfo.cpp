@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+// Keeps the place of the library until its first class comes.
+#include <QtGlobal>
