@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/olvwidgets_export.h>
+
+#include <QFont>
+#include <QHash>
+#include <QList>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+/**
+ * @file foundation.h
+ * Start-up and fonts, and the small utilities that widgets and applications share.
+ */
+
+/**
+ * An integer that wraps round within a range when it is incremented.
+ *
+ * A plain value type: the current value, the minimum taken after passing the maximum (0 at first)
+ * and the maximum reached by incrementing (10 at first). Nothing is checked against the range but
+ * the increment itself.
+ *
+ * @code
+ * OlvInt page(0);
+ * page.setRange(3, 0); // the maximum comes first
+ * ++page;              // 1, then 2, 3, 0, 1 ...
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvInt
+{
+public:
+    /** Starts at @p value with the range 0 to 10; a value outside that range is kept as it is. */
+    OlvInt(int &&value);
+
+    /**
+     * Sets the maximum to @p max and, unless it is 0, the minimum to @p min.
+     * A @p min of 0 leaves the minimum as it was: use setMin() to set it to 0 again.
+     */
+    OlvInt &setRange(int max, int min);
+    /** Sets the value taken after an increment passes the maximum. */
+    OlvInt &setMin(int min);
+    /** Sets the largest value reached by incrementing. */
+    OlvInt &setMax(int max);
+
+    /** Sets the value, in or out of the range; the range stays. */
+    OlvInt &operator=(int value);
+    /** Adds 1; a result above the maximum becomes the minimum. Never overflows. */
+    OlvInt &operator++();
+    /** As the prefix form; returns value and range as they were before. */
+    OlvInt operator++(int);
+    /** The current value. */
+    operator int() const;
+
+private:
+    int m_value;
+    int m_min = 0;
+    int m_max = 10;
+};
+
+/**
+ * A guard that runs the application's clean-up callables when it goes out of scope.
+ *
+ * Loading the library creates one process-wide instance, #SINGLEGLOBAL; addDestroy() appends to its
+ * list from anywhere. A guard of this class on the stack of main() destroys that instance when it
+ * goes, and with it runs the list:
+ *
+ * @code
+ * int main(int argc, char **argv)
+ * {
+ *     QApplication application(argc, argv);
+ *     OlvAutoDestroy guard;
+ *     OlvAutoDestroy::addDestroy([] { saveWindowPlaces(); });
+ *     return application.exec();
+ * } // saveWindowPlaces() runs here
+ * @endcode
+ *
+ * For use on the GUI thread; nothing is locked.
+ */
+class OLVWIDGETS_EXPORT OlvAutoDestroy
+{
+public:
+    /** An empty list. */
+    OlvAutoDestroy();
+    /**
+     * Runs this object's own callables, first added first, then destroys the process-wide instance,
+     * if it still exists, which runs its callables in the same way. #SINGLEGLOBAL is null before
+     * the first callable of the process-wide instance runs, so each callable runs exactly once.
+     *
+     * An exception that a callable throws leaves the destructor, and the callables behind it do not
+     * run; an empty callable throws std::bad_function_call.
+     */
+    ~OlvAutoDestroy() noexcept(false);
+
+    /**
+     * Appends a copy of @p callable to the list of the process-wide instance, never to that of a
+     * local one. Once that instance is being destroyed, or is gone, there is no list to append to:
+     * the callable is then dropped.
+     */
+    static void addDestroy(std::function<void()> callable);
+
+    /** The process-wide instance: set by loading the library, null once a guard has destroyed it.
+     */
+    static OlvAutoDestroy *SINGLEGLOBAL;
+
+private:
+    Q_DISABLE_COPY(OlvAutoDestroy)
+
+    QList<std::function<void()>> m_list;
+};
+
+/**
+ * Defers a callable to the event loop: constructing one of these is the whole of its use.
+ *
+ * @code
+ * OlvLastOnceFunction([panel = QPointer<QWidget>(panel)] {
+ *     if (panel) {
+ *         panel->raise();
+ *     }
+ * });
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvLastOnceFunction
+{
+public:
+    /**
+     * Runs @p callable once, on the calling thread, on the first pass of its event loop after at
+     * least 1 millisecond, whatever becomes of this object. Several run in the order of their
+     * creation; nothing is merged and nothing can be cancelled, so a callable must hold weakly
+     * whatever may die before. An empty callable throws std::bad_function_call out of the event
+     * loop. The calling thread must have an event loop.
+     */
+    explicit OlvLastOnceFunction(std::function<void()> callable);
+};
+
+/**
+ * Start-up services: the fonts that an application ships, and the primary screen's measures.
+ *
+ * Call init() once, early, after the QGuiApplication exists; it registers the font files on a
+ * thread of its own. Whatever needs those fonts or measures waits for isReady():
+ *
+ * @code
+ * QApplication application(argc, argv);
+ * OlvGlobal::init();
+ * while (!OlvGlobal::isReady()) {
+ *     QThread::msleep(1);
+ * }
+ * label.setFont(OlvGlobal::getFont(QStringLiteral("FontAwesome"), 12));
+ * @endcode
+ *
+ * Nothing in the library waits for the fonts, and nothing is locked: before isReady() has returned
+ * true, #OlvPluginFonts, #desktopSize, #DPI and getFont() race with the font job.
+ */
+class OLVWIDGETS_EXPORT OlvGlobal
+{
+public:
+    OlvGlobal() = delete;
+
+    /**
+     * Starts the font job on a thread of its own and returns at once.
+     *
+     * The job lists the directory "Font" as getFiles() does and registers each name in it from
+     * "fonts/", both relative to the current working directory: a deployment provides both names,
+     * for example one as a link to the other. A file is known from then on by its key, its name
+     * less the last four characters ("kai.ttf" gives "kai"; a name of fewer than five characters
+     * gives the empty key); of two files with one key the later one in the listing wins. The job
+     * then records the size of the primary screen and its dots per inch.
+     *
+     * A missing directory registers nothing; a file that Qt cannot load is recorded with the id -1.
+     * Without a primary screen the measures are not recorded and isReady() stays false. Call it
+     * once: a second call registers every file a second time.
+     */
+    static void init();
+    /** Whether the font job has done its work; never goes back to false. Set just before #DPI. */
+    static bool isReady();
+
+    /**
+     * The names, not paths, of the regular files in @p directory, hidden ones included, symbolic
+     * links left out, in the order in which the file system gives them. Empty when there is no such
+     * directory.
+     */
+    static QStringList getFiles(QString directory);
+
+    /**
+     * The font of the first family in the file registered under @p key, @p pointSize points high,
+     * in the default weight and upright. An unknown key gives a family of the font file that was
+     * registered first. Where that file, or the one under @p key, could not be loaded, the
+     * application's default font in that size is returned. A size of 0 or less gives the default
+     * size.
+     */
+    static QFont getFont(QString key, int pointSize);
+
+    /** Font key to the id that QFontDatabase::addApplicationFont() returned, -1 for a bad file. */
+    static QHash<QString, int> OlvPluginFonts;
+    /** The primary screen's size in logical pixels; invalid until the font job has recorded it. */
+    static QSize desktopSize;
+    /** The primary screen's logical dots per inch divided by 96; 0 until the font job is done. */
+    static double DPI;
+};
