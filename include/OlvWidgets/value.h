@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/olvwidgets_export.h>
+#include <OlvWidgets/widget.h>
+
+#include <QPointer>
+
+/**
+ * @file value.h
+ * Switches and sliders.
+ */
+
+class OlvSlider;
+
+/**
+ * The knob of an OlvSlider: a white disc ringed in blue that the user drags along the track.
+ *
+ * The slider creates it; an application reaches it only to look at where it stands. At rest it is
+ * 20 by 20 pixels, 5 pixels in from its logical position; while any mouse button is held it is 30
+ * by 30 about the same centre. Its logical x runs from 0 to maxX().
+ */
+class OLVWIDGETS_EXPORT SliderRound : public QWidget
+{
+public:
+    /**
+     * The knob of @p slider, which owns it. In a parent that is no OlvSlider it can be dragged all
+     * the same, and tells nobody.
+     */
+    explicit SliderRound(QWidget *slider);
+
+    /** The largest logical x of a drag, in the slider's coordinates: its width less 30 pixels. */
+    int maxX() const;
+    /** Sets the largest logical x; the knob stays where it is until the next drag. */
+    void setMaxX(int maxX);
+
+protected:
+    /** Draws the disc: white, with a ring 2 pixels wide. */
+    void paintEvent(QPaintEvent *event) override;
+    /** Any button: grows the knob about its centre and starts a drag. */
+    void mousePressEvent(QMouseEvent *event) override;
+    /**
+     * During a drag: moves the knob with the pointer, within 0 and maxX(), and hands the percentage
+     * to OlvSlider::setValue() whenever it differs from the one handed over last.
+     */
+    void mouseMoveEvent(QMouseEvent *event) override;
+    /** Any button: shrinks the knob about its centre and ends the drag. */
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    bool m_pressed = false;
+    int m_maxX = 0;
+    int m_progress = -1;
+    int m_pressX = 0;
+    int m_pressY = 0;
+    QPointer<OlvSlider> m_slider;
+};
+
+/**
+ * A horizontal slider: a flat blue track with a round knob that the user drags along it.
+ *
+ * The value is a percentage, an int from 0 to 100, kept in the dynamic property "progress" (int; 0
+ * at first). It is 30 pixels high and starts 200 wide. The second dynamic property, "SliderRound"
+ * (qulonglong), holds the address of the knob and is the library's own.
+ *
+ * Dragging changes the value silently, through setValue(), and emits nothing: read it with
+ * getValue() when it is wanted, or override setValue() to follow the drag. setValue() in turn
+ * stores the value and leaves the knob where it is.
+ *
+ * @code
+ * auto *volume = new OlvSlider(this);
+ * volume->resize(300, volume->height());
+ * connect(okButton, &QPushButton::clicked, this,
+ *         [=] { player->setVolume(volume->getValue().toInt()); });
+ * @endcode
+ *
+ * A drag to the far left gives exactly 0, to the far right exactly 100; between them the percentage
+ * is cut off towards 0. After a resize the knob keeps its place until the next drag brings it
+ * within the track. A slider exactly 30 pixels wide has room for 0 alone: it gives 0 until the
+ * pointer pulls to the right, then 100. In a narrower one the end of the track lies left of its
+ * start: a drag jumps to that end and gives 100, but for one still further to the left, which gives
+ * 0.
+ */
+class OLVWIDGETS_EXPORT OlvSlider : public OlvWidget
+{
+    Q_OBJECT
+
+public:
+    /** A slider at 0, 200 by 30 pixels, in @p parent, which owns it. */
+    explicit OlvSlider(QWidget *parent = nullptr);
+
+    /** The property "progress" as an int: 0 for what does not convert to one. */
+    QVariant getValue() override;
+    /**
+     * Stores @p value in the property "progress", as it stands and unchecked. Neither moves the
+     * knob nor repaints nor emits anything. The knob calls it for each new percentage of a drag.
+     */
+    void setValue(const QVariant &value) override;
+
+protected:
+    /** Draws the track: one bar in one colour, whatever the value. */
+    void paintEvent(QPaintEvent *event) override;
+    /** Sets how far the knob may go; neither moves it nor changes the value. */
+    void resizeEvent(QResizeEvent *event) override;
+};

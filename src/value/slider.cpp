@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/value.h>
+
+#include "foundation/childataddress_p.h"
+#include "value/slidermetrics_p.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int initialWidth = 200;
+constexpr int trackInset = 15;
+constexpr qreal trackTop = 10.0;
+constexpr qreal trackHeight = 10.0;
+constexpr qreal trackRadius = 5.0;
+
+constexpr char progressProperty[] = "progress";
+constexpr char knobProperty[] = "SliderRound";
+
+} // namespace
+
+OlvSlider::OlvSlider(QWidget *parent)
+    : OlvWidget(parent)
+{
+    OlvSlider::setValue(0);
+    setFixedHeight(SliderMetrics::height);
+    resize(initialWidth, SliderMetrics::height);
+
+    auto *knob = new SliderRound(this);
+    knob->setGeometry(SliderMetrics::knobInset, SliderMetrics::knobInset,
+                      SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
+    setProperty(knobProperty, reinterpret_cast<qulonglong>(knob));
+}
+
+QVariant OlvSlider::getValue()
+{
+    return property(progressProperty).toInt();
+}
+
+void OlvSlider::setValue(const QVariant &value)
+{
+    setProperty(progressProperty, value);
+}
+
+void OlvSlider::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(SliderMetrics::blue));
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(QRectF(trackInset, trackTop, width() - 2 * trackInset, trackHeight),
+                            trackRadius, trackRadius);
+}
+
+void OlvSlider::resizeEvent(QResizeEvent * /*event*/)
+{
+    if (auto *knob = childAtAddress<SliderRound>(this, property(knobProperty))) {
+        knob->setMaxX(width() - SliderMetrics::pressedKnobSize);
+    }
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/value.h>
+
+#include "value/slidermetrics_p.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int discInset = 2;
+constexpr qreal ringWidth = 2.0;
+constexpr int fullProgress = 100;
+
+} // namespace
+
+SliderRound::SliderRound(QWidget *slider)
+    : QWidget(slider)
+    , m_slider(dynamic_cast<OlvSlider *>(slider))
+{
+    if (slider) {
+        m_maxX = slider->width() - SliderMetrics::pressedKnobSize;
+    }
+}
+
+int SliderRound::maxX() const
+{
+    return m_maxX;
+}
+
+void SliderRound::setMaxX(int maxX)
+{
+    m_maxX = maxX;
+}
+
+void SliderRound::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::white);
+    painter.setPen(QPen(QColor(SliderMetrics::blue), ringWidth));
+    painter.drawEllipse(
+        QRect(discInset, discInset, width() - 2 * discInset, height() - 2 * discInset));
+}
+
+void SliderRound::mousePressEvent(QMouseEvent *event)
+{
+    setGeometry(x() - SliderMetrics::knobInset, 0, SliderMetrics::pressedKnobSize,
+                SliderMetrics::pressedKnobSize);
+    m_pressed = true;
+    m_pressY = qRound(event->localPos().y());
+    m_pressX = qRound(event->localPos().x());
+}
+
+void SliderRound::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_pressed) {
+        return;
+    }
+    // wide enough for any position that an event can carry
+    const qint64 newX = qint64(qRound(event->localPos().x())) - m_pressX + x();
+    int progress = 0;
+    if (newX > m_maxX) {
+        // a slider narrower than the knob ends left of its start: every drag ends here then
+        move(m_maxX, 0);
+        progress = fullProgress;
+    } else if (newX < 0) {
+        move(0, 0);
+    } else {
+        move(int(newX), 0);
+        // a slider as wide as the knob has room for 0 alone
+        progress = m_maxX > 0 ? int(newX * fullProgress / m_maxX) : 0;
+    }
+    if (progress == m_progress) {
+        return;
+    }
+    m_progress = progress;
+    if (m_slider) {
+        m_slider->setValue(progress);
+    }
+}
+
+void SliderRound::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    setGeometry(x() + SliderMetrics::knobInset, SliderMetrics::knobInset,
+                SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
+    m_pressed = false;
+}
