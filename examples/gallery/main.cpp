@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "gallerywindow.h"
+
+#include <OlvGlobal>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTextStream>
+
+int main(int argc, char **argv)
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("OlvWidgets gallery"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows every widget of the library, live, with its signals as they come."));
+    parser.addHelpOption();
+    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Open the page NAME."),
+                                  QStringLiteral("NAME"));
+    const QCommandLineOption screenshots(
+        QStringLiteral("screenshots"),
+        QStringLiteral("Write a PNG of every page to the folder DIR, and exit."),
+        QStringLiteral("DIR"));
+    parser.addOptions({ page, screenshots });
+    parser.process(application);
+
+    // "Font" and "fonts" lie beside the program, and the font job looks for them here; a folder
+    // that was named on the command line still means the one the user stood in
+    const QString pictures = QDir().absoluteFilePath(parser.value(screenshots));
+    QDir::setCurrent(QApplication::applicationDirPath());
+    OlvGlobal::init();
+
+    QTextStream errors(stderr);
+    GalleryWindow window;
+    if (parser.isSet(page) && !window.showPage(parser.value(page))) {
+        errors << "There is no page \"" << parser.value(page)
+               << "\". The pages are: " << window.pageNames().join(QStringLiteral(", ")) << '\n';
+        return 1;
+    }
+    window.show();
+    if (parser.isSet(screenshots)) {
+        if (!window.writePictures(pictures)) {
+            errors << "The pictures could not be written to " << pictures << '\n';
+            return 1;
+        }
+        return 0;
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+class Page;
+class QWidget;
+
+/** A page of the gallery: the name in the list, and what makes it. */
+struct PageEntry
+{
+    QString name;
+    Page *(*create)(QWidget *parent);
+};
+
+/** All pages, in the order of the list. */
+QVector<PageEntry> galleryPages();
+
+Page *createStartUpPage(QWidget *parent);
+Page *createSlidersPage(QWidget *parent);
