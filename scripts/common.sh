@@ -1,0 +1,52 @@
+# SPDX-License-Identifier: MIT
+# What the scripts beside this file share; to be sourced. Sets `root`, the project's folder.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# Qt needs a locale whose character set has the widgets' Chinese texts.
+export LC_ALL=${LC_ALL:-C.UTF-8}
+
+build_packages=(
+    cmake g++ make ninja-build pkg-config qtbase5-dev qt5-qmake
+    fonts-font-awesome fonts-wqy-zenhei fonts-dejavu-core
+)
+display_packages=(xvfb openbox x11-utils)
+test_packages=(
+    "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev
+    libxcb-keysyms1-dev
+)
+
+fail() {
+    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 1
+}
+
+# install_packages PACKAGE...: installs those of the Debian packages that are missing.
+install_packages() {
+    local package missing=()
+    for package in "$@"; do
+        if ! dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed; then
+            missing+=("$package")
+        fi
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null ||
+            fail "these Debian packages are missing, and installing them takes root or sudo:
+    apt-get install ${missing[*]}"
+        as_root=(sudo)
+    fi
+    printf 'Installing: %s\n' "${missing[*]}"
+    # an old package list may name versions that the archive no longer has
+    "${as_root[@]}" apt-get update -q || fail "apt-get update failed; needed: ${missing[*]}"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "${missing[@]}" ||
+        fail "apt-get could not install: ${missing[*]}"
+}
+
+# build_preset PRESET: configures and builds build/PRESET.
+build_preset() {
+    (cd "$root" && cmake --preset "$1" && cmake --build --preset "$1") ||
+        fail "the build failed (preset $1)"
+}
