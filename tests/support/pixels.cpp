@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "pixels.h"
+
+#include <QPainter>
+
+#include <utility>
+
+DrawnWidget::DrawnWidget(QSize size, Draw draw)
+    : m_draw(std::move(draw))
+{
+    resize(size);
+}
+
+void DrawnWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    m_draw(painter);
+}
+
+QImage pictureOf(QWidget &widget, qreal devicePixelRatio)
+{
+    QImage image(widget.size() * devicePixelRatio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+QByteArray difference(const QImage &actual, const QImage &expected)
+{
+    if (actual.size() != expected.size() || actual.isNull()) {
+        return QStringLiteral("the pictures are %1 x %2 and %3 x %4 pixels large")
+            .arg(actual.width())
+            .arg(actual.height())
+            .arg(expected.width())
+            .arg(expected.height())
+            .toUtf8();
+    }
+    int count = 0;
+    QString first;
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x) {
+            if (actual.pixel(x, y) != expected.pixel(x, y) && count++ == 0) {
+                first = QStringLiteral("at (%1, %2) #%3 instead of #%4")
+                            .arg(x)
+                            .arg(y)
+                            .arg(actual.pixel(x, y), 8, 16, QLatin1Char('0'))
+                            .arg(expected.pixel(x, y), 8, 16, QLatin1Char('0'));
+            }
+        }
+    }
+    return count == 0
+        ? QByteArray()
+        : QStringLiteral("%1 pixels differ, the first %2").arg(count).arg(first).toUtf8();
+}
