@@ -28,6 +28,6 @@ OlvAutoDestroy::~OlvAutoDestroy() noexcept(false)
 void OlvAutoDestroy::addDestroy(std::function<void()> callable)
 {
     if (SINGLEGLOBAL) {
-        SINGLEGLOBAL->m_list.append(std::move(callable));
+        SINGLEGLOBAL->m_list.append(callable);
     }
 }

@@ -6,6 +6,9 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
 #include <thread>
 
 // Created first, so that it exists for whatever the library's other statics might do.
@@ -30,18 +33,74 @@ QString fontKey(const QString &fileName)
                                           : QString();
 }
 
+/**
+ * The font jobs under way. A job uses what the application's end takes down, so that a program
+ * which leaves while one is running has to wait for it; the results themselves are plain stores.
+ */
+class FontJobs
+{
+public:
+    ~FontJobs()
+    {
+        endAll();
+    }
+
+    static FontJobs &instance()
+    {
+        static FontJobs jobs;
+        return jobs;
+    }
+
+    void begin()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        ++m_running;
+    }
+
+    void end()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        --m_running;
+        m_ended.notify_all();
+    }
+
+    bool mustStop()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_stopping;
+    }
+
+    /** Has every job stop at its next file, and waits for that. */
+    void endAll()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_stopping = true;
+        // a file that cannot be read to its end must not keep the program from ending
+        m_ended.wait_for(lock, std::chrono::seconds(5), [this] { return m_running == 0; });
+        m_stopping = false;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_ended;
+    int m_running = 0;
+    bool m_stopping = false;
+};
+
 void registerFonts()
 {
     const QStringList names = OlvGlobal::getFiles(QStringLiteral("Font"));
     for (const QString &name : names) {
+        if (FontJobs::instance().mustStop()) {
+            return;
+        }
         const int id = QFontDatabase::addApplicationFont(QLatin1String("fonts/") + name);
         OlvGlobal::OlvPluginFonts.insert(fontKey(name), id);
     }
 }
 
-void runFontJob()
+void measureScreen()
 {
-    registerFonts();
     const QScreen *screen = QGuiApplication::primaryScreen();
     if (!screen) {
         return;
@@ -53,10 +112,27 @@ void runFontJob()
     OlvGlobal::DPI = dotsPerInch / referenceDotsPerInch;
 }
 
+void runFontJob()
+{
+    registerFonts();
+    if (!FontJobs::instance().mustStop()) {
+        measureScreen();
+    }
+    FontJobs::instance().end();
+}
+
 } // namespace
 
 void OlvGlobal::init()
 {
+    // Qt has no fonts to add to before, and registering some would end the program
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        return;
+    }
+    // has Qt make its font database's statics now: what is made before the jobs outlives them
+    QFontDatabase::applicationFontFamilies(firstFontId);
+    FontJobs::instance().begin();
+    qAddPostRoutine([] { FontJobs::instance().endAll(); });
     std::thread(runFontJob).detach();
 }
 
