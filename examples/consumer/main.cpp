@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// The smallest program on the installed package: shows a slider, or with --check reports what it
+// holds and leaves.
+#include <OlvSlider>
+#include <OlvWidgets/OlvGlobal>
+#include <OlvWidgets/OlvWidgets>
+#include <OlvWidgets/value.h>
+
+#include <QApplication>
+#include <QTextStream>
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    OlvGlobal::init();
+
+    OlvSlider slider;
+    slider.setValue(42);
+    slider.show();
+    if (application.arguments().contains(QStringLiteral("--check"))) {
+        QTextStream(stdout) << "slider at " << slider.getValue().toInt() << '\n';
+        return 0;
+    }
+    return application.exec();
+}
