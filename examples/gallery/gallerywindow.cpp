@@ -47,7 +47,8 @@ GalleryWindow::GalleryWindow(QWidget *parent)
         "QListWidget::item:hover { background: rgb(236,240,246); }"
         "QListWidget::item:selected { background: rgb(236,245,255); color: rgb(64,158,255); }"));
 
-    for (const PageEntry &entry : galleryPages()) {
+    const QVector<PageEntry> entries = galleryPages();
+    for (const PageEntry &entry : entries) {
         m_names->addItem(entry.name);
         m_pages->addWidget(entry.create(m_pages));
     }
@@ -86,7 +87,8 @@ bool GalleryWindow::writePictures(const QString &directory)
     if (!QDir().mkpath(directory)) {
         return false;
     }
-    for (const QString &name : pageNames()) {
+    const QStringList names = pageNames();
+    for (const QString &name : names) {
         showPage(name);
         settle();
         const QString file = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));

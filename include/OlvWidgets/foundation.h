@@ -3,9 +3,14 @@
 
 #include <OlvWidgets/olvwidgets_export.h>
 
+#include <QChar>
+#include <QColor>
+#include <QEvent>
 #include <QFont>
 #include <QHash>
 #include <QList>
+#include <QObject>
+#include <QRgb>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -14,8 +19,27 @@
 
 /**
  * @file foundation.h
- * Start-up and fonts, and the small utilities that widgets and applications share.
+ * Start-up and fonts, text fitting, colour strings, the listener filter, and the small utilities that
+ * widgets and applications share.
  */
+
+/**
+ * The colour string of @p color: its red, green and blue channels (0 to 255) in decimal, joined by
+ * commas without spaces, as in "236,245,255". The alpha channel is not carried.
+ */
+OLVWIDGETS_EXPORT QString OlvColorToString(QColor color);
+
+/** The channels of @p color in one number, as qRgba() packs them: 0xAARRGGBB. */
+OLVWIDGETS_EXPORT QRgb OlvColorToRgb(QColor color);
+
+/**
+ * The opaque colour that a colour string names, as OlvColorToString() writes it.
+ *
+ * A part that is no decimal integer, and a part that is missing, is 0; white space around a number is
+ * ignored, and so is everything after the third part. A number outside 0 to 255 gives an invalid
+ * colour, with a warning of QColor's.
+ */
+OLVWIDGETS_EXPORT QColor OlvColorFromString(QString text);
 
 /**
  * An integer that wraps round within a range when it is incremented.
@@ -137,7 +161,52 @@ public:
 };
 
 /**
- * Start-up services: the fonts that an application ships, and the primary screen's measures.
+ * Lets an object react to the events of others with callables, in place of a subclass.
+ *
+ * One filter watches one or more objects and holds at most one listener for each type of event, for
+ * all of them alike: a listener is not told which object the event was meant for. An event that has a
+ * listener is consumed by it and never reaches the object; every other event goes its way.
+ *
+ * @code
+ * auto *filter = new OlvPluginEventFilter(label);
+ * filter->addEventListener(QEvent::MouseButtonRelease, [=](QEvent *) { openLink(); });
+ * @endcode
+ *
+ * There is no way to remove a listener or to stop watching an object but to destroy the filter.
+ */
+class OLVWIDGETS_EXPORT OlvPluginEventFilter : public QObject
+{
+public:
+    /**
+     * A filter without listeners that watches @p parent, which owns it. Without a parent it watches
+     * nothing until addObject() is called, and belongs to the caller.
+     */
+    explicit OlvPluginEventFilter(QObject *parent = nullptr);
+    /** Stops watching, and lets go of the listeners. */
+    ~OlvPluginEventFilter() override;
+
+    /**
+     * Watches @p object as well; it stays its owner's. A null object is ignored, and so is one that
+     * lives on another thread, with a warning of Qt's.
+     */
+    void addObject(QObject *object);
+    /**
+     * Has @p listener called with each event of @p type that comes to a watched object, in place of
+     * the listener that this type had before. An empty one leaves the type without a listener. A
+     * listener may replace itself, and may destroy the filter or the object.
+     */
+    void addEventListener(QEvent::Type type, std::function<void(QEvent *)> listener);
+
+    /** Calls the listener for the event's type and returns true; false where there is none. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QHash<QEvent::Type, std::function<void(QEvent *)>> m_listeners;
+};
+
+/**
+ * Start-up services, the fonts that an application ships and the primary screen's measures, and the
+ * fitting of text into boxes.
  *
  * Call init() once, early, after the QGuiApplication exists; it registers the font files on a
  * thread of its own. Whatever needs those fonts or measures waits for isReady():
@@ -194,6 +263,43 @@ public:
      * size.
      */
     static QFont getFont(QString key, int pointSize);
+
+    /**
+     * How many characters at the end of @p text belong with @p next, the character that follows it:
+     * the length of the run of letters (A to Z and a to z, of either case) where @p next is one, of
+     * digits (0 to 9) where it is one, and 0 for every other character. Letters and digits are the
+     * ASCII ones alone.
+     */
+    static int rightDocumentLine(const QString &text, const QChar &next);
+    /**
+     * How many characters at the start of @p text fit into @p width pixels: as many as have a sum of
+     * advances below it. The advances are those of the single characters, without kerning. A width of
+     * 0 or less fits none.
+     */
+    static int accommodate(const QString &text, int width, const QFont &font);
+    /**
+     * The size of @p text in pixels: the widths of its lines, which newlines separate, added up, by
+     * one line spacing for each line, empty ones included.
+     */
+    static QSize autoSize(const QString &text, const QFont &font);
+    /**
+     * How many lines @p text takes when it is wrapped at @p width pixels.
+     *
+     * A line takes the characters that accommodate() says; a run of letters or of digits that would
+     * be split is carried over whole to the next line, and a space that does not fit starts the next
+     * line. A run that is wider than a line is split after all, and a line always takes at least one
+     * character. A newline starts a new line, but an empty line counts as none.
+     */
+    static int adaptDocumentOfLine(QString text, int width, const QFont &font);
+    /** The height in pixels of @p text wrapped at @p width pixels: its lines by the line spacing. */
+    static int adaptDocumentHeight(const QString &text, int width, const QFont &font);
+    /**
+     * The largest point size, not above that of @p font, at which @p text wrapped at the width of
+     * @p box is no higher than it: at least 1, whether that fits or not. A text that fits as it is
+     * gives QFont::pointSize(), which is -1 for a font sized in pixels; one that does not fit is then
+     * tried from the point size that comes nearest to those pixels downwards.
+     */
+    static int adaptDocumentToPointSize(const QString &text, const QSize &box, QFont font);
 
     /** Font key to the id that QFontDatabase::addApplicationFont() returned, -1 for a bad file. */
     static QHash<QString, int> OlvPluginFonts;

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/foundation.h>
+
+#include <QFontInfo>
+#include <QFontMetrics>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+constexpr int smallestPointSize = 1;
+constexpr QLatin1Char newline('\n');
+
+/** A length in pixels; one that no int holds becomes the largest that an int holds. */
+int toInt(qint64 length)
+{
+    return int(qMin<qint64>(length, std::numeric_limits<int>::max()));
+}
+
+/** The advances of single characters, each measured once: a wrapped text asks for them many times.
+ */
+class Advances
+{
+public:
+    explicit Advances(const QFont &font)
+        : m_metrics(font)
+    {
+        m_latin1.fill(unknown);
+    }
+
+    int of(QChar character)
+    {
+        const ushort code = character.unicode();
+        if (code >= m_latin1.size()) {
+            auto found = m_others.constFind(code);
+            if (found == m_others.cend()) {
+                found = m_others.insert(code, m_metrics.horizontalAdvance(character));
+            }
+            return *found;
+        }
+        int &advance = m_latin1[code];
+        if (advance == unknown) {
+            advance = m_metrics.horizontalAdvance(character);
+        }
+        return advance;
+    }
+
+    int lineSpacing() const
+    {
+        return m_metrics.lineSpacing();
+    }
+
+private:
+    static constexpr int unknown = std::numeric_limits<int>::min();
+
+    QFontMetrics m_metrics;
+    std::array<int, 256> m_latin1;
+    QHash<ushort, int> m_others;
+};
+
+bool isDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+bool isLetter(QChar character)
+{
+    return (character >= QLatin1Char('a') && character <= QLatin1Char('z'))
+        || (character >= QLatin1Char('A') && character <= QLatin1Char('Z'));
+}
+
+/** The length of the run before @p end, not beyond @p begin, of the class that @p next is of. */
+int runBefore(const QChar *begin, const QChar *end, QChar next)
+{
+    const auto isOfClass = isDigit(next) ? isDigit : isLetter;
+    if (!isOfClass(next)) {
+        return 0;
+    }
+    const QChar *start = end;
+    while (start != begin && isOfClass(*(start - 1))) {
+        --start;
+    }
+    return int(end - start);
+}
+
+int fittingCharacters(const QChar *begin, const QChar *end, int width, Advances &advances)
+{
+    qint64 sum = 0;
+    for (const QChar *character = begin; character != end; ++character) {
+        sum += advances.of(*character);
+        if (sum >= width) {
+            return int(character - begin);
+        }
+    }
+    return int(end - begin);
+}
+
+/** How many characters of a text without newlines the next line takes: at least one. */
+int charactersOfLine(const QChar *begin, const QChar *end, int width, Advances &advances)
+{
+    const int fitting = fittingCharacters(begin, end, width, advances);
+    if (begin + fitting == end) {
+        return fitting;
+    }
+    const int carried = runBefore(begin, begin + fitting, begin[fitting]);
+    // a run as long as the line cannot be carried over: it would never end
+    return qMax(carried < fitting ? fitting - carried : fitting, 1);
+}
+
+/** The wrapped lines of @p text; counting stops once there are more than @p most. */
+int wrappedLines(const QString &text, int width, Advances &advances,
+                 int most = std::numeric_limits<int>::max())
+{
+    const QChar *const end = text.constData() + text.size();
+    const QChar *position = text.constData();
+    int lines = 0;
+    while (position != end && lines <= most) {
+        const QChar *const paragraphEnd = std::find(position, end, newline);
+        while (position != paragraphEnd && lines <= most) {
+            position += charactersOfLine(position, paragraphEnd, width, advances);
+            ++lines;
+        }
+        if (position != end && position == paragraphEnd) {
+            ++position; // the newline itself
+        }
+    }
+    return lines;
+}
+
+bool fits(const QString &text, const QSize &box, const QFont &font)
+{
+    if (box.height() < 0) {
+        return false;
+    }
+    Advances advances(font);
+    const int most = box.height() / qMax(advances.lineSpacing(), 1);
+    return wrappedLines(text, box.width(), advances, most) <= most;
+}
+
+} // namespace
+
+int OlvGlobal::rightDocumentLine(const QString &text, const QChar &next)
+{
+    return runBefore(text.constData(), text.constData() + text.size(), next);
+}
+
+int OlvGlobal::accommodate(const QString &text, int width, const QFont &font)
+{
+    Advances advances(font);
+    return fittingCharacters(text.constData(), text.constData() + text.size(), width, advances);
+}
+
+QSize OlvGlobal::autoSize(const QString &text, const QFont &font)
+{
+    const QFontMetrics metrics(font);
+    const QStringList lines = text.split(newline);
+    qint64 width = 0;
+    for (const QString &line : lines) {
+        width += metrics.horizontalAdvance(line);
+    }
+    return QSize(toInt(width), toInt(qint64(lines.size()) * metrics.lineSpacing()));
+}
+
+int OlvGlobal::adaptDocumentOfLine(QString text, int width, const QFont &font)
+{
+    Advances advances(font);
+    return wrappedLines(text, width, advances);
+}
+
+int OlvGlobal::adaptDocumentHeight(const QString &text, int width, const QFont &font)
+{
+    return toInt(qint64(adaptDocumentOfLine(text, width, font)) * QFontMetrics(font).lineSpacing());
+}
+
+int OlvGlobal::adaptDocumentToPointSize(const QString &text, const QSize &box, QFont font)
+{
+    if (fits(text, box, font)) {
+        return font.pointSize();
+    }
+    // a font sized in pixels has no point size to start below
+    int pointSize = font.pointSize() > 0 ? font.pointSize() - 1 : QFontInfo(font).pointSize();
+    for (; pointSize > smallestPointSize; --pointSize) {
+        font.setPointSize(pointSize);
+        if (fits(text, box, font)) {
+            return pointSize;
+        }
+    }
+    return smallestPointSize;
+}
