@@ -19,8 +19,8 @@
 
 /**
  * @file foundation.h
- * Start-up and fonts, text fitting, colour strings, the listener filter, and the small utilities that
- * widgets and applications share.
+ * Start-up and fonts, text fitting, colour strings, the listener filter, and the small utilities
+ * that widgets and applications share.
  */
 
 /**
@@ -35,8 +35,8 @@ OLVWIDGETS_EXPORT QRgb OlvColorToRgb(QColor color);
 /**
  * The opaque colour that a colour string names, as OlvColorToString() writes it.
  *
- * A part that is no decimal integer, and a part that is missing, is 0; white space around a number is
- * ignored, and so is everything after the third part. A number outside 0 to 255 gives an invalid
+ * A part that is no decimal integer, and a part that is missing, is 0; white space around a number
+ * is ignored, and so is everything after the third part. A number outside 0 to 255 gives an invalid
  * colour, with a warning of QColor's.
  */
 OLVWIDGETS_EXPORT QColor OlvColorFromString(QString text);
@@ -164,8 +164,8 @@ public:
  * Lets an object react to the events of others with callables, in place of a subclass.
  *
  * One filter watches one or more objects and holds at most one listener for each type of event, for
- * all of them alike: a listener is not told which object the event was meant for. An event that has a
- * listener is consumed by it and never reaches the object; every other event goes its way.
+ * all of them alike: a listener is not told which object the event was meant for. An event that has
+ * a listener is consumed by it and never reaches the object; every other event goes its way.
  *
  * @code
  * auto *filter = new OlvPluginEventFilter(label);
@@ -272,9 +272,9 @@ public:
      */
     static int rightDocumentLine(const QString &text, const QChar &next);
     /**
-     * How many characters at the start of @p text fit into @p width pixels: as many as have a sum of
-     * advances below it. The advances are those of the single characters, without kerning. A width of
-     * 0 or less fits none.
+     * How many characters at the start of @p text fit into @p width pixels: as many as have a sum
+     * of advances below it. The advances are those of the single characters, without kerning. A
+     * width of 0 or less fits none.
      */
     static int accommodate(const QString &text, int width, const QFont &font);
     /**
@@ -286,18 +286,19 @@ public:
      * How many lines @p text takes when it is wrapped at @p width pixels.
      *
      * A line takes the characters that accommodate() says; a run of letters or of digits that would
-     * be split is carried over whole to the next line, and a space that does not fit starts the next
-     * line. A run that is wider than a line is split after all, and a line always takes at least one
-     * character. A newline starts a new line, but an empty line counts as none.
+     * be split is carried over whole to the next line, and a space that does not fit starts the
+     * next line. A run that is wider than a line is split after all, and a line always takes at
+     * least one character. A newline starts a new line, but an empty line counts as none.
      */
     static int adaptDocumentOfLine(QString text, int width, const QFont &font);
-    /** The height in pixels of @p text wrapped at @p width pixels: its lines by the line spacing. */
+    /** The height in pixels of @p text wrapped at @p width pixels: its lines by the line spacing.
+     */
     static int adaptDocumentHeight(const QString &text, int width, const QFont &font);
     /**
      * The largest point size, not above that of @p font, at which @p text wrapped at the width of
      * @p box is no higher than it: at least 1, whether that fits or not. A text that fits as it is
-     * gives QFont::pointSize(), which is -1 for a font sized in pixels; one that does not fit is then
-     * tried from the point size that comes nearest to those pixels downwards.
+     * gives QFont::pointSize(), which is -1 for a font sized in pixels; one that does not fit is
+     * then tried from the point size that comes nearest to those pixels downwards.
      */
     static int adaptDocumentToPointSize(const QString &text, const QSize &box, QFont font);
 

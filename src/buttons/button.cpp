@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/buttons.h>
+#include <OlvWidgets/foundation.h>
+
+#include "buttons/palette_p.h"
+
+#include <QPainter>
+#include <QPointer>
+
+#include <utility>
+
+namespace {
+
+constexpr char checkedProperty[] = "isChecked";
+constexpr char checkableProperty[] = "isCheckable";
+constexpr char valueProperty[] = "value";
+constexpr char typeProperty[] = "type";
+constexpr char colorProperty[] = "color";
+constexpr char stateProperty[] = "state";
+constexpr char hoveredProperty[] = "hovered";
+constexpr char contentProperty[] = "content";
+
+constexpr qreal borderWidth = 2.0;
+constexpr int roundRadiusDivisor = 2;
+constexpr int radiusDivisor = 5;
+constexpr int captionPointSize = 9;
+
+QString restingState()
+{
+    return QStringLiteral("init");
+}
+
+QString hoverState()
+{
+    return QStringLiteral("hover");
+}
+
+QString pressedState()
+{
+    return QStringLiteral("click");
+}
+
+/** What the properties say about the look. */
+struct Look
+{
+    QString state;
+    QString type;
+    bool checked;
+
+    bool isResting() const
+    {
+        return state == restingState() && !checked;
+    }
+    bool isPlain() const
+    {
+        return type == QLatin1String("plain");
+    }
+};
+
+QPen borderPen(const Look &look, const ButtonPalette &palette)
+{
+    if (look.isResting() && look.isPlain()) {
+        return QPen(QColor(palette[ButtonPalette::RestingPlainBorder]), borderWidth);
+    }
+    return Qt::NoPen;
+}
+
+QColor fillColor(const Look &look, const ButtonPalette &palette)
+{
+    if (look.isResting()) {
+        return palette[look.isPlain() ? ButtonPalette::RestingPlainFill : ButtonPalette::Fill];
+    }
+    if (look.state == hoverState()) {
+        return palette[look.isPlain() ? ButtonPalette::Fill : ButtonPalette::HoverFill];
+    }
+    return palette[ButtonPalette::PressedFill];
+}
+
+QColor captionColor(const Look &look, const ButtonPalette &palette)
+{
+    return look.isResting() && look.isPlain() ? QColor(palette[ButtonPalette::Fill])
+                                              : QColor(Qt::white);
+}
+
+} // namespace
+
+OlvButton::OlvButton(QWidget *parent)
+    : OlvWidget(parent)
+{
+    setProperty(checkedProperty, false);
+    setProperty(checkableProperty, false);
+    setProperty(valueProperty, false);
+    setProperty(typeProperty, QString());
+    setProperty(colorProperty, QStringLiteral("primary"));
+    setProperty(stateProperty, restingState());
+    setProperty(hoveredProperty, false);
+}
+
+OlvButton::OlvButton(QString text, QWidget *parent)
+    : OlvButton(parent)
+{
+    setText(text);
+}
+
+OlvButton *OlvButton::setOlvStyle(QString color, QString type)
+{
+    setProperty(typeProperty, type);
+    setProperty(colorProperty, color);
+    update();
+    return this;
+}
+
+void OlvButton::setColor(QStringList shades)
+{
+    setCustomButtonShades(std::move(shades));
+}
+
+void OlvButton::setText(QString text)
+{
+    setProperty(contentProperty, text);
+    update();
+}
+
+void OlvButton::setChecked(bool checked)
+{
+    setProperty(checkedProperty, checked);
+    update();
+}
+
+bool OlvButton::isChecked()
+{
+    return property(checkedProperty).toBool();
+}
+
+void OlvButton::setCheckable(bool checkable)
+{
+    setProperty(checkableProperty, checkable);
+}
+
+bool OlvButton::isCheckable()
+{
+    return property(checkableProperty).toBool();
+}
+
+void OlvButton::setValue(const QVariant &value)
+{
+    setProperty(valueProperty, value);
+}
+
+QVariant OlvButton::getValue()
+{
+    return property(valueProperty).toBool();
+}
+
+void OlvButton::click(bool checked)
+{
+    const QPointer<OlvButton> self(this);
+    Q_EMIT clicked();
+    // read after the emission: a slot may have changed either, or deleted the button
+    if (self && isCheckable() && isChecked() != checked) {
+        setCheckedByClick(checked);
+    }
+}
+
+void OlvButton::mousePressEvent(QMouseEvent * /*event*/)
+{
+    setState(pressedState());
+}
+
+void OlvButton::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    if (!property(hoveredProperty).toBool()) {
+        setState(restingState());
+        return;
+    }
+    setState(hoverState());
+    const QPointer<OlvButton> self(this);
+    Q_EMIT clicked();
+    if (self && isCheckable()) {
+        setCheckedByClick(!isChecked());
+    }
+}
+
+void OlvButton::enterEvent(QEvent * /*event*/)
+{
+    setProperty(hoveredProperty, true);
+    setState(hoverState());
+}
+
+void OlvButton::leaveEvent(QEvent * /*event*/)
+{
+    setProperty(hoveredProperty, false);
+    if (property(stateProperty).toString() != pressedState()) {
+        setProperty(stateProperty, restingState());
+    }
+    update();
+}
+
+void OlvButton::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const ButtonPalette &palette = buttonPalette(property(colorProperty).toString());
+    const Look look{ property(stateProperty).toString(), property(typeProperty).toString(),
+                     property(checkedProperty).toBool() };
+
+    painter.setPen(borderPen(look, palette));
+    painter.setBrush(fillColor(look, palette));
+    const int radius =
+        height() / (look.type == QLatin1String("round") ? roundRadiusDivisor : radiusDivisor);
+    // not drawn further in for the border: half of it is clipped, which makes it look thin
+    painter.drawRoundedRect(QRectF(0, 0, width(), height()), radius, radius);
+
+    const QString content = property(contentProperty).toString();
+    if (content.isEmpty()) {
+        return;
+    }
+    painter.setPen(captionColor(look, palette));
+    QFont font(QStringLiteral("宋体"), captionPointSize);
+    font.setPointSize(OlvGlobal::adaptDocumentToPointSize(content, size(), font));
+    painter.setFont(font);
+    painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, content);
+}
+
+void OlvButton::setState(const QString &state)
+{
+    setProperty(stateProperty, state);
+    update();
+}
+
+void OlvButton::setCheckedByClick(bool checked)
+{
+    setChecked(checked);
+    Q_EMIT toggled(checked);
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "buttons/palette_p.h"
+
+#include <utility>
+
+namespace {
+
+constexpr ButtonPalette primary{ { qRgb(236, 245, 255), qRgb(179, 216, 255), qRgb(102, 177, 255),
+                                   qRgb(64, 158, 255), qRgb(58, 142, 230) } };
+constexpr ButtonPalette success{ { qRgb(240, 249, 235), qRgb(194, 231, 176), qRgb(133, 206, 97),
+                                   qRgb(103, 194, 58), qRgb(93, 175, 52) } };
+constexpr ButtonPalette warning{ { qRgb(253, 246, 236), qRgb(245, 218, 177), qRgb(235, 181, 99),
+                                   qRgb(230, 162, 60), qRgb(207, 146, 54) } };
+constexpr ButtonPalette danger{ { qRgb(254, 240, 240), qRgb(251, 196, 196), qRgb(247, 137, 137),
+                                  qRgb(245, 108, 108), qRgb(221, 97, 97) } };
+
+constexpr int shadeCount = 5;
+
+// The shades of applications, the primary ones at first. No scheme reads them: a button of an
+// unknown scheme is red, so that a mistyped name shows.
+QStringList customShades{ QStringLiteral("236,245,255"), QStringLiteral("179,216,255"),
+                          QStringLiteral("102,177,255"), QStringLiteral("64,158,255"),
+                          QStringLiteral("58,142,230") };
+
+} // namespace
+
+const ButtonPalette &buttonPalette(const QString &color)
+{
+    if (color == QLatin1String("primary")) {
+        return primary;
+    }
+    if (color == QLatin1String("success")) {
+        return success;
+    }
+    if (color == QLatin1String("warning")) {
+        return warning;
+    }
+    return danger;
+}
+
+void setCustomButtonShades(QStringList shades)
+{
+    if (shades.size() >= shadeCount) {
+        customShades = std::move(shades);
+    }
+}
