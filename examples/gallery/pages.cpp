@@ -5,6 +5,9 @@ QVector<PageEntry> galleryPages()
 {
     return {
         { QStringLiteral("Start-up"), createStartUpPage },
+        { QStringLiteral("Buttons"), createButtonsPage },
+        { QStringLiteral("Text fitting"), createTextFittingPage },
+        { QStringLiteral("Switches"), createSwitchesPage },
         { QStringLiteral("Sliders"), createSlidersPage },
     };
 }

@@ -18,4 +18,7 @@ struct PageEntry
 QVector<PageEntry> galleryPages();
 
 Page *createStartUpPage(QWidget *parent);
+Page *createButtonsPage(QWidget *parent);
+Page *createTextFittingPage(QWidget *parent);
+Page *createSwitchesPage(QWidget *parent);
 Page *createSlidersPage(QWidget *parent);

@@ -30,10 +30,12 @@
  * | "content"     | string | not set   | the caption                                              |
  *
  * Writing one directly repaints nothing: call update(). Any mouse button clicks it. A press that is
- * dragged out keeps the pressed look; released outside it is cancelled, released inside again it
- * counts. The caption is drawn at 9 points, or at the largest size below at which it would fit into
- * the button if it were wrapped (OlvGlobal::adaptDocumentToPointSize()); it is not wrapped, and
- * what does not fit is cut off on both sides.
+ * dragged out keeps the pressed look; once the button has been told that the pointer left,
+ * releasing it cancels the click, unless the pointer came in again. (On X11, Qt 5.15 tells a widget
+ * so only after the release: there a press that is released outside counts.) The caption is drawn
+ * at 9 points, or at the largest size below at which it would fit into the button if it were
+ * wrapped (OlvGlobal::adaptDocumentToPointSize()); it is not wrapped, and what does not fit is cut
+ * off on both sides.
  *
  * @code
  * auto *save = new OlvButton(tr("Save"), this);

@@ -4,6 +4,7 @@
 #include <OlvWidgets/olvwidgets_export.h>
 #include <OlvWidgets/widget.h>
 
+#include <QColor>
 #include <QPointer>
 
 /**
@@ -102,4 +103,108 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     /** Sets how far the knob may go; neither moves it nor changes the value. */
     void resizeEvent(QResizeEvent *event) override;
+};
+
+/**
+ * The knob of an OlvSwitch: a disc that slides from one end of the track to the other.
+ *
+ * The switch creates and moves it; an application reaches it only to look at where it stands.
+ */
+class OLVWIDGETS_EXPORT SwitchRound : public QWidget
+{
+public:
+    /** A white knob in @p parent, which owns it, with an inset of a tenth of its own height. */
+    explicit SwitchRound(QWidget *parent = nullptr);
+
+    /** The colour of the disc. */
+    QColor color() const;
+    /** Sets the colour of the disc; repaints nothing. */
+    void setColor(const QColor &color);
+    /** The margin between the knob's edge and the disc, in pixels. */
+    int inset() const;
+    /** Sets the margin between the knob's edge and the disc; repaints nothing. */
+    void setInset(int inset);
+
+protected:
+    /** Draws the disc, as wide as the knob is high less the inset on both sides. */
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QColor m_color;
+    int m_inset;
+};
+
+/**
+ * An on/off switch: a track whose colour shows the state, with a round knob that slides to the
+ * other end when the user clicks it.
+ *
+ * The value is a bool. A click of any mouse button, or setValue(), starts an animation of five
+ * steps 50 milliseconds apart: four move the knob a fifth of its travel each, the fifth brings it
+ * to the end, flips the value and emits valueChanged() and then changed(), about 250 milliseconds
+ * after the click. Until then the value is the old one; once the first step is done, clicks are
+ * ignored until the last. A second start before the first step is not held back: the switch then
+ * goes on to flip back and forth, so call setValue() once.
+ *
+ * Its state lies in dynamic properties, which applications may read:
+ *
+ * | property     | type      | at first       | meaning                                           |
+ * |--------------|-----------|----------------|---------------------------------------------------|
+ * | "switch"     | bool      | false          | the value                                         |
+ * | "moveCount"  | int       | 0              | the animation's step, 0 at rest                   |
+ * | "moveWidth"  | double    |                | pixels of a step: (width - height) / 5            |
+ * | "timerId"    | int       | not set        | the animation's timer                             |
+ * | "interval"   | int       | 2              | not used                                          |
+ * | "openColor"  | string    | "220,223,230"  | colour string of the track while it is off        |
+ * | "closeColor" | string    | "19,206,102"   | colour string of the track while it is on         |
+ * | "round"      | qulonglong |               | the address of the knob; the library's own        |
+ *
+ * The knob keeps its place when the switch is resized, until the next animation. Mouse releases,
+ * resizes and timer events are handled by listeners that consume them: a subclass does not get its
+ * mouseReleaseEvent(), resizeEvent() and timerEvent().
+ *
+ * @code
+ * auto *wifi = new OlvSwitch(this);
+ * wifi->resize(50, 24);
+ * wifi->setValue(true);
+ * connect(wifi, &OlvSwitch::changed, radio, &Radio::setEnabled);
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvSwitch : public OlvWidget
+{
+    Q_OBJECT
+
+public:
+    /** A switch that is off, in @p parent, which owns it. */
+    explicit OlvSwitch(QWidget *parent = nullptr);
+
+    /** The property "switch": the old value while the animation runs. */
+    QVariant getValue() override;
+    /**
+     * Starts the animation towards @p value as a bool; nothing when the switch stands so already.
+     * At its end valueChanged() and then changed() are emitted.
+     */
+    void setValue(const QVariant &value) override;
+
+    /** Sets the colour of the track while the switch is off, without its alpha; repaints nothing.
+     */
+    void setColorOpen(QColor color);
+    /** Sets the colour of the track while the switch is on, without its alpha; repaints nothing. */
+    void setColorClose(QColor color);
+    /** Sets the colour of the knob, and repaints the knob. */
+    void setColorRound(QColor color);
+
+Q_SIGNALS:
+    /** The switch has come to stand on or off; emitted after valueChanged(). */
+    void changed(bool);
+
+protected:
+    /** Draws the track in the colour of its state. */
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    SwitchRound *knob() const;
+    void fitKnob();
+    void toggle();
+    void step();
+    void finish(bool on);
 };

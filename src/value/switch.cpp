@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/foundation.h>
+#include <OlvWidgets/value.h>
+
+#include "foundation/childataddress_p.h"
+
+#include <QPainter>
+#include <QPointer>
+#include <QtMath>
+
+namespace {
+
+constexpr char switchProperty[] = "switch";
+constexpr char moveCountProperty[] = "moveCount";
+constexpr char moveWidthProperty[] = "moveWidth";
+constexpr char timerIdProperty[] = "timerId";
+constexpr char intervalProperty[] = "interval";
+constexpr char openColorProperty[] = "openColor";
+constexpr char closeColorProperty[] = "closeColor";
+constexpr char roundProperty[] = "round";
+
+constexpr int unusedInterval = 2;
+constexpr int stepInterval = 50; // milliseconds
+constexpr double stepCount = 5.0;
+constexpr int lastMovingStep = 3; // counted from 0; the step after it is the end
+constexpr int insetDivisor = 10;
+
+/** Towards zero, as a cast does it; what lies beyond every widget ends at the largest widget's
+ * edge. */
+int truncated(double x)
+{
+    return int(qBound<double>(-QWIDGETSIZE_MAX, qIsNaN(x) ? 0.0 : x, QWIDGETSIZE_MAX));
+}
+
+} // namespace
+
+OlvSwitch::OlvSwitch(QWidget *parent)
+    : OlvWidget(parent)
+{
+    setColorOpen(QColor(220, 223, 230));
+    setColorClose(QColor(19, 206, 102));
+    setProperty(switchProperty, false);
+    setProperty(moveCountProperty, 0);
+    setProperty(moveWidthProperty, (width() - height()) / stepCount);
+    setProperty(intervalProperty, unusedInterval);
+
+    auto *knob = new SwitchRound(this);
+    setProperty(roundProperty, reinterpret_cast<qulonglong>(knob));
+    knob->setGeometry(0, 0, height(), height());
+
+    auto *filter = new OlvPluginEventFilter(this);
+    filter->addObject(knob);
+    filter->addEventListener(QEvent::Resize, [this](QEvent *) { fitKnob(); });
+    filter->addEventListener(QEvent::MouseButtonRelease, [this](QEvent *) { toggle(); });
+    filter->addEventListener(QEvent::Timer, [this](QEvent *) { step(); });
+}
+
+QVariant OlvSwitch::getValue()
+{
+    return property(switchProperty);
+}
+
+void OlvSwitch::setValue(const QVariant &value)
+{
+    if (property(switchProperty).toBool() == value.toBool()) {
+        return;
+    }
+    setProperty(timerIdProperty, startTimer(stepInterval));
+}
+
+void OlvSwitch::setColorOpen(QColor color)
+{
+    setProperty(openColorProperty, OlvColorToString(color));
+}
+
+void OlvSwitch::setColorClose(QColor color)
+{
+    setProperty(closeColorProperty, OlvColorToString(color));
+}
+
+void OlvSwitch::setColorRound(QColor color)
+{
+    if (SwitchRound *round = knob()) {
+        round->setColor(color);
+        round->update();
+    }
+}
+
+void OlvSwitch::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool on = property(switchProperty).toBool();
+    painter.setBrush(
+        OlvColorFromString(property(on ? closeColorProperty : openColorProperty).toString()));
+    painter.setPen(Qt::NoPen);
+    const int radius = height() / 2;
+    painter.drawRoundedRect(QRectF(0, 0, width(), height()), radius, radius);
+}
+
+SwitchRound *OlvSwitch::knob() const
+{
+    return childAtAddress<SwitchRound>(this, property(roundProperty));
+}
+
+void OlvSwitch::fitKnob()
+{
+    if (SwitchRound *round = knob()) {
+        round->resize(height(), height());
+        round->setInset(height() / insetDivisor);
+    }
+    setProperty(moveWidthProperty, (width() - height()) / stepCount);
+}
+
+void OlvSwitch::toggle()
+{
+    if (property(moveCountProperty).toInt() != 0) {
+        return;
+    }
+    setValue(!property(switchProperty).toBool());
+}
+
+void OlvSwitch::step()
+{
+    const int count = property(moveCountProperty).toInt();
+    const bool on = property(switchProperty).toBool();
+    if (count > lastMovingStep) {
+        finish(!on);
+        return;
+    }
+    if (SwitchRound *round = knob()) {
+        const double step = property(moveWidthProperty).toDouble();
+        round->move(truncated(on ? round->x() - step : round->x() + step), 0);
+    }
+    setProperty(moveCountProperty, count + 1);
+    update();
+}
+
+void OlvSwitch::finish(bool on)
+{
+    if (SwitchRound *round = knob()) {
+        round->move(on ? width() - height() : 0, 0);
+    }
+    killTimer(property(timerIdProperty).toInt());
+    setProperty(moveCountProperty, 0);
+    setProperty(switchProperty, on);
+    update();
+
+    const QPointer<OlvSwitch> self(this);
+    Q_EMIT valueChanged(on);
+    if (self) {
+        Q_EMIT changed(on);
+    }
+    if (self) {
+        update();
+    }
+}

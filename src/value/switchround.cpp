@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/value.h>
+
+#include <QPainter>
+
+namespace {
+constexpr int insetDivisor = 10;
+}
+
+SwitchRound::SwitchRound(QWidget *parent)
+    : QWidget(parent)
+    , m_color(Qt::white)
+    , m_inset(height() / insetDivisor)
+{ }
+
+QColor SwitchRound::color() const
+{
+    return m_color;
+}
+
+void SwitchRound::setColor(const QColor &color)
+{
+    m_color = color;
+}
+
+int SwitchRound::inset() const
+{
+    return m_inset;
+}
+
+void SwitchRound::setInset(int inset)
+{
+    m_inset = inset;
+}
+
+void SwitchRound::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(m_color);
+    painter.setPen(Qt::NoPen);
+    const int last = height() - 1 - m_inset;
+    painter.drawEllipse(QRect(QPoint(m_inset, m_inset), QPoint(last, last)));
+}

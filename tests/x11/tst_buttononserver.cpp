@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "realinput.h"
+
+#include <OlvButton>
+
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+/** A button in a window that leaves room around it. */
+class TestButtonOnServer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void hoversUnderThePointer();
+    void pressesAndClicks();
+    void draggedOutItStaysPressedAndHearsOfItAfterTheRelease_data();
+    void draggedOutItStaysPressedAndHearsOfItAfterTheRelease();
+    void draggedOutAndInAgainItClicksOnce();
+    void releasedOverItAfterAPressElsewhereDoesNothing();
+    void rightButtonClicks();
+    void doubleClickClicksTwice();
+    void togglesWhenCheckable();
+    void mayBeDeletedByItsClick();
+
+private:
+    QString state() const
+    {
+        return m_button->property("state").toString();
+    }
+    bool hovered() const
+    {
+        return m_button->property("hovered").toBool();
+    }
+
+    std::unique_ptr<QWidget> m_window;
+    OlvButton *m_button = nullptr;
+    std::unique_ptr<QSignalSpy> m_clicked;
+    RealInput m_input;
+    const QPoint m_inside{ 60, 20 };
+    const QPoint m_outside{ 60, 80 };
+};
+
+void TestButtonOnServer::init()
+{
+    QVERIFY(m_input.isValid());
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(300, 200);
+    m_button = new OlvButton(QStringLiteral("Button"), m_window.get());
+    m_button->setGeometry(50, 30, 120, 40);
+    m_clicked = std::make_unique<QSignalSpy>(m_button, &OlvButton::clicked);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_input.moveTo(*m_button, m_outside);
+    QTRY_COMPARE(QCursor::pos(), m_button->mapToGlobal(m_outside));
+    QTRY_COMPARE(state(), QStringLiteral("init"));
+}
+
+void TestButtonOnServer::cleanup()
+{
+    // a test that failed half-way must not leave the button held for the next one
+    m_input.release();
+    m_clicked.reset();
+    m_window.reset();
+}
+
+void TestButtonOnServer::hoversUnderThePointer()
+{
+    m_input.moveTo(*m_button, m_inside);
+    QTRY_COMPARE(state(), QStringLiteral("hover"));
+    QVERIFY(hovered());
+    m_input.moveTo(*m_button, m_outside);
+    QTRY_COMPARE(state(), QStringLiteral("init"));
+    QVERIFY(!hovered());
+}
+
+void TestButtonOnServer::pressesAndClicks()
+{
+    m_input.moveTo(*m_button, m_inside);
+    m_input.press();
+    QTRY_COMPARE(state(), QStringLiteral("click"));
+    QCOMPARE(m_clicked->count(), 0);
+    m_input.release();
+    QTRY_COMPARE(m_clicked->count(), 1);
+    QCOMPARE(state(), QStringLiteral("hover"));
+}
+
+void TestButtonOnServer::draggedOutItStaysPressedAndHearsOfItAfterTheRelease_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::newRow("within the window") << m_outside;
+    QTest::newRow("out of the window") << QPoint(450, 300);
+}
+
+void TestButtonOnServer::draggedOutItStaysPressedAndHearsOfItAfterTheRelease()
+{
+    QFETCH(QPoint, place);
+    m_input.moveTo(*m_button, m_inside);
+    m_input.press();
+    QTRY_COMPARE(state(), QStringLiteral("click"));
+    m_input.moveTo(*m_button, place);
+    QTRY_COMPARE(QCursor::pos(), m_button->mapToGlobal(place));
+    QTest::qWait(50);
+    QCOMPARE(state(), QStringLiteral("click"));
+    // Qt sends Leave only once the mouse button is up: to the button this is a release inside
+    QVERIFY(hovered());
+    m_input.release();
+    QTRY_VERIFY(!hovered());
+    QCOMPARE(state(), QStringLiteral("init"));
+    QCOMPARE(m_clicked->count(), 1);
+}
+
+void TestButtonOnServer::draggedOutAndInAgainItClicksOnce()
+{
+    m_input.moveTo(*m_button, m_inside);
+    m_input.press();
+    QTRY_COMPARE(state(), QStringLiteral("click"));
+    m_input.moveTo(*m_button, m_outside);
+    QTRY_COMPARE(QCursor::pos(), m_button->mapToGlobal(m_outside));
+    m_input.moveTo(*m_button, m_inside);
+    QTRY_COMPARE(QCursor::pos(), m_button->mapToGlobal(m_inside));
+    m_input.release();
+    QTRY_COMPARE(m_clicked->count(), 1);
+    QCOMPARE(state(), QStringLiteral("hover"));
+}
+
+void TestButtonOnServer::releasedOverItAfterAPressElsewhereDoesNothing()
+{
+    m_input.moveTo(*m_button, m_outside);
+    m_input.press();
+    m_input.moveTo(*m_button, m_inside);
+    m_input.release();
+    QTRY_COMPARE(state(), QStringLiteral("hover"));
+    QCOMPARE(m_clicked->count(), 0);
+}
+
+void TestButtonOnServer::rightButtonClicks()
+{
+    m_input.moveTo(*m_button, m_inside);
+    m_input.click(RealInput::Right);
+    QTRY_COMPARE(m_clicked->count(), 1);
+}
+
+void TestButtonOnServer::doubleClickClicksTwice()
+{
+    m_input.moveTo(*m_button, m_inside);
+    m_input.click();
+    m_input.click();
+    QTRY_COMPARE(m_clicked->count(), 2);
+}
+
+void TestButtonOnServer::togglesWhenCheckable()
+{
+    m_button->setCheckable(true);
+    QSignalSpy toggled(m_button, &OlvButton::toggled);
+    m_input.moveTo(*m_button, m_inside);
+    m_input.click();
+    QTRY_COMPARE(toggled.count(), 1);
+    QVERIFY(toggled.first().first().toBool());
+    QVERIFY(m_button->isChecked());
+}
+
+void TestButtonOnServer::mayBeDeletedByItsClick()
+{
+    const QPointer<OlvButton> button(m_button);
+    connect(m_button, &OlvButton::clicked, this, [=] { delete button; });
+    m_input.moveTo(*m_button, m_inside);
+    m_input.click();
+    QTRY_VERIFY(button.isNull());
+    QTest::qWait(50);
+}
+
+QTEST_MAIN(TestButtonOnServer)
+#include "tst_buttononserver.moc"
