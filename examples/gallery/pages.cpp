@@ -6,6 +6,8 @@ QVector<PageEntry> galleryPages()
     return {
         { QStringLiteral("Start-up"), createStartUpPage },
         { QStringLiteral("Buttons"), createButtonsPage },
+        { QStringLiteral("Icon buttons"), createIconButtonsPage },
+        { QStringLiteral("Line edits"), createLineEditsPage },
         { QStringLiteral("Text fitting"), createTextFittingPage },
         { QStringLiteral("Switches"), createSwitchesPage },
         { QStringLiteral("Sliders"), createSlidersPage },

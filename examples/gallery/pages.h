@@ -19,6 +19,8 @@ QVector<PageEntry> galleryPages();
 
 Page *createStartUpPage(QWidget *parent);
 Page *createButtonsPage(QWidget *parent);
+Page *createIconButtonsPage(QWidget *parent);
+Page *createLineEditsPage(QWidget *parent);
 Page *createTextFittingPage(QWidget *parent);
 Page *createSwitchesPage(QWidget *parent);
 Page *createSlidersPage(QWidget *parent);

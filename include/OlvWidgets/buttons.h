@@ -4,6 +4,10 @@
 #include <OlvWidgets/olvwidgets_export.h>
 #include <OlvWidgets/widget.h>
 
+#include <QChar>
+#include <QColor>
+#include <QFont>
+#include <QPushButton>
 #include <QString>
 #include <QStringList>
 
@@ -111,4 +115,137 @@ protected:
 private:
     void setState(const QString &state);
     void setCheckedByClick(bool checked);
+};
+
+/**
+ * A tile with one glyph of an icon font above a short caption, which tells a click from a double
+ * click.
+ *
+ * Each mouse release inside counts, of any mouse button; 400 milliseconds after the last of a burst
+ * clicked() is emitted for a burst of one, dClicked() for a longer one. Each such release also
+ * flips the value, a bool, and the checked flag, which shows only in a checkable button. Neither
+ * emits valueChanged().
+ *
+ * Its state lies in dynamic properties, which applications may read and write by these names; one
+ * that is not set reads as false, 0 or empty:
+ *
+ * | property      | type       | at first           | meaning                                     |
+ * |---------------|------------|--------------------|---------------------------------------------|
+ * | "value"       | bool       | false              | the value                                   |
+ * | "state"       | string     | "init"             | "init" at rest, "hover", "click"            |
+ * | "hovered"     | bool       | false              | whether the pointer is inside               |
+ * | "clickNumber" | int        | 0                  | releases since the last report              |
+ * | "clickTimer"  | qulonglong |                    | the address of the timer; the library's own |
+ * | "partSize"    | int        | width / 4          | height of a band in pixels: the glyph takes
+ * three, the caption one | | "iconSize"    | double     | 1.56 * partSize    | point size of the
+ * glyph                     | | "textSize"    | double     | 0.52 * partSize    | point size of the
+ * caption                   | | "family"      | string     |                    | family of the
+ * icon font                     | | "icon"        | QChar      |                    | the glyph |
+ * | "text"        | string     |                    | the caption                                 |
+ * | "color"       | uint       | opaque 0,255,255   | accent colour, as QColor::rgba() gives it   |
+ * | "isCheckable" | bool       | not set            | whether the checked look is shown           |
+ * | "isChecked"   | bool       | not set            | the checked flag                            |
+ *
+ * The constructor with a glyph sets those from "partSize" to "color"; the sizes stay as they are
+ * when the tile is resized. The accent colour shows, opaque, while the tile is pressed or checked;
+ * under the pointer it shows with its red inverted (0 for one above 127, else 127); at rest all is
+ * grey.
+ *
+ * @code
+ * auto *mail = new OlvIconButton(QChar(0xf0e0), tr("Mail"), "FontAwesome", this, 80, 80);
+ * connect(mail, &OlvIconButton::clicked, this, &Desktop::select);
+ * connect(mail, &OlvIconButton::dClicked, this, &Desktop::openMail);
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvIconButton : public OlvWidget
+{
+    Q_OBJECT
+
+public:
+    /** A tile without glyph, caption or sizes in @p parent, which owns it: only its frame shows. */
+    explicit OlvIconButton(QWidget *parent = nullptr);
+    /** A tile of @p width by @p height pixels with @p icon of the font @p family above @p text. */
+    OlvIconButton(const QChar &icon, const QString &text, const QString &family, QWidget *parent,
+                  int width, int height);
+
+    /** Sets the family of the icon font; repaints nothing. */
+    void setFontFamily(const QString &family);
+    /** Sets the glyph; repaints nothing. */
+    void setIcon(const QChar &icon);
+    /** The glyph; a null character when there is none. */
+    QChar icon();
+    /** Sets the caption; repaints nothing. */
+    void setText(const QString &text);
+    /** Sets the accent colour, alpha included; repaints nothing. */
+    void setColor(const QColor &color);
+    /** Sets whether the checked look is shown, and unchecks the tile either way. */
+    void setCheckable(bool checkable);
+
+    /** Stores @p value as it stands in the property "value"; emits nothing. */
+    void setValue(const QVariant &value) override;
+    /** The property "value" as it stands. */
+    QVariant getValue() override;
+
+Q_SIGNALS:
+    /** A burst of one release ended 400 milliseconds ago. */
+    void clicked();
+    /** A burst of two or more releases ended 400 milliseconds ago. */
+    void dClicked();
+
+protected:
+    /** Any mouse button: shows the pressed look. */
+    void mousePressEvent(QMouseEvent *event) override;
+    /** Any mouse button: inside, counts the release and flips value and checked flag. */
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    /** Shows the hover look. */
+    void enterEvent(QEvent *event) override;
+    /** Goes back to rest unless a mouse button is held. */
+    void leaveEvent(QEvent *event) override;
+    /** Draws the glyph, the caption and the frame over them. */
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void report();
+    QColor penColor();
+};
+
+/**
+ * Whether @p button shows the checked look: it is checkable and its checked flag is set. False for
+ * a null button.
+ */
+OLVWIDGETS_EXPORT bool isChecked(OlvIconButton *button);
+
+/**
+ * A small borderless push button whose caption is one glyph of an icon font, grey at rest and dark
+ * under the pointer.
+ *
+ * It is checkable: every click flips its checked state. setToggle() makes the glyph follow that
+ * state; the two glyphs are kept in the dynamic properties "deable" (unchecked) and "enable"
+ * (checked), both strings, which are read at each click. Its look comes from its style sheet alone.
+ *
+ * @code
+ * auto *star = new OlvSimpleIconButton(QChar(0xf006), QFont("FontAwesome", 12), this);
+ * star->setToggle(QChar(0xf005));
+ * connect(star, &QPushButton::clicked, this, &Page::setStarred);
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvSimpleIconButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /** A checkable button of 30 by 30 pixels with @p text in @p font in @p parent, its owner. */
+    OlvSimpleIconButton(const QString &text, const QFont &font, QWidget *parent = nullptr);
+
+    /**
+     * Makes the button a toggle: the present caption is shown while it is unchecked, @p checkedText
+     * while it is checked. The caption changes at each click, before the slots that are connected
+     * later; a state set by setChecked() shows at the next click or setTextIcon(). Call it once.
+     */
+    void setToggle(const QString &checkedText);
+    /**
+     * Sets both captions, and shows the one for the present state at once. Without setToggle()
+     * clicks do not change the caption.
+     */
+    void setTextIcon(const QString &uncheckedText, const QString &checkedText);
 };

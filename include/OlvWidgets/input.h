@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/olvwidgets_export.h>
+#include <OlvWidgets/widget.h>
+
+#include <QString>
+
+/**
+ * @file input.h
+ * Text input.
+ */
+
+class OlvSimpleIconButton;
+class QLineEdit;
+
+/**
+ * A framed line of text with an optional glyph at its left and an optional button at its right that
+ * shows and hides a password.
+ *
+ * Everything is sized from the widget's height: the font is half as many points as it is pixels
+ * high, and the column of the glyph, which the text begins behind even when there is none, at least
+ * as wide as it is high. A click anywhere on the frame puts the caret into the text.
+ *
+ * The value is the text, a QString. Neither valueChanged() nor textChanged() is emitted: read it
+ * with getText() or getValue() when it is wanted.
+ *
+ * | property    | type   | at first    | meaning |
+ * |-------------|--------|-------------|------------------------------------------------------------|
+ * | "Icon"      | string | ""          | the glyph at the left | | "IconWidth" | int    | 0 |
+ * pixels that its column is wide, set at each resize         | | "Pwd"       | bool   | false |
+ * whether the text is a password                             | | "Visible"   | string | "✍" | glyph
+ * of the password button at first                      | | "Invisible" | string | "※"         | its
+ * glyph once it has been clicked, and the text is shown  | | "state"     | string | "normal"    |
+ * "edit" while the text has the focus                        |
+ *
+ * @code
+ * auto *password = new OlvLineEdit(this);
+ * password->resize(240, 32);
+ * password->setPlaceholderText(tr("Password"));
+ * password->setIcon(QChar(0xf023));                            // a padlock of FontAwesome
+ * password->setPassWord(true);
+ * password->setPwdIcon(QChar(0xf06e), QChar(0xf070));          // an eye, open and struck out
+ * connect(login, &OlvButton::clicked, this, [=] { check(password->getText()); });
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvLineEdit : public OlvWidget
+{
+    Q_OBJECT
+
+public:
+    /**
+     * An empty line in @p parent, which owns it. The text and the button get their places at the
+     * first resize.
+     */
+    explicit OlvLineEdit(QWidget *parent = nullptr);
+
+    /** The text. */
+    QVariant getValue() override;
+    /** Sets the text to @p value as a string; emits nothing. */
+    void setValue(const QVariant &value) override;
+    /** Sets the text; emits nothing. */
+    void setText(const QString &text);
+    /** The text. */
+    QString getText();
+    /** Sets what is shown in grey while there is no text. */
+    void setPlaceholderText(const QString &text);
+
+    /** Sets the glyph at the left, makes room for it, and repaints; empty for none. */
+    void setIcon(const QString &icon);
+    /**
+     * Sets whether the text is a password: hides the text and shows the button, or the other way
+     * round. Each click on the button then shows or hides the text, beginning with showing it,
+     * unless the button stands clicked from before: it keeps its state.
+     */
+    void setPassWord(bool on);
+    /** Sets the glyphs of the password button: @p hidden while it is unclicked, @p shown after. */
+    void setPwdIcon(const QString &hidden, const QString &shown);
+
+    /** Follows the focus of the text; consumes nothing. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /** Not emitted. */
+    void textChanged(const QString &);
+
+protected:
+    /** Draws the frame and the glyph. */
+    void paintEvent(QPaintEvent *event) override;
+    /** Sizes the font and places the text and the button; @p event may be null. */
+    void resizeEvent(QResizeEvent *event) override;
+    /** Any mouse button: puts the caret into the text. */
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    int iconWidth(const QString &icon) const;
+
+    QLineEdit *m_editor;
+    OlvSimpleIconButton *m_pwdButton;
+};

@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/buttons.h>
+
+#include "foundation/childataddress_p.h"
+
+#include <QPainter>
+#include <QTimer>
+
+#include <limits>
+
+namespace {
+
+constexpr char valueProperty[] = "value";
+constexpr char stateProperty[] = "state";
+constexpr char hoveredProperty[] = "hovered";
+constexpr char clickNumberProperty[] = "clickNumber";
+constexpr char clickTimerProperty[] = "clickTimer";
+constexpr char partSizeProperty[] = "partSize";
+constexpr char iconSizeProperty[] = "iconSize";
+constexpr char textSizeProperty[] = "textSize";
+constexpr char familyProperty[] = "family";
+constexpr char iconProperty[] = "icon";
+constexpr char textProperty[] = "text";
+constexpr char colorProperty[] = "color";
+constexpr char checkableProperty[] = "isCheckable";
+constexpr char checkedProperty[] = "isChecked";
+
+constexpr int burstInterval = 400; // milliseconds
+constexpr int partCount = 4;
+constexpr int glyphParts = 3;
+constexpr double iconSizeOfPart = 1.56;
+constexpr double textSizeOfPart = 0.52;
+constexpr QRgb initialAccent = qRgb(0, 255, 255);
+constexpr QRgb restingColor = qRgb(198, 198, 198);
+constexpr int halfRed = 127;
+constexpr qreal frameRadius = 10.0;
+
+QString restingState()
+{
+    return QStringLiteral("init");
+}
+
+QString hoverState()
+{
+    return QStringLiteral("hover");
+}
+
+QString pressedState()
+{
+    return QStringLiteral("click");
+}
+
+} // namespace
+
+OlvIconButton::OlvIconButton(QWidget *parent)
+    : OlvWidget(parent)
+{
+    setProperty(valueProperty, false);
+    setProperty(stateProperty, restingState());
+    setProperty(hoveredProperty, false);
+    auto *timer = new QTimer(this);
+    timer->setInterval(burstInterval);
+    setProperty(clickNumberProperty, 0);
+    connect(
+        timer, &QTimer::timeout, this,
+        [this, timer] {
+            timer->stop();
+            report();
+        },
+        Qt::DirectConnection);
+    setProperty(clickTimerProperty, reinterpret_cast<qulonglong>(timer));
+}
+
+OlvIconButton::OlvIconButton(const QChar &icon, const QString &text, const QString &family,
+                             QWidget *parent, int width, int height)
+    : OlvIconButton(parent)
+{
+    resize(width, height);
+    const int partSize = width / partCount;
+    setProperty(partSizeProperty, partSize);
+    setProperty(iconSizeProperty, iconSizeOfPart * partSize);
+    setProperty(textSizeProperty, partSize * textSizeOfPart);
+    setFontFamily(family);
+    setIcon(icon);
+    setText(text);
+    setColor(QColor(initialAccent));
+}
+
+void OlvIconButton::setFontFamily(const QString &family)
+{
+    setProperty(familyProperty, family);
+}
+
+void OlvIconButton::setIcon(const QChar &icon)
+{
+    setProperty(iconProperty, icon);
+}
+
+QChar OlvIconButton::icon()
+{
+    return property(iconProperty).toChar();
+}
+
+void OlvIconButton::setText(const QString &text)
+{
+    setProperty(textProperty, text);
+}
+
+void OlvIconButton::setColor(const QColor &color)
+{
+    setProperty(colorProperty, color.rgba());
+}
+
+void OlvIconButton::setCheckable(bool checkable)
+{
+    setProperty(checkableProperty, checkable);
+    setProperty(checkedProperty, false);
+}
+
+void OlvIconButton::setValue(const QVariant &value)
+{
+    setProperty(valueProperty, value);
+}
+
+QVariant OlvIconButton::getValue()
+{
+    return property(valueProperty);
+}
+
+void OlvIconButton::mousePressEvent(QMouseEvent * /*event*/)
+{
+    setProperty(stateProperty, pressedState());
+    update();
+}
+
+void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    if (!property(hoveredProperty).toBool()) {
+        setProperty(stateProperty, restingState());
+        update();
+        return;
+    }
+    setProperty(stateProperty, hoverState());
+    const int count = property(clickNumberProperty).toInt();
+    setProperty(clickNumberProperty, qMin(count, std::numeric_limits<int>::max() - 1) + 1);
+    if (auto *timer = childAtAddress<QTimer>(this, property(clickTimerProperty))) {
+        timer->start();
+    }
+    setProperty(valueProperty, !property(valueProperty).toBool());
+    setProperty(checkedProperty, !property(checkedProperty).toBool());
+    update();
+}
+
+void OlvIconButton::enterEvent(QEvent * /*event*/)
+{
+    setProperty(hoveredProperty, true);
+    setProperty(stateProperty, hoverState());
+    update();
+}
+
+void OlvIconButton::leaveEvent(QEvent * /*event*/)
+{
+    setProperty(hoveredProperty, false);
+    if (property(stateProperty).toString() != pressedState()) {
+        setProperty(stateProperty, restingState());
+    }
+    update();
+}
+
+void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(penColor());
+
+    // read as integers: the sizes are kept as reals, and are rounded here; an application may have
+    // written any number
+    const int partSize =
+        qBound(-QWIDGETSIZE_MAX, property(partSizeProperty).toInt(), QWIDGETSIZE_MAX);
+    const int glyphHeight = glyphParts * partSize;
+    const QString family = property(familyProperty).toString();
+    painter.setFont(QFont(family, property(iconSizeProperty).toInt()));
+    painter.drawText(QRect(0, 0, width(), glyphHeight), Qt::AlignCenter,
+                     property(iconProperty).toString());
+    painter.setFont(QFont(QStringLiteral("新宋体"), property(textSizeProperty).toInt()));
+    painter.drawText(QRect(0, glyphHeight, width(), partSize), Qt::AlignCenter,
+                     property(textProperty).toString());
+    painter.drawRoundedRect(QRectF(0, 0, width(), height()), frameRadius, frameRadius);
+}
+
+void OlvIconButton::report()
+{
+    const int count = property(clickNumberProperty).toInt();
+    // zeroed before the report: a slot with an event loop of its own starts a burst anew
+    setProperty(clickNumberProperty, 0);
+    if (count == 1) {
+        Q_EMIT clicked();
+    } else {
+        Q_EMIT dClicked();
+    }
+}
+
+QColor OlvIconButton::penColor()
+{
+    const QRgb accent = property(colorProperty).toUInt();
+    const QString state = property(stateProperty).toString();
+    if (state == pressedState() || ::isChecked(this)) {
+        return QColor(accent);
+    }
+    if (state == hoverState()) {
+        QColor color = QColor::fromRgba(accent);
+        color.setRed(color.red() <= halfRed ? halfRed : 0);
+        return color;
+    }
+    return QColor(restingColor);
+}
+
+bool isChecked(OlvIconButton *button)
+{
+    return button && button->property(checkableProperty).toBool()
+        && button->property(checkedProperty).toBool();
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/buttons.h>
+
+namespace {
+
+constexpr int sideLength = 30;
+
+constexpr char uncheckedProperty[] = "deable";
+constexpr char checkedProperty[] = "enable";
+
+} // namespace
+
+OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font, QWidget *parent)
+    : QPushButton(text, parent)
+{
+    setFont(font);
+    setCheckable(true);
+    resize(sideLength, sideLength);
+    setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(198,198,198);}"
+                                 "QPushButton:hover{color:rgb(32,32,32)}"
+                                 "QPushButton:disabled{color:rgb(32,32,32)}"));
+}
+
+void OlvSimpleIconButton::setToggle(const QString &checkedText)
+{
+    setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(184,186,188);}"
+                                 "QPushButton:hover{color:rgb(32,32,32)}"
+                                 "QPushButton:checked{color:rgb(32,32,32)}"));
+    setProperty(uncheckedProperty, text());
+    setProperty(checkedProperty, checkedText);
+    connect(this, &QPushButton::clicked, this, [this](bool checked) {
+        setText(property(checked ? checkedProperty : uncheckedProperty).toString());
+    });
+}
+
+void OlvSimpleIconButton::setTextIcon(const QString &uncheckedText, const QString &checkedText)
+{
+    setProperty(uncheckedProperty, uncheckedText);
+    setProperty(checkedProperty, checkedText);
+    setText(isChecked() ? checkedText : uncheckedText);
+}

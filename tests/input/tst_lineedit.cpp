@@ -1,0 +1,385 @@
+// SPDX-License-Identifier: MIT
+#include "pixels.h"
+#include "pointer.h"
+
+#include <OlvLineEdit>
+#include <OlvSimpleIconButton>
+
+#include <QFontMetrics>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMetaMethod>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+QLineEdit *editorOf(const OlvLineEdit &edit)
+{
+    return edit.findChild<QLineEdit *>();
+}
+
+OlvSimpleIconButton *buttonOf(const OlvLineEdit &edit)
+{
+    return edit.findChild<OlvSimpleIconButton *>();
+}
+
+/** A line that has been told its size, as showing does it. */
+class SizedLineEdit : public OlvLineEdit
+{
+public:
+    explicit SizedLineEdit(QSize size = { 240, 32 })
+    {
+        setSize(size);
+    }
+    void setSize(QSize size)
+    {
+        resize(size);
+        QResizeEvent event(size, size);
+        QCoreApplication::sendEvent(this, &event);
+    }
+};
+
+void sendFocus(QObject *receiver, QEvent::Type type)
+{
+    QFocusEvent event(type);
+    QCoreApplication::sendEvent(receiver, &event);
+}
+
+} // namespace
+
+class TestLineEdit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsEmptyWithItsDefaults();
+    void placesItsChildrenAtTheFirstResize();
+    void keepsOneSilentSignal();
+    void valueIsTheText();
+    void editsTextWithTheKeyboard();
+    void fontIsHalfAsManyPointsAsItIsHigh_data();
+    void fontIsHalfAsManyPointsAsItIsHigh();
+    void makesRoomForTheIcon_data();
+    void makesRoomForTheIcon();
+    void measuresTheIconWithItsPresentFont();
+    void passwordModeShowsTheButtonAndHidesTheText();
+    void passwordButtonShowsAndHidesTheText();
+    void passwordButtonKeepsItsStateBetweenModes();
+    void passwordIconsGoToTheButton();
+    void narrowPasswordLineLeavesNoRoomForTheText();
+    void stateFollowsTheFocusOfTheText();
+    void filterConsumesNothing();
+    void anyClickOnTheFrameFocusesTheText();
+    void takesTextFromAnInputMethod();
+    void draws_data();
+    void draws();
+    void survivesHostileProperties();
+};
+
+void TestLineEdit::startsEmptyWithItsDefaults()
+{
+    QWidget parent;
+    OlvLineEdit edit(&parent);
+    QCOMPARE(edit.parentWidget(), &parent);
+    QCOMPARE(edit.dynamicPropertyNames(),
+             QList<QByteArray>({ "Icon", "IconWidth", "Pwd", "Visible", "Invisible", "state" }));
+    QCOMPARE(edit.property("Icon"), QVariant(QString()));
+    QCOMPARE(edit.property("IconWidth"), QVariant(0));
+    QCOMPARE(edit.property("IconWidth").userType(), int(QMetaType::Int));
+    QCOMPARE(edit.property("Pwd"), QVariant(false));
+    QCOMPARE(edit.property("Pwd").userType(), int(QMetaType::Bool));
+    QCOMPARE(edit.property("Visible"), QVariant(QString(QChar(0x270d))));
+    QCOMPARE(edit.property("Invisible"), QVariant(QString(QChar(0x203b))));
+    QCOMPARE(edit.property("state"), QVariant(QStringLiteral("normal")));
+    QCOMPARE(edit.focusPolicy(), Qt::StrongFocus);
+
+    QCOMPARE(edit.children(), QObjectList({ editorOf(edit), buttonOf(edit) }));
+    QCOMPARE(editorOf(edit)->styleSheet(),
+             QStringLiteral("border: none;background-color:rgba(0,0,0,0)"));
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Normal);
+    QCOMPARE(buttonOf(edit)->text(), QStringLiteral("✍"));
+    QCOMPARE(buttonOf(edit)->property("enable"), QVariant(QStringLiteral("※")));
+    QCOMPARE(buttonOf(edit)->font().family(), QStringLiteral("FontAwesome"));
+    QVERIFY(buttonOf(edit)->isHidden());
+}
+
+void TestLineEdit::placesItsChildrenAtTheFirstResize()
+{
+    QWidget parent;
+    OlvLineEdit edit(&parent);
+    QCOMPARE(editorOf(edit)->pos(), QPoint(0, 0));
+    QCOMPARE(buttonOf(edit)->geometry(), QRect(0, 0, 30, 30));
+
+    edit.resize(240, 32);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    QCOMPARE(editorOf(edit)->geometry(), QRect(32, 0, 208, 32));
+    QCOMPARE(buttonOf(edit)->geometry(), QRect(208, 0, 32, 32));
+}
+
+void TestLineEdit::keepsOneSilentSignal()
+{
+    const QMetaObject &meta = OlvLineEdit::staticMetaObject;
+    QCOMPARE(meta.className(), "OlvLineEdit");
+    QCOMPARE(meta.superClass(), &OlvWidget::staticMetaObject);
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(),
+             QByteArray("textChanged(QString)"));
+    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+
+    SizedLineEdit edit;
+    QSignalSpy textChanged(&edit, &OlvLineEdit::textChanged);
+    QSignalSpy valueChanged(&edit, &OlvWidget::valueChanged);
+    edit.setText(QStringLiteral("a"));
+    edit.setValue(QStringLiteral("b"));
+    QTest::keyClicks(editorOf(edit), QStringLiteral("cd"));
+    QCOMPARE(edit.getText(), QStringLiteral("bcd"));
+    QCOMPARE(textChanged.count() + valueChanged.count(), 0);
+}
+
+void TestLineEdit::valueIsTheText()
+{
+    SizedLineEdit edit;
+    QCOMPARE(edit.getValue(), QVariant(QString()));
+    edit.setText(QStringLiteral("文字"));
+    QCOMPARE(edit.getValue(), QVariant(QStringLiteral("文字")));
+    QCOMPARE(edit.getValue().userType(), int(QMetaType::QString));
+    edit.setValue(12);
+    QCOMPARE(edit.getText(), QStringLiteral("12"));
+    edit.setValue(QVariant());
+    QCOMPARE(edit.getText(), QString());
+    edit.setPlaceholderText(QStringLiteral("name"));
+    QCOMPARE(editorOf(edit)->placeholderText(), QStringLiteral("name"));
+}
+
+void TestLineEdit::editsTextWithTheKeyboard()
+{
+    SizedLineEdit edit;
+    QTest::keyClicks(editorOf(edit), QStringLiteral("Hello"));
+    QTest::keyClick(editorOf(edit), Qt::Key_Backspace);
+    QCOMPARE(edit.getText(), QStringLiteral("Hell"));
+}
+
+void TestLineEdit::fontIsHalfAsManyPointsAsItIsHigh_data()
+{
+    QTest::addColumn<int>("height");
+    for (const int height : { 0, 1, 2, 3, 31, 32, 90 }) {
+        QTest::addRow("%d pixels", height) << height;
+    }
+}
+
+void TestLineEdit::fontIsHalfAsManyPointsAsItIsHigh()
+{
+    QFETCH(int, height);
+    SizedLineEdit edit;
+    edit.setSize({ 200, height });
+    // a font of no points does not exist: the size before stays
+    const int points = height / 2 > 0 ? height / 2 : 16;
+    QCOMPARE(edit.font().pointSize(), points);
+    QCOMPARE(editorOf(edit)->font().pointSize(), points);
+    QCOMPARE(buttonOf(edit)->font().pointSize(), points);
+    QCOMPARE(buttonOf(edit)->font().family(), edit.font().family());
+}
+
+void TestLineEdit::makesRoomForTheIcon_data()
+{
+    QTest::addColumn<QString>("icon");
+    QTest::newRow("none") << QString();
+    QTest::newRow("glyph") << QString(QChar(0xf023));
+    QTest::newRow("words") << QStringLiteral("user name:");
+}
+
+void TestLineEdit::makesRoomForTheIcon()
+{
+    QFETCH(QString, icon);
+    SizedLineEdit edit({ 400, 32 });
+    edit.setIcon(icon);
+    QCOMPARE(edit.property("Icon"), QVariant(icon));
+    const int width = qMax(QFontMetrics(edit.font()).boundingRect(icon).width() + 5, 32);
+    QCOMPARE(edit.property("IconWidth"), QVariant(width));
+    QCOMPARE(editorOf(edit)->geometry(), QRect(width, 0, 400 - width, 32));
+
+    edit.setPassWord(true);
+    QCOMPARE(editorOf(edit)->geometry(), QRect(width, 0, 400 - width - 32, 32));
+    QCOMPARE(buttonOf(edit)->geometry(), QRect(400 - 32, 0, 32, 32));
+}
+
+void TestLineEdit::measuresTheIconWithItsPresentFont()
+{
+    OlvLineEdit edit;
+    edit.resize(400, 60);
+    const QString icon = QStringLiteral("a rather long icon");
+    edit.setIcon(icon); // sizes the font by itself, before any resize event
+    QCOMPARE(edit.font().pointSize(), 30);
+    QCOMPARE(edit.property("IconWidth"),
+             QVariant(qMax(QFontMetrics(edit.font()).boundingRect(icon).width() + 5, 60)));
+}
+
+void TestLineEdit::passwordModeShowsTheButtonAndHidesTheText()
+{
+    SizedLineEdit edit;
+    edit.setPassWord(true);
+    QCOMPARE(edit.property("Pwd"), QVariant(true));
+    QVERIFY(!buttonOf(edit)->isHidden());
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Password);
+    edit.setPassWord(false);
+    QCOMPARE(edit.property("Pwd"), QVariant(false));
+    QVERIFY(buttonOf(edit)->isHidden());
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Normal);
+}
+
+void TestLineEdit::passwordButtonShowsAndHidesTheText()
+{
+    SizedLineEdit edit;
+    edit.setPassWord(true);
+    QTest::mouseClick(buttonOf(edit), Qt::LeftButton);
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Normal);
+    QCOMPARE(buttonOf(edit)->text(), QStringLiteral("※"));
+    QTest::mouseClick(buttonOf(edit), Qt::LeftButton);
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Password);
+    QCOMPARE(buttonOf(edit)->text(), QStringLiteral("✍"));
+}
+
+void TestLineEdit::passwordButtonKeepsItsStateBetweenModes()
+{
+    SizedLineEdit edit;
+    edit.setPassWord(true);
+    buttonOf(edit)->click();
+    edit.setPassWord(false);
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Normal);
+    edit.setPassWord(true);
+    QVERIFY(buttonOf(edit)->isChecked());
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Password);
+    buttonOf(edit)->click();
+    QCOMPARE(editorOf(edit)->echoMode(), QLineEdit::Password);
+}
+
+void TestLineEdit::passwordIconsGoToTheButton()
+{
+    SizedLineEdit edit;
+    edit.setPwdIcon(QStringLiteral("a"), QStringLiteral("b"));
+    QCOMPARE(buttonOf(edit)->text(), QStringLiteral("a"));
+    buttonOf(edit)->click();
+    QCOMPARE(buttonOf(edit)->text(), QStringLiteral("b"));
+}
+
+void TestLineEdit::narrowPasswordLineLeavesNoRoomForTheText()
+{
+    SizedLineEdit edit({ 50, 40 });
+    edit.setPassWord(true);
+    QCOMPARE(editorOf(edit)->pos(), QPoint(40, 0));
+    QVERIFY(editorOf(edit)->width() <= 0);
+    QCOMPARE(buttonOf(edit)->geometry(), QRect(10, 0, 40, 40));
+    QVERIFY(!edit.grab().isNull());
+}
+
+void TestLineEdit::stateFollowsTheFocusOfTheText()
+{
+    SizedLineEdit edit;
+    sendFocus(editorOf(edit), QEvent::FocusIn);
+    QCOMPARE(edit.property("state"), QVariant(QStringLiteral("edit")));
+    sendFocus(editorOf(edit), QEvent::FocusOut);
+    QCOMPARE(edit.property("state"), QVariant(QStringLiteral("normal")));
+    sendFocus(&edit, QEvent::FocusIn);
+    QCOMPARE(edit.property("state"), QVariant(QStringLiteral("normal")));
+}
+
+void TestLineEdit::filterConsumesNothing()
+{
+    SizedLineEdit edit;
+    for (const QEvent::Type type : { QEvent::FocusIn, QEvent::FocusOut, QEvent::KeyPress }) {
+        QEvent event(type);
+        QVERIFY(!edit.eventFilter(editorOf(edit), &event));
+    }
+}
+
+void TestLineEdit::anyClickOnTheFrameFocusesTheText()
+{
+    SizedLineEdit edit;
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    for (const Qt::MouseButton button : { Qt::LeftButton, Qt::RightButton }) {
+        editorOf(edit)->clearFocus();
+        QTest::mouseRelease(&edit, button, {}, { 3, 3 });
+        QTRY_VERIFY(editorOf(edit)->hasFocus());
+        QCOMPARE(edit.property("state"), QVariant(QStringLiteral("edit")));
+    }
+}
+
+void TestLineEdit::takesTextFromAnInputMethod()
+{
+    SizedLineEdit edit;
+    edit.openInputMethod();
+    QSignalSpy commits(&edit, &OlvWidget::inputMethodCommit);
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("中文"));
+    QCoreApplication::sendEvent(&edit, &event);
+    QCOMPARE(commits.count(), 1);
+    QCOMPARE(commits.first().first().toString(), QStringLiteral("中文"));
+
+    QInputMethodEvent inner;
+    inner.setCommitString(QStringLiteral("字"));
+    QCoreApplication::sendEvent(editorOf(edit), &inner);
+    QCOMPARE(edit.getText(), QStringLiteral("字"));
+}
+
+void TestLineEdit::draws_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QString>("state");
+    for (const QSize size : { QSize(240, 32), QSize(121, 41), QSize(8, 9) }) {
+        for (const QString &icon : { QString(), QStringLiteral("@"), QString(QChar(0xf007)) }) {
+            for (const char *state : { "normal", "edit", "other" }) {
+                QTest::addRow("%d x %d, icon %d, %s", size.width(), size.height(),
+                              icon.isEmpty() ? 0 : icon.at(0).unicode(), state)
+                    << size << icon << QString::fromLatin1(state);
+            }
+        }
+    }
+}
+
+void TestLineEdit::draws()
+{
+    QFETCH(QSize, size);
+    QFETCH(QString, icon);
+    QFETCH(QString, state);
+    SizedLineEdit edit(size);
+    edit.setIcon(icon);
+    edit.setProperty("state", state);
+    const QFont font = edit.font();
+    const int column = edit.property("IconWidth").toInt();
+    DrawnWidget expected(size, [=](QPainter &painter) {
+        painter.setPen(QColor(220, 223, 230));
+        painter.setBrush(QColor(255, 255, 255));
+        painter.drawRoundedRect(QRectF(0, 0, size.width(), size.height()), 3.0, 3.0);
+        painter.setPen(state == QLatin1String("normal") ? QColor(184, 186, 188)
+                                                        : QColor(18, 183, 245));
+        painter.setFont(font);
+        painter.drawText(QRect(0, 0, column, size.height()), Qt::AlignCenter, icon);
+    });
+    for (const qreal ratio : { 1.0, 2.0 }) {
+        COMPARE_PICTURES(pictureOf(edit, ratio), pictureOf(expected, ratio));
+    }
+}
+
+void TestLineEdit::survivesHostileProperties()
+{
+    for (const char *name : { "Icon", "IconWidth", "Pwd", "Visible", "Invisible", "state" }) {
+        for (const QVariant &value : { QVariant(), QVariant(1e300), QVariant(-5),
+                                       QVariant(QString(5000, QLatin1Char('x'))) }) {
+            SizedLineEdit edit;
+            edit.setProperty(name, value);
+            QVERIFY(!edit.grab().isNull());
+            edit.setSize({ 100, 30 });
+            edit.setPassWord(true);
+            QVERIFY(!edit.grab().isNull());
+        }
+    }
+}
+
+QTEST_MAIN(TestLineEdit)
+#include "tst_lineedit.moc"
