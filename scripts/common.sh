@@ -8,12 +8,12 @@ export LC_ALL=${LC_ALL:-C.UTF-8}
 
 build_packages=(
     cmake g++ make ninja-build pkg-config qtbase5-dev qt5-qmake
+    libxcb1-dev libxcb-keysyms1-dev libxkbcommon-dev
     fonts-font-awesome fonts-wqy-zenhei fonts-dejavu-core
 )
 display_packages=(xvfb openbox x11-utils)
 test_packages=(
     "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev
-    libxcb-keysyms1-dev
 )
 
 fail() {

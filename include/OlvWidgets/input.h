@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OlvSystemInfo/shortcut.h>
 #include <OlvWidgets/olvwidgets_export.h>
 #include <OlvWidgets/widget.h>
 
+#include <QPointer>
 #include <QString>
+
+#include <memory>
 
 /**
  * @file input.h
@@ -97,4 +101,82 @@ private:
 
     QLineEdit *m_editor;
     OlvSimpleIconButton *m_pwdButton;
+};
+
+/**
+ * A field in which the user presses a key combination, which becomes a shortcut that works on the
+ * whole desktop.
+ *
+ * While it has the focus it notes the modifiers that are held and the last other key that was
+ * pressed, Escape and Backspace included; releasing a key that is no modifier makes an OlvShortcut
+ * of what was noted, and setShortcut() takes it. Modifiers alone make none. The shortcut is shown
+ * as text; a combination that cannot be had leaves the one before in place, without a signal.
+ *
+ * The value is read as a string, the text of the shortcut or "nullptr" where there is none, but set
+ * as an address: see setValue(). Three dynamic properties are the library's own: "HasOlvShortcut"
+ * (bool, whether a shortcut is held), "OlvShortcut" (qulonglong, its address) and "Temp"
+ * (qulonglong, the address of the keys that were noted).
+ *
+ * @code
+ * auto *edit = new OlvShortcutEdit(this);
+ * connect(edit, &OlvShortcutEdit::shortcutChanged, this, [=](OlvShortcut *shortcut) {
+ *     connect(shortcut, &OlvShortcut::activated, this, &Recorder::start);
+ * });
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvShortcutEdit : public OlvWidget
+{
+    Q_OBJECT
+
+public:
+    /** An empty field in @p parent, which owns it. */
+    explicit OlvShortcutEdit(QWidget *parent = nullptr);
+    /** A field that takes @p shortcut, as setShortcut() does it. */
+    explicit OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent = nullptr);
+    /** Deletes the shortcut that is held. */
+    ~OlvShortcutEdit() override;
+
+    /** The shortcut that is held, which stays the field's; null when there is none. */
+    OlvShortcut *shortcut();
+
+    /** The text of the shortcut that is held, as a string; "nullptr" when there is none. */
+    QVariant getValue() override;
+    /**
+     * Hands over the shortcut whose address @p value carries as an unsigned 64-bit integer, as
+     * setShortcut() does it. A value that is not the address of a living OlvShortcut is ignored.
+     */
+    void setValue(const QVariant &value) override;
+
+Q_SIGNALS:
+    /** A shortcut has been taken over; emitted before valueChanged() with its text. */
+    void shortcutChanged(OlvShortcut *);
+
+public Q_SLOTS:
+    /**
+     * Takes @p shortcut over, whatever becomes of it: registers it, and either holds it, in place
+     * of the one before, which is unregistered and deleted, or deletes it when it cannot be
+     * registered. Returns whether it is held. Emits shortcutChanged() and then valueChanged() when
+     * it is; repaints nothing. A null shortcut is ignored; the one that is held already is
+     * registered again, and kept even where that fails.
+     */
+    bool setShortcut(OlvShortcut *shortcut);
+    /**
+     * Deletes the shortcut that is held, which releases it, without calling its destroy(). Emits
+     * nothing and repaints nothing: the text stays on the screen until the next repaint.
+     */
+    void clear();
+
+protected:
+    /** Notes a key; the first one after modifiers alone were pressed and released begins anew. */
+    void keyPressEvent(QKeyEvent *event) override;
+    /** Forgets a modifier, or makes a shortcut of the keys that were noted. */
+    void keyReleaseEvent(QKeyEvent *event) override;
+    /** Draws the frame, dark while the field has the focus, and the text of the shortcut. */
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Capture;
+
+    std::unique_ptr<Capture> m_capture;
+    QPointer<OlvShortcut> m_held;
 };

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/input.h>
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <utility>
+
+namespace {
+
+constexpr char hasShortcutProperty[] = "HasOlvShortcut";
+constexpr char shortcutProperty[] = "OlvShortcut";
+constexpr char captureProperty[] = "Temp";
+
+constexpr int frameInset = 2;
+constexpr qreal frameRadius = 3.0;
+constexpr QRgb focusedColor = qRgb(32, 32, 32);
+
+} // namespace
+
+/** The keys that were noted. */
+struct OlvShortcutEdit::Capture
+{
+    bool ctrl = false;
+    bool shift = false;
+    bool alt = false;
+    bool meta = false;
+    int key = 0;
+    bool recording = false;
+
+    /** The flag of a modifier; null for every other key. */
+    bool *modifier(int pressed)
+    {
+        switch (pressed) {
+        case Qt::Key_Control:
+            return &ctrl;
+        case Qt::Key_Shift:
+            return &shift;
+        case Qt::Key_Alt:
+            return &alt;
+        case Qt::Key_Meta:
+            return &meta;
+        default:
+            return nullptr;
+        }
+    }
+};
+
+OlvShortcutEdit::OlvShortcutEdit(QWidget *parent)
+    : OlvWidget(parent)
+    , m_capture(std::make_unique<Capture>())
+{
+    qRegisterMetaType<OlvShortcut *>("OlvShortcut*");
+    setWindowFlags(Qt::FramelessWindowHint);
+    setProperty(hasShortcutProperty, false);
+    setFocusPolicy(Qt::StrongFocus);
+    setProperty(captureProperty, reinterpret_cast<qulonglong>(m_capture.get()));
+    setToolTip(QStringLiteral("请直接在键盘上输入新的快捷键"));
+}
+
+OlvShortcutEdit::OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent)
+    : OlvShortcutEdit(parent)
+{
+    setShortcut(shortcut);
+}
+
+OlvShortcutEdit::~OlvShortcutEdit()
+{
+    delete m_held;
+}
+
+OlvShortcut *OlvShortcutEdit::shortcut()
+{
+    // The properties are open to anybody's writing: they can hide the shortcut, but not name
+    // another.
+    const bool isHeld = property(hasShortcutProperty).toBool()
+        && property(shortcutProperty).toULongLong() == reinterpret_cast<qulonglong>(m_held.data());
+    return isHeld ? m_held.data() : nullptr;
+}
+
+QVariant OlvShortcutEdit::getValue()
+{
+    OlvShortcut *held = shortcut();
+    return held ? held->toString() : QStringLiteral("nullptr");
+}
+
+void OlvShortcutEdit::setValue(const QVariant &value)
+{
+    setShortcut(OlvShortcut::fromAddress(value.toULongLong()));
+}
+
+bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
+{
+    if (!shortcut) {
+        return false;
+    }
+    const QPointer<OlvShortcutEdit> self(this);
+    const QPointer<OlvShortcut> candidate(shortcut);
+    const bool isActive = candidate->active();
+    // an application's own shortcut may do anything in its operations
+    if (!self || !candidate || !isActive) {
+        if (!self || candidate != m_held) {
+            delete candidate;
+        }
+        return false;
+    }
+    if (candidate != m_held) {
+        const QPointer<OlvShortcut> before(std::exchange(m_held, candidate));
+        if (before && property(hasShortcutProperty).toBool()) {
+            before->destroy();
+        }
+        delete before;
+        if (!self || !candidate) {
+            return false;
+        }
+    }
+    setProperty(hasShortcutProperty, true);
+    setProperty(shortcutProperty, reinterpret_cast<qulonglong>(candidate.data()));
+    Q_EMIT shortcutChanged(this->shortcut());
+    if (self) {
+        Q_EMIT valueChanged(getValue());
+    }
+    return true;
+}
+
+void OlvShortcutEdit::clear()
+{
+    if (!property(hasShortcutProperty).toBool()) {
+        return;
+    }
+    const QPointer<OlvShortcutEdit> self(this);
+    delete m_held;
+    if (self) {
+        setProperty(hasShortcutProperty, false);
+    }
+}
+
+void OlvShortcutEdit::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_capture->recording) {
+        *m_capture = Capture();
+        m_capture->key = Qt::Key_unknown;
+        m_capture->recording = true;
+    }
+    if (bool *modifier = m_capture->modifier(event->key())) {
+        *modifier = true;
+    } else {
+        m_capture->key = event->key();
+    }
+}
+
+void OlvShortcutEdit::keyReleaseEvent(QKeyEvent *event)
+{
+    if (bool *modifier = m_capture->modifier(event->key())) {
+        *modifier = false;
+    } else if (m_capture->key != Qt::Key_unknown) {
+        const QPointer<OlvShortcutEdit> self(this);
+        setShortcut(new OlvShortcut(Qt::Key(m_capture->key), m_capture->ctrl, m_capture->shift,
+                                    m_capture->alt, m_capture->meta));
+        if (!self) {
+            return;
+        }
+        update();
+    }
+    // Once a key has been noted it stays noted, so that recording ends only with modifiers alone.
+    const bool isEmpty = !m_capture->ctrl && !m_capture->shift && !m_capture->alt
+        && !m_capture->meta && m_capture->key == Qt::Key_unknown;
+    if (isEmpty) {
+        m_capture->recording = false;
+    }
+}
+
+void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(QFont(QStringLiteral("新宋体"), height() / 2));
+    painter.setPen(hasFocus() ? QColor(focusedColor) : QColor(Qt::gray));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(0, 0, width() - frameInset, height() - frameInset), frameRadius,
+                            frameRadius);
+    if (OlvShortcut *held = shortcut()) {
+        painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, held->toString());
+    }
+}

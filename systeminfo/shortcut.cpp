@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include <OlvSystemInfo/shortcut.h>
+
+#include "shortcutbackend_p.h"
+
+#include <QKeySequence>
+#include <QMetaEnum>
+#include <QSet>
+
+namespace {
+
+QSet<OlvShortcut *> &livingShortcuts()
+{
+    static QSet<OlvShortcut *> shortcuts;
+    return shortcuts;
+}
+
+/** Keys that QKeySequence has no text for: it makes unprintable characters of them. */
+bool isWithoutText(Qt::Key key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_Mode_switch:
+    case Qt::Key_Multi_key:
+        return true;
+    default:
+        return key <= 0 || key == Qt::Key_unknown;
+    }
+}
+
+/** The key's name as Qt's header has it; empty for a key that is none. */
+QString nameOf(Qt::Key key)
+{
+    if (key <= 0 || key == Qt::Key_unknown) {
+        return QString();
+    }
+    const QLatin1String prefix("Key_");
+    const QString name = QLatin1String(QMetaEnum::fromType<Qt::Key>().valueToKey(key));
+    return name.startsWith(prefix) ? name.mid(prefix.size()) : name;
+}
+
+} // namespace
+
+OlvShortcut::OlvShortcut(Qt::Key key, bool ctrl, bool shift, bool alt, bool meta, QObject *parent)
+    : QObject(parent)
+    , m_key(key)
+{
+    m_modifiers.setFlag(Qt::ControlModifier, ctrl);
+    m_modifiers.setFlag(Qt::ShiftModifier, shift);
+    m_modifiers.setFlag(Qt::AltModifier, alt);
+    m_modifiers.setFlag(Qt::MetaModifier, meta);
+    livingShortcuts().insert(this);
+}
+
+OlvShortcut::~OlvShortcut()
+{
+    OlvShortcut::destroy();
+    livingShortcuts().remove(this);
+}
+
+bool OlvShortcut::active()
+{
+    ShortcutBackend *backend = ShortcutBackend::instance();
+    return backend && backend->grab(this, m_key, m_modifiers);
+}
+
+void OlvShortcut::destroy()
+{
+    if (ShortcutBackend *backend = ShortcutBackend::existingInstance()) {
+        backend->release(this);
+    }
+}
+
+QString OlvShortcut::toString()
+{
+    if (!isWithoutText(m_key)) {
+        return QKeySequence(int(m_modifiers) | m_key).toString(QKeySequence::NativeText);
+    }
+    // the text of the modifiers comes with a key behind it: a space takes its place
+    const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
+    QString text =
+        QKeySequence(int(m_modifiers) | Qt::Key_Space).toString(QKeySequence::NativeText);
+    text.chop(space.size());
+    return text + nameOf(m_key);
+}
+
+OlvShortcut *OlvShortcut::fromAddress(qulonglong address)
+{
+    for (OlvShortcut *shortcut : qAsConst(livingShortcuts())) {
+        if (reinterpret_cast<qulonglong>(shortcut) == address) {
+            return shortcut;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shortcutbackend_p.h"
+#include "x11keymap_p.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+#include <memory>
+
+class QSocketNotifier;
+
+/**
+ * Shortcuts on an X server: passive grabs on the root window, over a connection of this library's
+ * own.
+ *
+ * Qt's connection will not do: it does not tell of a changed keyboard mapping.
+ */
+class X11Backend : public QObject, public ShortcutBackend
+{
+public:
+    X11Backend();
+    ~X11Backend() override;
+
+    bool grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers) override;
+    void release(OlvShortcut *shortcut) override;
+
+private:
+    struct Registration
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        /** Empty while the layout lacks the key, or another program has taken it. */
+        QVector<X11Key> keys;
+    };
+    using Activations = QVector<QPointer<OlvShortcut>>;
+
+    bool isAlive();
+    bool grabKeys(const QVector<X11Key> &keys);
+    void ungrabKeys(const QVector<X11Key> &keys);
+    bool isFree(const QVector<X11Key> &keys) const;
+    OlvShortcut *holderOf(X11Key key) const;
+    void readEvents();
+    void readEventsSoon();
+    void handleEvent(const xcb_generic_event_t *event, Activations *activations);
+    void handlePress(const xcb_key_press_event_t *press, Activations *activations);
+    void followMapping();
+
+    xcb_connection_t *m_connection;
+    xcb_window_t m_root = XCB_WINDOW_NONE;
+    QSocketNotifier *m_notifier = nullptr;
+    std::unique_ptr<X11Keymap> m_keymap;
+    /** The lock modifiers that every key is grabbed with. */
+    QVector<quint16> m_locks;
+    QHash<OlvShortcut *, Registration> m_registrations;
+    bool m_mappingChanged = false;
+    xcb_keycode_t m_releasedCode = 0;
+    xcb_timestamp_t m_releaseTime = 0;
+};

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include <OlvShortcut>
+
+#include <QElapsedTimer>
+#include <QKeySequence>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QTest>
+
+/** What holds without an X server, here on Qt's offscreen platform. */
+class TestShortcut : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hasOneSignal();
+    void isNotActiveWithoutAServer();
+    void readsAsUsersExpect_data();
+    void readsAsUsersExpect();
+    void canBeReplacedByAnApplications();
+    void isFoundByItsAddressWhileItLives();
+};
+
+void TestShortcut::hasOneSignal()
+{
+    const QMetaObject &meta = OlvShortcut::staticMetaObject;
+    QCOMPARE(meta.className(), "OlvShortcut");
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("activated()"));
+}
+
+void TestShortcut::isNotActiveWithoutAServer()
+{
+    // even where there is one: the windows of this program are not on it
+    qputenv("DISPLAY", ":99");
+    OlvShortcut shortcut(Qt::Key_A, true, false, false, false);
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(!shortcut.active());
+    QVERIFY(!shortcut.active());
+    QVERIFY(clock.elapsed() < 1000);
+    shortcut.destroy();
+    shortcut.destroy();
+    qunsetenv("DISPLAY");
+}
+
+void TestShortcut::readsAsUsersExpect_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("modifiers");
+    QTest::addColumn<QString>("text");
+    const auto row = [](int key, const char *modifiers, const char *text) {
+        QTest::addRow("%s", text) << key << QString::fromLatin1(modifiers)
+                                  << QString::fromUtf8(text);
+    };
+    row(Qt::Key_A, "cs", "Ctrl+Shift+A");
+    row(Qt::Key_A, "", "A");
+    row(Qt::Key_F5, "c", "Ctrl+F5");
+    row(Qt::Key_Escape, "", "Esc");
+    row(Qt::Key_Exclam, "c", "Ctrl+!");
+    row(Qt::Key_Space, "m", "Meta+Space");
+    row(Qt::Key_Print, "a", "Alt+Print");
+    row(Qt::Key_Delete, "csam", "Meta+Ctrl+Alt+Shift+Del");
+    row(Qt::Key_Super_L, "", "Super_L");
+    row(Qt::Key_Super_R, "c", "Ctrl+Super_R");
+    row(Qt::Key_Shift, "c", "Ctrl+Shift");
+    row(Qt::Key_AltGr, "", "AltGr");
+    row(Qt::Key_unknown, "cs", "Ctrl+Shift+");
+    row(Qt::Key_unknown, "", "");
+    row(0, "a", "Alt+");
+}
+
+void TestShortcut::readsAsUsersExpect()
+{
+    QFETCH(int, key);
+    QFETCH(QString, modifiers);
+    QFETCH(QString, text);
+    const auto has = [&](char modifier) {
+        return modifiers.contains(QLatin1Char(modifier));
+    };
+    OlvShortcut shortcut(Qt::Key(key), has('c'), has('s'), has('a'), has('m'));
+    QCOMPARE(shortcut.toString(), text);
+}
+
+void TestShortcut::canBeReplacedByAnApplications()
+{
+    class Own : public OlvShortcut
+    {
+    public:
+        Own()
+            : OlvShortcut(Qt::Key_A, false, false, false, false)
+        { }
+        bool active() override
+        {
+            return true;
+        }
+        void destroy() override
+        {
+            destroyed = true;
+        }
+        QString toString() override
+        {
+            return QStringLiteral("own");
+        }
+        bool destroyed = false;
+    } own;
+    OlvShortcut *shortcut = &own;
+    QVERIFY(shortcut->active());
+    QCOMPARE(shortcut->toString(), QStringLiteral("own"));
+    shortcut->destroy();
+    QVERIFY(own.destroyed);
+}
+
+void TestShortcut::isFoundByItsAddressWhileItLives()
+{
+    auto *parent = new QObject;
+    const QPointer<OlvShortcut> shortcut(
+        new OlvShortcut(Qt::Key_A, false, false, false, false, parent));
+    const auto address = reinterpret_cast<qulonglong>(shortcut.data());
+    QCOMPARE(shortcut->parent(), parent);
+    QCOMPARE(OlvShortcut::fromAddress(address), shortcut.data());
+    QCOMPARE(OlvShortcut::fromAddress(address + 1), nullptr);
+    QCOMPARE(OlvShortcut::fromAddress(0), nullptr);
+    delete parent;
+    QVERIFY(shortcut.isNull());
+    QCOMPARE(OlvShortcut::fromAddress(address), nullptr);
+}
+
+QTEST_MAIN(TestShortcut)
+#include "tst_shortcut.moc"
