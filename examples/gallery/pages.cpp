@@ -8,6 +8,7 @@ QVector<PageEntry> galleryPages()
         { QStringLiteral("Buttons"), createButtonsPage },
         { QStringLiteral("Icon buttons"), createIconButtonsPage },
         { QStringLiteral("Line edits"), createLineEditsPage },
+        { QStringLiteral("Shortcuts"), createShortcutsPage },
         { QStringLiteral("Text fitting"), createTextFittingPage },
         { QStringLiteral("Switches"), createSwitchesPage },
         { QStringLiteral("Sliders"), createSlidersPage },

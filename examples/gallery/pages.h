@@ -21,6 +21,7 @@ Page *createStartUpPage(QWidget *parent);
 Page *createButtonsPage(QWidget *parent);
 Page *createIconButtonsPage(QWidget *parent);
 Page *createLineEditsPage(QWidget *parent);
+Page *createShortcutsPage(QWidget *parent);
 Page *createTextFittingPage(QWidget *parent);
 Page *createSwitchesPage(QWidget *parent);
 Page *createSlidersPage(QWidget *parent);
