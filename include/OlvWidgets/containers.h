@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/olvwidgets_export.h>
+
+#include <QColor>
+#include <QList>
+#include <QWidget>
+
+class QLabel;
+class QScrollBar;
+
+/**
+ * @file containers.h
+ * Containers.
+ */
+
+/**
+ * A container that puts widgets into rows from the left to the right, each as large as it is, and
+ * begins a new row when the next one does not fit.
+ *
+ * It works in one of two modes, which its parent decides once, when the grid is made:
+ *
+ * - in a window (a parent that has no parent of its own, or is a window itself) the grid lies at
+ *   (1, 1), follows the window's width less 2 pixels, and makes the window as high as its content
+ *   takes. The dynamic property "isSubWindow" (bool) is true.
+ * - in an ordinary child, its viewport, it grows as high as its content and scrolls with a bar of
+ * its own, a sibling of the grid, and with the wheel. "isSubWindow" is false.
+ *
+ * An empty grid shows "空". The widgets are made as children of the grid, sized and shown by the
+ * application; the grid moves them and nothing else, and only delWidget() deletes one. A widget
+ * that the application deletes leaves the grid by itself, and its place is taken at the next
+ * reflow.
+ *
+ * @code
+ * auto *grid = new OlvGridLayout(viewport);
+ * QList<QWidget *> tiles;
+ * for (const Item &item : items) {
+ *     auto *tile = new OlvIconButton(item.icon, item.name, "FontAwesome", grid, 80, 80);
+ *     tiles.append(tile);
+ * }
+ * grid->addWidget(tiles); // one reflow for all of them
+ * @endcode
+ *
+ * The grid's changes of size follow those of its parent 300 milliseconds after the last one. Two
+ * more dynamic properties, "ScrollBar" and "ResizeTimer" (qulonglong, addresses), are the library's
+ * own.
+ */
+class OLVWIDGETS_EXPORT OlvGridLayout : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /**
+     * An empty grid in @p parent, which owns it, and the scroll bar as well. Without a parent it is
+     * a window of its own that reflows and does nothing else.
+     */
+    explicit OlvGridLayout(QWidget *parent = nullptr);
+    /** Leaves the widgets to their parents. */
+    ~OlvGridLayout() override;
+
+    /**
+     * Appends @p widget and reflows; a null widget is ignored. Many widgets are added quicker by
+     * the list: each call of this one reflows all.
+     */
+    void addWidget(QWidget *widget);
+    /** Appends all of @p widgets in their order, and reflows once. */
+    void addWidget(QList<QWidget *> widgets);
+    /** Inserts @p widget before @p before and reflows; false, and nothing done, without such a one.
+     */
+    bool insWidget(QWidget *widget, QWidget *before);
+    /** Deletes @p widget, takes it out and reflows; false, and nothing done, for one not in it. */
+    bool delWidget(QWidget *widget);
+
+    /** Sets the margin around and the gap between the widgets (15 pixels at first) and reflows. */
+    void setMargin(int margin);
+    /** Stores a spacing (20 pixels at first), which the arrangement does not read, and reflows. */
+    void setSpacing(int spacing);
+
+    /** Puts every widget into its place, and adjusts the scroll bar or the window. */
+    void reUi();
+    /** Asks for a reflow to the parent's size in 300 milliseconds; asking again starts them anew.
+     */
+    void resized();
+
+    /** Asks for a reflow when the parent is resized; consumes nothing. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    /** Scrolls by 20 units of 25 pixels a notch, not beyond the ends; nothing in a window. */
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    bool isSubWindow() const;
+    QScrollBar *scrollBar() const;
+    void makeScrollBar();
+    void watch(QWidget *widget);
+    void fitParent();
+    void arrange();
+    void fitScrollBar();
+
+    int m_margin = 15;
+    int m_spacing = 20;
+    int m_scrollStep = 25;
+    QList<QWidget *> m_widgets;
+    QLabel *m_emptyLabel;
+    int m_viewHeight = 0;
+};
+
+/**
+ * A frameless, translucent, rounded panel that the user moves by dragging anywhere on it and
+ * resizes by its right edge, its bottom edge and its bottom right corner.
+ *
+ * It can stay above or below other windows, become a tool window, and bear a coloured band on one
+ * of its sides. It is at least 50 by 50 pixels large. Two seconds after it was last resized, all of
+ * its new area moves it and its handles lie at its new edges (a drag of a handle places them at
+ * once).
+ *
+ * Its state lies in the dynamic properties "stay" (int, an OlvStayType), "headerWay" (int, a
+ * HeaderWay or 0), "headerWayColor" (uint, 0xAARRGGBB) and "resizeTimer" (qulonglong, the library's
+ * own).
+ *
+ * @code
+ * auto *note = new OlvFlexWidget(240, 180);
+ * note->setHeaderWay(OlvFlexWidget::HeaderTop, QColor(64, 158, 255));
+ * note->stay(OlvFlexWidget::StayTop); // shows it
+ * @endcode
+ */
+class OLVWIDGETS_EXPORT OlvFlexWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** How the panel is stacked. */
+    enum OlvStayType {
+        StayNormal = 0,  ///< as any window
+        StayTop = 1,     ///< above the others
+        StayBottom = -1, ///< below the others
+    };
+    /** The side that the coloured band lies on. */
+    enum HeaderWay {
+        HeaderTop = 1,    ///< along the top
+        HeaderLeft = 2,   ///< along the left side
+        HeaderBottom = 3, ///< along the top as well, shifted right by the height less 10 pixels
+        HeaderRight = 4,  ///< along the right side
+    };
+
+    /** A panel of @p width by @p height pixels in @p parent, which owns it. */
+    OlvFlexWidget(int width, int height, QWidget *parent = nullptr);
+
+    /**
+     * Changes how the panel is stacked, and shows it, since a change of its window flags hides it.
+     * Nothing happens when it is stacked so already.
+     */
+    void stay(OlvStayType type);
+    /** Makes the panel a tool window, or a plain one again, and shows it. */
+    void toggleTool();
+    /**
+     * Sets the band, 10 pixels thick, drawn opaque whatever the alpha of @p color. A way that is
+     * none is ignored, its colour too. Repaints nothing.
+     */
+    void setHeaderWay(HeaderWay way, QColor color);
+
+Q_SIGNALS:
+    /** For applications to emit; the panel does not. */
+    void clicked();
+
+protected:
+    /** Draws the panel and its band; square instead of rounded while it is maximised. */
+    void paintEvent(QPaintEvent *event) override;
+    /** Starts the two seconds anew. */
+    void resizeEvent(QResizeEvent *event) override;
+};

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/containers.h>
+#include <OlvWidgets/frame.h>
+
+#include "foundation/childataddress_p.h"
+
+#include <QPainter>
+#include <QTimer>
+
+namespace {
+
+constexpr char stayProperty[] = "stay";
+constexpr char headerWayProperty[] = "headerWay";
+constexpr char headerColorProperty[] = "headerWayColor";
+constexpr char resizeTimerProperty[] = "resizeTimer";
+
+constexpr int noHeader = 0;
+constexpr int smallestSide = 50;
+constexpr int handleWidth = 3;
+constexpr int settlingTime = 2000; // milliseconds
+constexpr qreal cornerRadius = 5.0;
+constexpr int headerThickness = 10;
+constexpr QRgb frameColor = qRgb(207, 207, 207);
+constexpr QRgb fillColor = qRgb(245, 245, 245);
+
+Qt::WindowFlags hintOf(int stayType)
+{
+    switch (stayType) {
+    case OlvFlexWidget::StayTop:
+        return Qt::WindowStaysOnTopHint;
+    case OlvFlexWidget::StayBottom:
+        return Qt::WindowStaysOnBottomHint;
+    default:
+        return {};
+    }
+}
+
+QRectF headerRect(int way, QSize size)
+{
+    const int width = size.width();
+    const int height = size.height();
+    switch (way) {
+    case OlvFlexWidget::HeaderTop:
+        return QRectF(0, 0, width, headerThickness);
+    case OlvFlexWidget::HeaderLeft:
+        return QRectF(0, 0, headerThickness, height);
+    case OlvFlexWidget::HeaderBottom:
+        return QRectF(height - headerThickness, 0, width, headerThickness);
+    case OlvFlexWidget::HeaderRight:
+        return QRectF(width - headerThickness, 0, headerThickness, height);
+    default:
+        return QRectF();
+    }
+}
+
+} // namespace
+
+OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
+    : QWidget(parent)
+{
+    setProperty(stayProperty, int(StayNormal));
+    setProperty(headerWayProperty, noHeader);
+    setMinimumSize(smallestSide, smallestSide);
+    resize(width, height);
+    setWindowFlags(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+
+    auto *resizer = new OlvResizeWidget(this, handleWidth);
+    auto *mover = new OlvMoveWidget(this);
+    mover->setMoveArea(rect());
+    auto *timer = new QTimer(this);
+    timer->setInterval(settlingTime);
+    setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
+    const QPointer<OlvResizeWidget> resizing(resizer);
+    const QPointer<OlvMoveWidget> moving(mover);
+    connect(timer, &QTimer::timeout, this, [=] {
+        timer->stop();
+        if (moving) {
+            moving->setMoveArea(rect());
+        }
+        if (resizing) {
+            resizing->reset();
+        }
+    });
+}
+
+void OlvFlexWidget::stay(OlvStayType type)
+{
+    const int before = property(stayProperty).toInt();
+    if (before == type) {
+        return;
+    }
+    const Qt::WindowFlags flags = (windowFlags() ^ hintOf(before)) | hintOf(type);
+    setProperty(stayProperty, int(type));
+    setWindowFlags(flags);
+    show();
+}
+
+void OlvFlexWidget::toggleTool()
+{
+    setWindowFlags(windowFlags() ^ Qt::Tool);
+    show();
+}
+
+void OlvFlexWidget::setHeaderWay(HeaderWay way, QColor color)
+{
+    if (way < HeaderTop || way > HeaderRight) {
+        return;
+    }
+    setProperty(headerWayProperty, int(way));
+    setProperty(headerColorProperty, color.rgba());
+}
+
+void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const auto drawArea = [&](const QRectF &area) {
+        if (isMaximized()) {
+            painter.drawRects(&area, 1);
+        } else {
+            painter.drawRoundedRect(area, cornerRadius, cornerRadius);
+        }
+    };
+    painter.setPen(QColor(frameColor));
+    painter.setBrush(QColor(fillColor));
+    drawArea(QRectF(0, 0, width(), height()));
+
+    const int way = property(headerWayProperty).toInt();
+    if (way == noHeader) {
+        return;
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(property(headerColorProperty).toUInt()));
+    drawArea(headerRect(way, size()));
+}
+
+void OlvFlexWidget::resizeEvent(QResizeEvent * /*event*/)
+{
+    if (auto *timer = childAtAddress<QTimer>(this, property(resizeTimerProperty))) {
+        timer->start(); // anew when it runs already
+    }
+}

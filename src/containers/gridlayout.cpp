@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/containers.h>
+
+#include "foundation/childataddress_p.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTimer>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr char subWindowProperty[] = "isSubWindow";
+constexpr char scrollBarProperty[] = "ScrollBar";
+constexpr char resizeTimerProperty[] = "ResizeTimer";
+
+/** The flags of a parent that is a window: Qt::Window, Qt::Dialog, Qt::Tool and their kin. */
+constexpr int windowBits = 0x0d;
+constexpr int windowBorder = 1;
+constexpr int emptyHeight = 50;
+constexpr int emptyPointSize = 16;
+constexpr int settlingTime = 300; // milliseconds
+constexpr int barWidth = 10;
+constexpr int barDistance = 13;
+constexpr int unitsPerNotch = 20;
+
+bool isInWindow(const QWidget *parent)
+{
+    return !parent || !parent->parent() || (int(parent->windowFlags()) & windowBits) != 0;
+}
+
+/** A coordinate or a length that a widget can have. */
+int toPixels(qint64 value)
+{
+    return int(qBound<qint64>(-QWIDGETSIZE_MAX, value, QWIDGETSIZE_MAX));
+}
+
+/** What QWheelEvent::delta() said: the turn about the axis that was turned further. */
+int deltaOf(const QWheelEvent *event)
+{
+    const QPoint angle = event->angleDelta();
+    return qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y();
+}
+
+} // namespace
+
+OlvGridLayout::OlvGridLayout(QWidget *parent)
+    : QWidget(parent)
+{
+    if (parent) {
+        m_viewHeight = parent->height();
+    }
+    m_emptyLabel = new QLabel(QStringLiteral("空"), this);
+    m_emptyLabel->setFont(QFont(QStringLiteral("楷体"), emptyPointSize));
+    m_emptyLabel->resize(size());
+    m_emptyLabel->setAlignment(Qt::AlignCenter);
+    m_emptyLabel->setStyleSheet(QStringLiteral("color: rgb(33, 33, 33);"));
+    if (parent) {
+        parent->installEventFilter(this);
+    }
+
+    setProperty(subWindowProperty, isInWindow(parent));
+    if (isSubWindow()) {
+        move(windowBorder, windowBorder);
+    } else {
+        makeScrollBar();
+    }
+
+    auto *timer = new QTimer(this);
+    timer->setInterval(settlingTime);
+    connect(timer, &QTimer::timeout, this, [this, timer] {
+        timer->stop();
+        fitParent();
+        reUi();
+    });
+    setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
+}
+
+OlvGridLayout::~OlvGridLayout()
+{
+    // The children are destroyed after the list is: they must not be looked for in it then.
+    for (QWidget *widget : qAsConst(m_widgets)) {
+        widget->disconnect(this);
+    }
+}
+
+void OlvGridLayout::addWidget(QWidget *widget)
+{
+    addWidget(QList<QWidget *>{ widget });
+}
+
+void OlvGridLayout::addWidget(QList<QWidget *> widgets)
+{
+    for (QWidget *widget : qAsConst(widgets)) {
+        if (widget) {
+            watch(widget);
+            m_widgets.append(widget);
+        }
+    }
+    reUi();
+}
+
+bool OlvGridLayout::insWidget(QWidget *widget, QWidget *before)
+{
+    const int place = m_widgets.indexOf(before);
+    if (!widget || place < 0) {
+        return false;
+    }
+    watch(widget);
+    m_widgets.insert(place, widget);
+    reUi();
+    return true;
+}
+
+bool OlvGridLayout::delWidget(QWidget *widget)
+{
+    if (!m_widgets.removeOne(widget)) {
+        return false;
+    }
+    const QPointer<OlvGridLayout> self(this);
+    delete widget;
+    if (self) {
+        reUi();
+    }
+    return true;
+}
+
+void OlvGridLayout::setMargin(int margin)
+{
+    m_margin = margin;
+    reUi();
+}
+
+void OlvGridLayout::setSpacing(int spacing)
+{
+    m_spacing = spacing;
+    reUi();
+}
+
+void OlvGridLayout::reUi()
+{
+    QWidget *parent = parentWidget();
+    if (m_widgets.isEmpty()) {
+        resize(width(), isSubWindow() || !parent ? emptyHeight : parent->height());
+        m_emptyLabel->show();
+    } else {
+        m_emptyLabel->hide();
+        arrange();
+        if (!isSubWindow()) {
+            fitScrollBar();
+        } else if (parent) {
+            parent->resize(parent->width(), height() + 2 * windowBorder);
+        }
+    }
+    m_emptyLabel->resize(size());
+}
+
+void OlvGridLayout::resized()
+{
+    if (auto *timer = childAtAddress<QTimer>(this, property(resizeTimerProperty))) {
+        timer->start();
+    }
+}
+
+bool OlvGridLayout::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize) {
+        resized();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void OlvGridLayout::wheelEvent(QWheelEvent *event)
+{
+    QScrollBar *bar = scrollBar();
+    if (isSubWindow() || !bar) {
+        return;
+    }
+    const int units = deltaOf(event) < 0 ? unitsPerNotch : -unitsPerNotch;
+    bar->setValue(qBound(0, bar->value() + units, bar->maximum()));
+}
+
+bool OlvGridLayout::isSubWindow() const
+{
+    return property(subWindowProperty).toBool();
+}
+
+QScrollBar *OlvGridLayout::scrollBar() const
+{
+    return parent() ? childAtAddress<QScrollBar>(parent(), property(scrollBarProperty)) : nullptr;
+}
+
+void OlvGridLayout::makeScrollBar()
+{
+    // a sibling of the grid, so that it does not scroll along
+    auto *bar = new QScrollBar(Qt::Vertical, parentWidget());
+    bar->setGeometry(width() - barDistance, 0, barWidth, m_viewHeight);
+    setProperty(scrollBarProperty, reinterpret_cast<qulonglong>(bar));
+    bar->setStyleSheet(
+        QStringLiteral("QScrollBar{width:10px;background:rgba(0,0,0,10%);border-radius:5px}"
+                       "QScrollBar::handle{background:rgba(0,0,0,25%);border-radius:5px}"
+                       "QScrollBar::handle:hover{background:rgba(0,0,0,50%)}"
+                       "QScrollBar::add-line,QScrollBar::sub-line{border:none}"
+                       "QScrollBar::sub-page,QScrollBar::add-page{background:rgba(0,0,0,0)}"));
+    bar->hide();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this](int value) { move(0, toPixels(-qint64(value) * m_scrollStep)); });
+}
+
+void OlvGridLayout::watch(QWidget *widget)
+{
+    connect(widget, &QObject::destroyed, this, [this, widget] { m_widgets.removeAll(widget); });
+}
+
+void OlvGridLayout::fitParent()
+{
+    const QWidget *parent = parentWidget();
+    if (!parent) {
+        return;
+    }
+    m_viewHeight = parent->height();
+    if (isSubWindow()) {
+        resize(parent->width() - 2 * windowBorder, height());
+        return;
+    }
+    resize(parent->width(), height());
+    if (QScrollBar *bar = scrollBar()) {
+        bar->setGeometry(width() - barDistance, 0, barWidth, m_viewHeight);
+    }
+}
+
+void OlvGridLayout::arrange()
+{
+    const qint64 available = qint64(width()) - m_margin;
+    qint64 right = 0; // of what stands last in the row
+    qint64 top = m_margin;
+    int rowHeight = 0;
+    const QList<QWidget *> widgets = m_widgets;
+    for (QWidget *widget : widgets) {
+        const qint64 end = right + m_margin + widget->width();
+        if (end <= available) {
+            widget->move(toPixels(right + m_margin), toPixels(top));
+            right = end;
+        } else {
+            top += rowHeight + m_margin;
+            rowHeight = 0;
+            widget->move(toPixels(m_margin), toPixels(top));
+            right = qint64(m_margin) + widget->width();
+        }
+        rowHeight = qMax(rowHeight, widget->height());
+    }
+    resize(width(), toPixels(top + rowHeight + m_margin));
+}
+
+void OlvGridLayout::fitScrollBar()
+{
+    QScrollBar *bar = scrollBar();
+    if (!bar) {
+        return;
+    }
+    if (m_viewHeight < height()) {
+        bar->setMaximum((height() - m_viewHeight) / m_scrollStep);
+        bar->show();
+    } else {
+        bar->hide();
+    }
+}

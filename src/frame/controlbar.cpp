@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/frame.h>
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSpacerItem>
+#include <QVariant>
+
+#include <array>
+
+namespace {
+
+constexpr int barHeight = 25;
+constexpr int buttonSize = 25;
+constexpr int glyphSize = 8; // points
+constexpr int restoreIcon = 6;
+constexpr int firstCustomIcon = 7;
+
+constexpr char indexProperty[] = "index";
+constexpr char maximiseProperty[] = "max";
+constexpr char restoreProperty[] = "normal";
+
+struct WindowButton
+{
+    OlvControlBar::WindowState state;
+    const char *tip;
+};
+
+constexpr std::array<WindowButton, 6> windowButtons{ {
+    { OlvControlBar::Float, "悬浮" },
+    { OlvControlBar::Bottom, "置底" },
+    { OlvControlBar::Top, "置顶" },
+    { OlvControlBar::Min, "最小化" },
+    { OlvControlBar::Max, "最大化" },
+    { OlvControlBar::Close, "关闭" },
+} };
+
+QString actionStyleSheet()
+{
+    return QStringLiteral(
+        "QPushButton{border:none;color:rgb(198,198,198);}"
+        "QPushButton:hover{color:rgb(32,32,32);background-color:rgb(198,198,198)}");
+}
+
+QString toggleStyleSheet()
+{
+    return QStringLiteral("QPushButton{border:none;color:rgb(198,198,198)}"
+                          "QPushButton:hover{color:rgb(32,32,32);background-color:rgb(198,198,198)}"
+                          "QPushButton:checked{color:rgb(32,32,32)}");
+}
+
+/** The state that a button stands for; null when its property has been overwritten with none. */
+const OlvControlBar::WindowState *stateOf(const QPushButton *button)
+{
+    const uint index = button->property(indexProperty).toUInt();
+    return index < windowButtons.size() ? &windowButtons[index].state : nullptr;
+}
+
+} // namespace
+
+OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const QStringList &tips)
+    : QWidget(parent)
+{
+    setFixedHeight(barHeight);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addSpacerItem(
+        new QSpacerItem(buttonSize, buttonSize, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    for (int i = 0; i < tips.size(); ++i) {
+        addCustomButton(icons, i, tips.at(i));
+    }
+    for (int i = 0; i < int(windowButtons.size()); ++i) {
+        addWindowButton(icons, i);
+    }
+
+    // Connected after the signal of each button, which tells the click before the other one
+    // changes; that change is silent.
+    const QPointer<QPushButton> bottom(m_buttons.at(tips.size() + Bottom));
+    const QPointer<QPushButton> top(m_buttons.at(tips.size() + Top));
+    const auto exclude = [](QPushButton *clicked, QPushButton *other) {
+        if (clicked && other && clicked->isChecked() && other->isChecked()) {
+            other->setChecked(false);
+        }
+    };
+    connect(bottom, &QPushButton::clicked, this, [=] { exclude(bottom, top); });
+    connect(top, &QPushButton::clicked, this, [=] { exclude(top, bottom); });
+}
+
+QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,
+                                      const QString &tip)
+{
+    auto *button = new QPushButton(icon < icons.size() ? QString(icons.at(icon)) : QString());
+    button->setFixedSize(buttonSize, buttonSize);
+    button->setProperty(indexProperty, index);
+    button->setToolTip(tip);
+    layout()->addWidget(button);
+    button->setFont(QFont(QStringLiteral("FontAwesome"), glyphSize));
+    m_buttons.append(button);
+    return button;
+}
+
+void OlvControlBar::addCustomButton(const QList<QChar> &icons, int index, const QString &tip)
+{
+    QPushButton *button = addButton(icons, firstCustomIcon + index, index, tip);
+    button->setStyleSheet(actionStyleSheet());
+    connect(button, &QPushButton::clicked, this,
+            [=] { Q_EMIT custom(button->property(indexProperty).toInt()); });
+}
+
+void OlvControlBar::addWindowButton(const QList<QChar> &icons, int index)
+{
+    const WindowButton &kind = windowButtons[size_t(index)];
+    QPushButton *button = addButton(icons, index, index, QString::fromUtf8(kind.tip));
+    switch (kind.state) {
+    case Float:
+    case Bottom:
+    case Top:
+        button->setCheckable(true);
+        button->setStyleSheet(toggleStyleSheet());
+        connect(button, &QPushButton::clicked, this, [=] { tellToggled(button); });
+        break;
+    case Max:
+        button->setStyleSheet(actionStyleSheet());
+        button->setCheckable(true);
+        button->setProperty(maximiseProperty, icons.value(index));
+        button->setProperty(restoreProperty, icons.value(restoreIcon));
+        connect(button, &QPushButton::clicked, this, [=] { tellMaximised(button); });
+        break;
+    case Min:
+    case Close:
+        button->setStyleSheet(actionStyleSheet());
+        connect(button, &QPushButton::clicked, this, [=] {
+            if (const WindowState *state = stateOf(button)) {
+                Q_EMIT changed(*state, true);
+            }
+        });
+        break;
+    }
+}
+
+void OlvControlBar::tellToggled(QPushButton *button)
+{
+    if (const WindowState *state = stateOf(button)) {
+        Q_EMIT changed(*state, button->isChecked());
+    }
+}
+
+void OlvControlBar::tellMaximised(QPushButton *button)
+{
+    const QPointer<QPushButton> guarded(button);
+    tellToggled(button);
+    if (!guarded) {
+        return;
+    }
+    const bool checked = button->isChecked();
+    button->setText(button->property(checked ? restoreProperty : maximiseProperty).toString());
+    button->setToolTip(checked ? QStringLiteral("还原") : QStringLiteral("最大化"));
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include <OlvDragWidget>
+
+#include <QTest>
+
+class TestDragWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAPlainWidgetWhateverItIsTold();
+    void hasAMetaObjectWithItsNameAlone();
+};
+
+void TestDragWidget::isAPlainWidgetWhateverItIsTold()
+{
+    QWidget parent;
+    const QWidget plain(&parent);
+    const OlvDragWidget bare(&parent, nullptr, nullptr, QPoint(-5, 99999));
+    const OlvDragWidget told(&parent, &parent, &parent, QPoint(3, 4));
+    for (const OlvDragWidget *widget : { &bare, &told }) {
+        QCOMPARE(widget->parentWidget(), &parent);
+        QCOMPARE(widget->windowFlags(), plain.windowFlags());
+        QCOMPARE(widget->geometry(), plain.geometry());
+        QVERIFY(widget->children().isEmpty());
+        QVERIFY(widget->dynamicPropertyNames().isEmpty());
+    }
+}
+
+void TestDragWidget::hasAMetaObjectWithItsNameAlone()
+{
+    const QMetaObject &meta = OlvDragWidget::staticMetaObject;
+    QCOMPARE(meta.className(), "OlvDragWidget");
+    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
+    QCOMPARE(meta.methodCount(), meta.methodOffset());
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+}
+
+QTEST_MAIN(TestDragWidget)
+#include "tst_dragwidget.moc"
