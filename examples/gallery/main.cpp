@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "framelesswindow.h"
 #include "gallerywindow.h"
 
 #include <OlvGlobal>
@@ -7,6 +8,8 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QTextStream>
+
+#include <memory>
 
 int main(int argc, char **argv)
 {
@@ -25,7 +28,10 @@ int main(int argc, char **argv)
         QStringLiteral("screenshots"),
         QStringLiteral("Write a PNG of every page to the folder DIR, and exit."),
         QStringLiteral("DIR"));
-    parser.addOptions({ page, screenshots });
+    const QCommandLineOption frameless(
+        QStringLiteral("frameless"),
+        QStringLiteral("Run in a window without a frame, of the library's own widgets."));
+    parser.addOptions({ page, screenshots, frameless });
     parser.process(application);
 
     // "Font" and "fonts" lie beside the program, and the font job looks for them here; a folder
@@ -35,15 +41,20 @@ int main(int argc, char **argv)
     OlvGlobal::init();
 
     QTextStream errors(stderr);
-    GalleryWindow window;
-    if (parser.isSet(page) && !window.showPage(parser.value(page))) {
+    auto *gallery = new GalleryWindow;
+    std::unique_ptr<QWidget> window(gallery);
+    if (parser.isSet(page) && !gallery->showPage(parser.value(page))) {
         errors << "There is no page \"" << parser.value(page)
-               << "\". The pages are: " << window.pageNames().join(QStringLiteral(", ")) << '\n';
+               << "\". The pages are: " << gallery->pageNames().join(QStringLiteral(", ")) << '\n';
         return 1;
     }
-    window.show();
+    if (parser.isSet(frameless)) {
+        window.release(); // it is the frameless window's from here on
+        window = std::make_unique<FramelessWindow>(gallery->windowTitle(), gallery);
+    }
+    window->show();
     if (parser.isSet(screenshots)) {
-        if (!window.writePictures(pictures)) {
+        if (!gallery->writePictures(pictures)) {
             errors << "The pictures could not be written to " << pictures << '\n';
             return 1;
         }

@@ -12,5 +12,8 @@ QVector<PageEntry> galleryPages()
         { QStringLiteral("Text fitting"), createTextFittingPage },
         { QStringLiteral("Switches"), createSwitchesPage },
         { QStringLiteral("Sliders"), createSlidersPage },
+        { QStringLiteral("Control bar"), createControlBarPage },
+        { QStringLiteral("Flow grid"), createFlowGridPage },
+        { QStringLiteral("Flex panel"), createFlexPanelPage },
     };
 }

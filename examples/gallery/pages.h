@@ -25,3 +25,6 @@ Page *createShortcutsPage(QWidget *parent);
 Page *createTextFittingPage(QWidget *parent);
 Page *createSwitchesPage(QWidget *parent);
 Page *createSlidersPage(QWidget *parent);
+Page *createControlBarPage(QWidget *parent);
+Page *createFlowGridPage(QWidget *parent);
+Page *createFlexPanelPage(QWidget *parent);

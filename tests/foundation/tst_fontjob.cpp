@@ -268,6 +268,10 @@ void TestFontJob::leavingDuringTheJobIsSafe()
     for (int run = 0; run < 20; ++run) {
         QProcess program;
         program.setWorkingDirectory(m_home.path());
+        // what counts is that it does not crash: whoever leaves so early need not clean up
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
+        program.setProcessEnvironment(environment);
         program.start(QStringLiteral(OLV_INIT_AND_LEAVE), { way });
         QVERIFY(program.waitForFinished());
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "framelesswindow.h"
+
+#include <OlvMoveWidget>
+#include <OlvResizeWidget>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int headerHeight = 36;
+constexpr int handleWidth = 5;
+constexpr QSize smallestSize(480, 360);
+
+/** The glyphs of the six window buttons, that of "restore", and one of the application's own. */
+QList<QChar> glyphs()
+{
+    return { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf129 };
+}
+
+} // namespace
+
+FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
+    : m_bar(new OlvControlBar(glyphs(), nullptr, { QStringLiteral("About") }))
+{
+    setWindowTitle(title);
+    setWindowFlags(Qt::FramelessWindowHint);
+    setMinimumSize(smallestSize);
+
+    auto *header = new QHBoxLayout;
+    header->setContentsMargins(16, 0, 8, 0);
+    // the mouse goes through the title to the window, which is moved by it
+    auto *label = new QLabel(title);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    header->addWidget(label);
+    header->addWidget(m_bar, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 0, 1, 1);
+    layout->setSpacing(0);
+    layout->addLayout(header);
+    layout->addWidget(content, 1);
+    header->setSpacing(0);
+    m_bar->setMinimumHeight(headerHeight);
+    resize(content->size() + QSize(2, headerHeight));
+
+    m_mover = new OlvMoveWidget(this);
+    m_mover->setMoveArea(QRect(0, 0, width(), headerHeight));
+    m_resizer = new OlvResizeWidget(this, handleWidth);
+
+    connect(m_bar, &OlvControlBar::changed, this, &FramelessWindow::change);
+    connect(m_bar, &OlvControlBar::custom, this, [=] {
+        QMessageBox::information(this, title,
+                                 QStringLiteral("A window without a frame, of widgets only."));
+    });
+}
+
+void FramelessWindow::resizeEvent(QResizeEvent * /*event*/)
+{
+    m_mover->setMoveArea(QRect(0, 0, width(), headerHeight));
+    m_resizer->reset();
+}
+
+void FramelessWindow::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setPen(QColor(207, 207, 207));
+    painter.setBrush(QColor(245, 247, 250));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void FramelessWindow::change(OlvControlBar::WindowState state, bool checked)
+{
+    switch (state) {
+    case OlvControlBar::Float:
+        setFlag(Qt::Tool, checked);
+        break;
+    case OlvControlBar::Bottom:
+        // the bar unchecks the other button by itself, and tells only of this one
+        setWindowFlag(Qt::WindowStaysOnTopHint, false);
+        setFlag(Qt::WindowStaysOnBottomHint, checked);
+        break;
+    case OlvControlBar::Top:
+        setWindowFlag(Qt::WindowStaysOnBottomHint, false);
+        setFlag(Qt::WindowStaysOnTopHint, checked);
+        break;
+    case OlvControlBar::Min:
+        showMinimized();
+        break;
+    case OlvControlBar::Max:
+        checked ? showMaximized() : showNormal();
+        break;
+    case OlvControlBar::Close:
+        close();
+        break;
+    }
+}
+
+void FramelessWindow::setFlag(Qt::WindowType flag, bool on)
+{
+    const QPoint place = pos();
+    setWindowFlags(on ? windowFlags() | flag : (windowFlags() & ~flag) | Qt::Window);
+    // a change of its flags hides a window
+    move(place);
+    show();
+}
