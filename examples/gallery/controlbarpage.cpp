@@ -37,8 +37,9 @@ QWidget *makeMovableBox(QWidget *stage)
                                           "drag me, or my edges at the right and the bottom"),
                            stage);
     box->setAlignment(Qt::AlignCenter);
-    box->setStyleSheet(QStringLiteral("background: rgb(236,245,255); color: rgb(64,158,255);"
-                                      "border: 1px solid rgb(179,216,255);"));
+    box->setStyleSheet(
+        QStringLiteral("QLabel { background: rgb(236,245,255); color: rgb(64,158,255);"
+                       "border: 1px solid rgb(179,216,255); }"));
     box->setGeometry(20, 20, 360, 130);
     box->setMinimumSize(120, 50);
     auto *mover = new OlvMoveWidget(box);

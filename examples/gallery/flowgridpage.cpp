@@ -70,6 +70,7 @@ Page *createFlowGridPage(QWidget *parent)
     viewport->setMinimumHeight(200);
     auto *grid = new OlvGridLayout(viewport);
     grid->setObjectName(QStringLiteral("grid"));
+    grid->resize(viewport->size()); // until it follows the viewport's first resize
 
     const auto tiles = std::make_shared<QList<QWidget *>>();
     const auto number = std::make_shared<int>(0);

@@ -12,7 +12,9 @@
 
 namespace {
 
-constexpr int headerHeight = 36;
+constexpr int headerMargin = 6;
+/** The control bar's height, and the margins above and below it. */
+constexpr int headerHeight = 25 + 2 * headerMargin;
 constexpr int handleWidth = 5;
 constexpr QSize smallestSize(480, 360);
 
@@ -32,7 +34,7 @@ FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
     setMinimumSize(smallestSize);
 
     auto *header = new QHBoxLayout;
-    header->setContentsMargins(16, 0, 8, 0);
+    header->setContentsMargins(16, headerMargin, 8, headerMargin);
     // the mouse goes through the title to the window, which is moved by it
     auto *label = new QLabel(title);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -43,8 +45,6 @@ FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
     layout->setSpacing(0);
     layout->addLayout(header);
     layout->addWidget(content, 1);
-    header->setSpacing(0);
-    m_bar->setMinimumHeight(headerHeight);
     resize(content->size() + QSize(2, headerHeight));
 
     m_mover = new OlvMoveWidget(this);

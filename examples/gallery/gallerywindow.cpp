@@ -17,7 +17,7 @@ namespace {
 constexpr int listWidth = 170;
 constexpr QSize windowSize(1000, 700);
 /** How long a page may take to settle before its picture is taken, in milliseconds. */
-constexpr int settlingTime = 150;
+constexpr int settlingTime = 450;
 
 void settle()
 {
@@ -37,6 +37,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     QPalette colors = palette();
     colors.setColor(QPalette::Window, Qt::white);
     setPalette(colors);
+    setAutoFillBackground(true); // within another window too
     resize(windowSize);
 
     m_names->setFixedWidth(listWidth);

@@ -82,6 +82,21 @@ void RealInput::releaseKey(quint32 symbol)
     send(XCB_KEY_RELEASE, keycodeOf(symbol));
 }
 
+QRect RealInput::geometryOf(quintptr window) const
+{
+    xcb_connection_t *connection = m_server->connection;
+    const auto id = xcb_window_t(window);
+    xcb_get_geometry_reply_t *size =
+        xcb_get_geometry_reply(connection, xcb_get_geometry(connection, id), nullptr);
+    xcb_translate_coordinates_reply_t *place = xcb_translate_coordinates_reply(
+        connection, xcb_translate_coordinates(connection, id, m_server->root, 0, 0), nullptr);
+    const QRect geometry =
+        size && place ? QRect(place->dst_x, place->dst_y, size->width, size->height) : QRect();
+    std::free(size);
+    std::free(place);
+    return geometry;
+}
+
 void RealInput::send(quint8 type, quint8 detail, QPoint place)
 {
     xcb_test_fake_input(m_server->connection, type, detail, XCB_CURRENT_TIME, m_server->root,

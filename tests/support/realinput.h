@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QtGlobal>
 
 #include <memory>
@@ -34,6 +35,9 @@ public:
     /** Presses, or lets go of, the key that carries an X key symbol (XK_a, XK_Control_L). */
     void pressKey(quint32 symbol);
     void releaseKey(quint32 symbol);
+
+    /** Where the server has a window, in coordinates of the screen. */
+    QRect geometryOf(quintptr window) const;
 
 private:
     Q_DISABLE_COPY(RealInput)
