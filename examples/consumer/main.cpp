@@ -3,6 +3,7 @@
 // holds and leaves.
 #include <OlvSlider>
 #include <OlvWidgets/OlvGlobal>
+#include <OlvWidgets/OlvSlider>
 #include <OlvWidgets/OlvWidgets>
 #include <OlvWidgets/value.h>
 

@@ -42,15 +42,13 @@ int main(int argc, char **argv)
 
     QTextStream errors(stderr);
     auto *gallery = new GalleryWindow;
-    std::unique_ptr<QWidget> window(gallery);
+    const std::unique_ptr<QWidget> window(parser.isSet(frameless)
+                                              ? new FramelessWindow(gallery->windowTitle(), gallery)
+                                              : static_cast<QWidget *>(gallery));
     if (parser.isSet(page) && !gallery->showPage(parser.value(page))) {
         errors << "There is no page \"" << parser.value(page)
                << "\". The pages are: " << gallery->pageNames().join(QStringLiteral(", ")) << '\n';
         return 1;
-    }
-    if (parser.isSet(frameless)) {
-        window.release(); // it is the frameless window's from here on
-        window = std::make_unique<FramelessWindow>(gallery->windowTitle(), gallery);
     }
     window->show();
     if (parser.isSet(screenshots)) {

@@ -16,11 +16,17 @@ constexpr ButtonPalette danger{ { qRgb(254, 240, 240), qRgb(251, 196, 196), qRgb
 
 constexpr int shadeCount = 5;
 
-// The shades of applications, the primary ones at first. No scheme reads them: a button of an
-// unknown scheme is red, so that a mistyped name shows.
-QStringList customShades{ QStringLiteral("236,245,255"), QStringLiteral("179,216,255"),
-                          QStringLiteral("102,177,255"), QStringLiteral("64,158,255"),
-                          QStringLiteral("58,142,230") };
+/**
+ * The shades of applications, the primary ones at first. No scheme reads them: a button of an
+ * unknown scheme is red, so that a mistyped name shows.
+ */
+QStringList &customShades()
+{
+    static QStringList shades{ QStringLiteral("236,245,255"), QStringLiteral("179,216,255"),
+                               QStringLiteral("102,177,255"), QStringLiteral("64,158,255"),
+                               QStringLiteral("58,142,230") };
+    return shades;
+}
 
 } // namespace
 
@@ -41,6 +47,6 @@ const ButtonPalette &buttonPalette(const QString &color)
 void setCustomButtonShades(QStringList shades)
 {
     if (shades.size() >= shadeCount) {
-        customShades = std::move(shades);
+        customShades() = std::move(shades);
     }
 }

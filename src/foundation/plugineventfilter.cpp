@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/foundation.h>
 
-#include <utility>
-
 OlvPluginEventFilter::OlvPluginEventFilter(QObject *parent)
     : QObject(parent)
 {
@@ -21,7 +19,7 @@ void OlvPluginEventFilter::addObject(QObject *object)
 void OlvPluginEventFilter::addEventListener(QEvent::Type type,
                                             std::function<void(QEvent *)> listener)
 {
-    m_listeners.insert(type, std::move(listener));
+    m_listeners.insert(type, listener);
 }
 
 bool OlvPluginEventFilter::eventFilter(QObject *watched, QEvent *event)

@@ -34,11 +34,10 @@ public:
     {
         const ushort code = character.unicode();
         if (code >= m_latin1.size()) {
-            auto found = m_others.constFind(code);
-            if (found == m_others.cend()) {
-                found = m_others.insert(code, m_metrics.horizontalAdvance(character));
-            }
-            return *found;
+            const auto found = m_others.constFind(code);
+            return found != m_others.cend()
+                ? *found
+                : *m_others.insert(code, m_metrics.horizontalAdvance(character));
         }
         int &advance = m_latin1[code];
         if (advance == unknown) {

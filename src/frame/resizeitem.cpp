@@ -34,7 +34,7 @@ OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, 
     , m_second(second)
 {
     if (filter) {
-        installEventFilter(filter);
+        installEventFilter(filter); // clazy:exclude=install-event-filter
     }
     setCursor(cursorOf(type));
     if (type == Corner) {

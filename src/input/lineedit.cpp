@@ -34,7 +34,7 @@ OlvLineEdit::OlvLineEdit(QWidget *parent)
 {
     const QString visible = QStringLiteral("✍");
     const QString invisible = QStringLiteral("※");
-    setProperty(iconProperty, QStringLiteral(""));
+    setProperty(iconProperty, QLatin1String(""));
     setProperty(iconWidthProperty, 0);
     setProperty(passwordProperty, false);
     setProperty(visibleProperty, visible);

@@ -313,7 +313,7 @@ void TestFlexWidget::movesByTheNewAreaTwoSecondsAfterAResize()
     panel.resize(400, 300);
     QVERIFY(timerOf(panel)->isActive());
     QVERIFY(!startsMove());
-    QTest::qWait(1500);
+    QTest::qWait(1000);
     QVERIFY(!startsMove());
     QTRY_VERIFY(startsMove());
     // coarse timers may be five in a hundred early

@@ -92,7 +92,11 @@ QFont randomFont(QRandomGenerator &random)
     return font;
 }
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr int randomRounds = 200; // each takes many times as long
+#else
 constexpr int randomRounds = 3000;
+#endif
 
 } // namespace
 
