@@ -2,6 +2,7 @@
 #include <OlvWidgets/buttons.h>
 #include <OlvWidgets/foundation.h>
 
+#include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
 
 #include <QPainter>
@@ -25,21 +26,6 @@ constexpr int roundRadiusDivisor = 2;
 constexpr int radiusDivisor = 5;
 constexpr int captionPointSize = 9;
 
-QString restingState()
-{
-    return QStringLiteral("init");
-}
-
-QString hoverState()
-{
-    return QStringLiteral("hover");
-}
-
-QString pressedState()
-{
-    return QStringLiteral("click");
-}
-
 /** What the properties say about the look. */
 struct Look
 {
@@ -49,7 +35,7 @@ struct Look
 
     bool isResting() const
     {
-        return state == restingState() && !checked;
+        return state == ButtonState::resting() && !checked;
     }
     bool isPlain() const
     {
@@ -70,7 +56,7 @@ QColor fillColor(const Look &look, const ButtonPalette &palette)
     if (look.isResting()) {
         return palette[look.isPlain() ? ButtonPalette::RestingPlainFill : ButtonPalette::Fill];
     }
-    if (look.state == hoverState()) {
+    if (look.state == ButtonState::hovered()) {
         return palette[look.isPlain() ? ButtonPalette::Fill : ButtonPalette::HoverFill];
     }
     return palette[ButtonPalette::PressedFill];
@@ -92,7 +78,7 @@ OlvButton::OlvButton(QWidget *parent)
     setProperty(valueProperty, false);
     setProperty(typeProperty, QString());
     setProperty(colorProperty, QStringLiteral("primary"));
-    setProperty(stateProperty, restingState());
+    setProperty(stateProperty, ButtonState::resting());
     setProperty(hoveredProperty, false);
 }
 
@@ -164,16 +150,16 @@ void OlvButton::click(bool checked)
 
 void OlvButton::mousePressEvent(QMouseEvent * /*event*/)
 {
-    setState(pressedState());
+    setState(ButtonState::pressed());
 }
 
 void OlvButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
     if (!property(hoveredProperty).toBool()) {
-        setState(restingState());
+        setState(ButtonState::resting());
         return;
     }
-    setState(hoverState());
+    setState(ButtonState::hovered());
     const QPointer<OlvButton> self(this);
     Q_EMIT clicked();
     if (self && isCheckable()) {
@@ -184,14 +170,14 @@ void OlvButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 void OlvButton::enterEvent(QEvent * /*event*/)
 {
     setProperty(hoveredProperty, true);
-    setState(hoverState());
+    setState(ButtonState::hovered());
 }
 
 void OlvButton::leaveEvent(QEvent * /*event*/)
 {
     setProperty(hoveredProperty, false);
-    if (property(stateProperty).toString() != pressedState()) {
-        setProperty(stateProperty, restingState());
+    if (property(stateProperty).toString() != ButtonState::pressed()) {
+        setProperty(stateProperty, ButtonState::resting());
     }
     update();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonstate_p.h"
 #include "foundation/childataddress_p.h"
 
 #include <QPainter>
@@ -35,28 +36,13 @@ constexpr QRgb restingColor = qRgb(198, 198, 198);
 constexpr int halfRed = 127;
 constexpr qreal frameRadius = 10.0;
 
-QString restingState()
-{
-    return QStringLiteral("init");
-}
-
-QString hoverState()
-{
-    return QStringLiteral("hover");
-}
-
-QString pressedState()
-{
-    return QStringLiteral("click");
-}
-
 } // namespace
 
 OlvIconButton::OlvIconButton(QWidget *parent)
     : OlvWidget(parent)
 {
     setProperty(valueProperty, false);
-    setProperty(stateProperty, restingState());
+    setProperty(stateProperty, ButtonState::resting());
     setProperty(hoveredProperty, false);
     auto *timer = new QTimer(this);
     timer->setInterval(burstInterval);
@@ -129,18 +115,18 @@ QVariant OlvIconButton::getValue()
 
 void OlvIconButton::mousePressEvent(QMouseEvent * /*event*/)
 {
-    setProperty(stateProperty, pressedState());
+    setProperty(stateProperty, ButtonState::pressed());
     update();
 }
 
 void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
     if (!property(hoveredProperty).toBool()) {
-        setProperty(stateProperty, restingState());
+        setProperty(stateProperty, ButtonState::resting());
         update();
         return;
     }
-    setProperty(stateProperty, hoverState());
+    setProperty(stateProperty, ButtonState::hovered());
     const int count = property(clickNumberProperty).toInt();
     setProperty(clickNumberProperty, qMin(count, std::numeric_limits<int>::max() - 1) + 1);
     if (auto *timer = childAtAddress<QTimer>(this, property(clickTimerProperty))) {
@@ -154,15 +140,15 @@ void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 void OlvIconButton::enterEvent(QEvent * /*event*/)
 {
     setProperty(hoveredProperty, true);
-    setProperty(stateProperty, hoverState());
+    setProperty(stateProperty, ButtonState::hovered());
     update();
 }
 
 void OlvIconButton::leaveEvent(QEvent * /*event*/)
 {
     setProperty(hoveredProperty, false);
-    if (property(stateProperty).toString() != pressedState()) {
-        setProperty(stateProperty, restingState());
+    if (property(stateProperty).toString() != ButtonState::pressed()) {
+        setProperty(stateProperty, ButtonState::resting());
     }
     update();
 }
@@ -204,10 +190,10 @@ QColor OlvIconButton::penColor()
 {
     const QRgb accent = property(colorProperty).toUInt();
     const QString state = property(stateProperty).toString();
-    if (state == pressedState() || ::isChecked(this)) {
+    if (state == ButtonState::pressed() || ::isChecked(this)) {
         return QColor(accent);
     }
-    if (state == hoverState()) {
+    if (state == ButtonState::hovered()) {
         QColor color = QColor::fromRgba(accent);
         color.setRed(color.red() <= halfRed ? halfRed : 0);
         return color;
