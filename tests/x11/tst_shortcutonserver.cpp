@@ -85,8 +85,8 @@ private Q_SLOTS:
 private:
     void pressWithControl(quint32 symbol)
     {
-        // A press in the same millisecond as the release before it is a key that repeats; no person is
-        // that quick.
+        // A press in the same millisecond as the release before it is a key that repeats; no person
+        // is that quick.
         QTest::qWait(5);
         m_input->pressKey(symbolControl);
         m_input->pressKey(symbol);
