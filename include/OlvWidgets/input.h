@@ -29,14 +29,14 @@ class QLineEdit;
  * The value is the text, a QString. Neither valueChanged() nor textChanged() is emitted: read it
  * with getText() or getValue() when it is wanted.
  *
- * | property    | type   | at first    | meaning |
- * |-------------|--------|-------------|------------------------------------------------------------|
- * | "Icon"      | string | ""          | the glyph at the left | | "IconWidth" | int    | 0 |
- * pixels that its column is wide, set at each resize         | | "Pwd"       | bool   | false |
- * whether the text is a password                             | | "Visible"   | string | "✍" | glyph
- * of the password button at first                      | | "Invisible" | string | "※"         | its
- * glyph once it has been clicked, and the text is shown  | | "state"     | string | "normal"    |
- * "edit" while the text has the focus                        |
+ * | property    | type   | at first | meaning                                         |
+ * |-------------|--------|----------|-------------------------------------------------|
+ * | "Icon"      | string | ""       | the glyph at the left                           |
+ * | "IconWidth" | int    | 0        | pixels that its column is wide                  |
+ * | "Pwd"       | bool   | false    | whether the text is a password                  |
+ * | "Visible"   | string | "✍"      | glyph of the password button at first           |
+ * | "Invisible" | string | "※"      | its glyph once clicked, while the text is shown |
+ * | "state"     | string | "normal" | "edit" while the text has the focus             |
  *
  * @code
  * auto *password = new OlvLineEdit(this);

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QTimer>
+#include <QVector>
 #include <QWheelEvent>
 
 namespace {
@@ -71,8 +72,11 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     timer->setInterval(settlingTime);
     connect(timer, &QTimer::timeout, this, [this, timer] {
         timer->stop();
+        const QPointer<OlvGridLayout> self(this);
         fitParent();
-        reUi();
+        if (self) {
+            reUi();
+        }
     });
     setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
 }
@@ -140,6 +144,7 @@ void OlvGridLayout::setSpacing(int spacing)
 
 void OlvGridLayout::reUi()
 {
+    const QPointer<OlvGridLayout> self(this);
     QWidget *parent = parentWidget();
     if (m_widgets.isEmpty()) {
         resize(width(), isSubWindow() || !parent ? emptyHeight : parent->height());
@@ -147,13 +152,19 @@ void OlvGridLayout::reUi()
     } else {
         m_emptyLabel->hide();
         arrange();
+        if (!self) {
+            return;
+        }
+        parent = parentWidget();
         if (!isSubWindow()) {
             fitScrollBar();
         } else if (parent) {
             parent->resize(parent->width(), height() + 2 * windowBorder);
         }
     }
-    m_emptyLabel->resize(size());
+    if (self) {
+        m_emptyLabel->resize(size());
+    }
 }
 
 void OlvGridLayout::resized()
@@ -236,8 +247,20 @@ void OlvGridLayout::arrange()
     qint64 right = 0; // of what stands last in the row
     qint64 top = m_margin;
     int rowHeight = 0;
-    const QList<QWidget *> widgets = m_widgets;
-    for (QWidget *widget : widgets) {
+    // whoever hears of a move may delete another widget, or the grid
+    const QPointer<OlvGridLayout> self(this);
+    QVector<QPointer<QWidget>> widgets;
+    widgets.reserve(m_widgets.size());
+    for (QWidget *widget : qAsConst(m_widgets)) {
+        widgets.append(widget);
+    }
+    for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
+        if (!self) {
+            return;
+        }
+        if (!widget) {
+            continue;
+        }
         const qint64 end = right + m_margin + widget->width();
         if (end <= available) {
             widget->move(toPixels(right + m_margin), toPixels(top));
@@ -246,22 +269,26 @@ void OlvGridLayout::arrange()
             top += rowHeight + m_margin;
             rowHeight = 0;
             widget->move(toPixels(m_margin), toPixels(top));
-            right = qint64(m_margin) + widget->width();
+            right = qint64(m_margin) + (widget ? widget->width() : 0);
         }
-        rowHeight = qMax(rowHeight, widget->height());
+        rowHeight = qMax(rowHeight, widget ? widget->height() : 0);
     }
-    resize(width(), toPixels(top + rowHeight + m_margin));
+    if (self) {
+        resize(width(), toPixels(top + rowHeight + m_margin));
+    }
 }
 
 void OlvGridLayout::fitScrollBar()
 {
-    QScrollBar *bar = scrollBar();
+    const QPointer<QScrollBar> bar(scrollBar());
     if (!bar) {
         return;
     }
     if (m_viewHeight < height()) {
         bar->setMaximum((height() - m_viewHeight) / m_scrollStep);
-        bar->show();
+        if (bar) { // a slot of its signals may have deleted it
+            bar->show();
+        }
     } else {
         bar->hide();
     }
