@@ -28,9 +28,9 @@
  * | "isCheckable" | bool   | false     | whether a click toggles "isChecked"                      |
  * | "value"       | bool   | false     | what getValue() returns; the button never changes it     |
  * | "type"        | string | ""        | shape: "plain", "round", any other is the default        |
- * | "color"       | string | "primary" | scheme: "primary", "success", "warning", any other is red
- * | | "state"       | string | "init"    | "init" at rest, "hover", "click" while pressed | |
- * "hovered"     | bool   | false     | whether the pointer is inside                            |
+ * | "color"       | string | "primary" | scheme: "primary", "success", "warning", else red        |
+ * | "state"       | string | "init"    | "init" at rest, "hover", "click" while pressed           |
+ * | "hovered"     | bool   | false     | whether the pointer is inside                            |
  * | "content"     | string | not set   | the caption                                              |
  *
  * Writing one directly repaints nothing: call update(). Any mouse button clicks it. A press that is
@@ -136,11 +136,11 @@ private:
  * | "hovered"     | bool       | false              | whether the pointer is inside               |
  * | "clickNumber" | int        | 0                  | releases since the last report              |
  * | "clickTimer"  | qulonglong |                    | the address of the timer; the library's own |
- * | "partSize"    | int        | width / 4          | height of a band in pixels: the glyph takes
- * three, the caption one | | "iconSize"    | double     | 1.56 * partSize    | point size of the
- * glyph                     | | "textSize"    | double     | 0.52 * partSize    | point size of the
- * caption                   | | "family"      | string     |                    | family of the
- * icon font                     | | "icon"        | QChar      |                    | the glyph |
+ * | "partSize"    | int        | width / 4          | pixels: glyph three times, caption once     |
+ * | "iconSize"    | double     | 1.56 * partSize    | point size of the glyph                     |
+ * | "textSize"    | double     | 0.52 * partSize    | point size of the caption                   |
+ * | "family"      | string     |                    | family of the icon font                     |
+ * | "icon"        | QChar      |                    | the glyph                                   |
  * | "text"        | string     |                    | the caption                                 |
  * | "color"       | uint       | opaque 0,255,255   | accent colour, as QColor::rgba() gives it   |
  * | "isCheckable" | bool       | not set            | whether the checked look is shown           |
