@@ -4,6 +4,7 @@
 
 #include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
+#include "foundation/shape_p.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -21,7 +22,7 @@ constexpr char stateProperty[] = "state";
 constexpr char hoveredProperty[] = "hovered";
 constexpr char contentProperty[] = "content";
 
-constexpr qreal borderWidth = 2.0;
+constexpr int borderWidth = 2;
 constexpr int roundRadiusDivisor = 2;
 constexpr int radiusDivisor = 5;
 constexpr int captionPointSize = 9;
@@ -41,15 +42,11 @@ struct Look
     {
         return type == QLatin1String("plain");
     }
-};
-
-QPen borderPen(const Look &look, const ButtonPalette &palette)
-{
-    if (look.isResting() && look.isPlain()) {
-        return QPen(QColor(palette[ButtonPalette::RestingPlainBorder]), borderWidth);
+    bool hasBorder() const
+    {
+        return isResting() && isPlain();
     }
-    return Qt::NoPen;
-}
+};
 
 QColor fillColor(const Look &look, const ButtonPalette &palette)
 {
@@ -64,8 +61,7 @@ QColor fillColor(const Look &look, const ButtonPalette &palette)
 
 QColor captionColor(const Look &look, const ButtonPalette &palette)
 {
-    return look.isResting() && look.isPlain() ? QColor(palette[ButtonPalette::Fill])
-                                              : QColor(Qt::white);
+    return look.hasBorder() ? QColor(palette[ButtonPalette::Fill]) : QColor(Qt::white);
 }
 
 } // namespace
@@ -190,12 +186,14 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
     const Look look{ property(stateProperty).toString(), property(typeProperty).toString(),
                      property(checkedProperty).toBool() };
 
-    painter.setPen(borderPen(look, palette));
-    painter.setBrush(fillColor(look, palette));
     const int radius =
         height() / (look.type == QLatin1String("round") ? roundRadiusDivisor : radiusDivisor);
-    // not drawn further in for the border: half of it is clipped, which makes it look thin
-    painter.drawRoundedRect(QRectF(0, 0, width(), height()), radius, radius);
+    const Shape body = Shape::roundedRect(rect(), radius);
+    body.fill(painter, fillColor(look, palette));
+    if (look.hasBorder()) {
+        // not drawn further in for the border: half of it is clipped, which makes it look thin
+        body.stroke(painter, palette[ButtonPalette::RestingPlainBorder], borderWidth);
+    }
 
     const QString content = property(contentProperty).toString();
     if (content.isEmpty()) {
@@ -205,7 +203,7 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
     QFont font(QStringLiteral("宋体"), captionPointSize);
     font.setPointSize(OlvGlobal::adaptDocumentToPointSize(content, size(), font));
     painter.setFont(font);
-    painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, content);
+    painter.drawText(rect(), Qt::AlignCenter, content);
 }
 
 void OlvButton::setState(const QString &state)

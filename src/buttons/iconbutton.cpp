@@ -3,6 +3,7 @@
 
 #include "buttons/buttonstate_p.h"
 #include "foundation/childataddress_p.h"
+#include "foundation/shape_p.h"
 
 #include <QPainter>
 #include <QTimer>
@@ -34,7 +35,8 @@ constexpr double textSizeOfPart = 0.52;
 constexpr QRgb initialAccent = qRgb(0, 255, 255);
 constexpr QRgb restingColor = qRgb(198, 198, 198);
 constexpr int halfRed = 127;
-constexpr qreal frameRadius = 10.0;
+constexpr int frameRadius = 10;
+constexpr int frameWidth = 1;
 
 } // namespace
 
@@ -157,7 +159,8 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(penColor());
+    const QColor color = penColor();
+    painter.setPen(color);
 
     // read as integers: the sizes are kept as reals, and are rounded here; an application may have
     // written any number
@@ -171,7 +174,7 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
     painter.setFont(QFont(QStringLiteral("新宋体"), property(textSizeProperty).toInt()));
     painter.drawText(QRect(0, glyphHeight, width(), partSize), Qt::AlignCenter,
                      property(textProperty).toString());
-    painter.drawRoundedRect(QRectF(0, 0, width(), height()), frameRadius, frameRadius);
+    Shape::roundedRect(rect(), frameRadius).stroke(painter, color, frameWidth);
 }
 
 void OlvIconButton::report()

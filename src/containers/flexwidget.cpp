@@ -3,6 +3,7 @@
 #include <OlvWidgets/frame.h>
 
 #include "foundation/childataddress_p.h"
+#include "foundation/shape_p.h"
 
 #include <QPainter>
 #include <QTimer>
@@ -18,7 +19,8 @@ constexpr int noHeader = 0;
 constexpr int smallestSide = 50;
 constexpr int handleWidth = 3;
 constexpr int settlingTime = 2000; // milliseconds
-constexpr qreal cornerRadius = 5.0;
+constexpr int cornerRadius = 5;
+constexpr int frameWidth = 1;
 constexpr int headerThickness = 10;
 constexpr QRgb frameColor = qRgb(207, 207, 207);
 constexpr QRgb fillColor = qRgb(245, 245, 245);
@@ -35,21 +37,21 @@ Qt::WindowFlags hintOf(int stayType)
     }
 }
 
-QRectF headerRect(int way, QSize size)
+QRect headerRect(int way, QSize size)
 {
     const int width = size.width();
     const int height = size.height();
     switch (way) {
     case OlvFlexWidget::HeaderTop:
-        return QRectF(0, 0, width, headerThickness);
+        return QRect(0, 0, width, headerThickness);
     case OlvFlexWidget::HeaderLeft:
-        return QRectF(0, 0, headerThickness, height);
+        return QRect(0, 0, headerThickness, height);
     case OlvFlexWidget::HeaderBottom:
-        return QRectF(height - headerThickness, 0, width, headerThickness);
+        return QRect(height - headerThickness, 0, width, headerThickness);
     case OlvFlexWidget::HeaderRight:
-        return QRectF(width - headerThickness, 0, headerThickness, height);
+        return QRect(width - headerThickness, 0, headerThickness, height);
     default:
-        return QRectF();
+        return QRect();
     }
 }
 
@@ -115,24 +117,16 @@ void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto drawArea = [&](const QRectF &area) {
-        if (isMaximized()) {
-            painter.drawRects(&area, 1);
-        } else {
-            painter.drawRoundedRect(area, cornerRadius, cornerRadius);
-        }
-    };
-    painter.setPen(QColor(frameColor));
-    painter.setBrush(QColor(fillColor));
-    drawArea(QRectF(0, 0, width(), height()));
+    const int radius = isMaximized() ? 0 : cornerRadius;
+    const Shape panel = Shape::roundedRect(rect(), radius);
+    panel.fill(painter, QColor(fillColor));
+    panel.stroke(painter, QColor(frameColor), frameWidth);
 
     const int way = property(headerWayProperty).toInt();
-    if (way == noHeader) {
-        return;
+    if (way != noHeader) {
+        const QColor color(property(headerColorProperty).toUInt());
+        Shape::roundedRect(headerRect(way, size()), radius).fill(painter, color);
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(property(headerColorProperty).toUInt()));
-    drawArea(headerRect(way, size()));
 }
 
 void OlvFlexWidget::resizeEvent(QResizeEvent * /*event*/)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/input.h>
 
+#include "foundation/shape_p.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -13,7 +15,8 @@ constexpr char shortcutProperty[] = "OlvShortcut";
 constexpr char captureProperty[] = "Temp";
 
 constexpr int frameInset = 2;
-constexpr qreal frameRadius = 3.0;
+constexpr int frameRadius = 3;
+constexpr int frameWidth = 1;
 constexpr QRgb focusedColor = qRgb(32, 32, 32);
 
 } // namespace
@@ -175,10 +178,12 @@ void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(QFont(QStringLiteral("新宋体"), height() / 2));
-    painter.setPen(hasFocus() ? QColor(focusedColor) : QColor(Qt::gray));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(0, 0, width() - frameInset, height() - frameInset), frameRadius,
-                            frameRadius);
+    const QColor color = hasFocus() ? QColor(focusedColor) : QColor(Qt::gray);
+    const Shape frame =
+        Shape::roundedRect(QRect(0, 0, width() - frameInset, height() - frameInset), frameRadius);
+    frame.fill(painter, Qt::white);
+    frame.stroke(painter, color, frameWidth);
+    painter.setPen(color);
     if (OlvShortcut *held = shortcut()) {
         painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, held->toString());
     }

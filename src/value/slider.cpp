@@ -2,6 +2,7 @@
 #include <OlvWidgets/value.h>
 
 #include "foundation/childataddress_p.h"
+#include "foundation/shape_p.h"
 #include "value/slidermetrics_p.h"
 
 #include <QPainter>
@@ -10,9 +11,9 @@ namespace {
 
 constexpr int initialWidth = 200;
 constexpr int trackInset = 15;
-constexpr qreal trackTop = 10.0;
-constexpr qreal trackHeight = 10.0;
-constexpr qreal trackRadius = 5.0;
+constexpr int trackTop = 10;
+constexpr int trackHeight = 10;
+constexpr int trackRadius = 5;
 
 constexpr char progressProperty[] = "progress";
 constexpr char knobProperty[] = "SliderRound";
@@ -46,10 +47,8 @@ void OlvSlider::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(SliderMetrics::blue));
-    painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(QRectF(trackInset, trackTop, width() - 2 * trackInset, trackHeight),
-                            trackRadius, trackRadius);
+    const QRect track(trackInset, trackTop, width() - 2 * trackInset, trackHeight);
+    Shape::roundedRect(track, trackRadius).fill(painter, QColor(SliderMetrics::blue));
 }
 
 void OlvSlider::resizeEvent(QResizeEvent * /*event*/)

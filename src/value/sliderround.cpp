@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
+#include "foundation/shape_p.h"
 #include "value/slidermetrics_p.h"
 
 #include <QMouseEvent>
@@ -9,7 +10,7 @@
 namespace {
 
 constexpr int discInset = 2;
-constexpr qreal ringWidth = 2.0;
+constexpr int ringWidth = 2;
 constexpr int fullProgress = 100;
 
 } // namespace
@@ -37,10 +38,10 @@ void SliderRound::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::white);
-    painter.setPen(QPen(QColor(SliderMetrics::blue), ringWidth));
-    painter.drawEllipse(
-        QRect(discInset, discInset, width() - 2 * discInset, height() - 2 * discInset));
+    const Shape disc =
+        Shape::ellipse(rect().adjusted(discInset, discInset, -discInset, -discInset));
+    disc.fill(painter, Qt::white);
+    disc.stroke(painter, QColor(SliderMetrics::blue), ringWidth);
 }
 
 void SliderRound::mousePressEvent(QMouseEvent *event)

@@ -3,6 +3,7 @@
 #include <OlvWidgets/value.h>
 
 #include "foundation/childataddress_p.h"
+#include "foundation/shape_p.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -91,11 +92,9 @@ void OlvSwitch::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool on = property(switchProperty).toBool();
-    painter.setBrush(
-        OlvColorFromString(property(on ? closeColorProperty : openColorProperty).toString()));
-    painter.setPen(Qt::NoPen);
-    const int radius = height() / 2;
-    painter.drawRoundedRect(QRectF(0, 0, width(), height()), radius, radius);
+    const QColor color =
+        OlvColorFromString(property(on ? closeColorProperty : openColorProperty).toString());
+    Shape::roundedRect(rect(), height() / 2).fill(painter, color);
 }
 
 SwitchRound *OlvSwitch::knob() const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
+#include "foundation/shape_p.h"
+
 #include <QPainter>
 
 namespace {
@@ -37,8 +39,6 @@ void SwitchRound::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(m_color);
-    painter.setPen(Qt::NoPen);
     const int last = height() - 1 - m_inset;
-    painter.drawEllipse(QRect(QPoint(m_inset, m_inset), QPoint(last, last)));
+    Shape::ellipse(QRect(QPoint(m_inset, m_inset), QPoint(last, last))).fill(painter, m_color);
 }

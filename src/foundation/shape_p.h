@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QRect>
+
+class QPainter;
+
+/**
+ * A rounded rectangle or an ellipse at whole pixels, drawn antialiased and in one solid colour at a
+ * time.
+ *
+ * Working out which share of each pixel such a shape covers costs more than everything else that a
+ * small widget paints. So what has been asked for before is rasterised once and kept for the whole
+ * process, and painting it is copying pixels. The pixels are exactly those that QPainter draws:
+ * wherever that is not certain (see the sweep in the tests), the shape is drawn directly. Only the
+ * thread of the user interface may draw shapes, as it alone may paint widgets.
+ */
+class Shape
+{
+public:
+    /** A rectangle with corners of @p radius pixels; as QPainter::drawRoundedRect() draws it. */
+    static Shape roundedRect(const QRect &rect, int radius);
+    /** As QPainter::drawEllipse() draws it. */
+    static Shape ellipse(const QRect &rect);
+
+    /**
+     * Fills the shape, without an outline. The pen and the brush of @p painter are arbitrary
+     * afterwards.
+     */
+    void fill(QPainter &painter, const QColor &color) const;
+    /**
+     * Draws the shape's outline, @p width pixels wide; whoever wants both fills first, as QPainter
+     * does. The pen and the brush of @p painter are arbitrary afterwards.
+     */
+    void stroke(QPainter &painter, const QColor &color, int width) const;
+
+private:
+    enum Kind {
+        RoundedRect,
+        Ellipse,
+    };
+
+    struct Layer;
+    class Layers;
+
+    Shape(Kind kind, const QRect &rect, int radius);
+
+    bool drawFromLayer(QPainter &painter, const Layer &layer) const;
+    void draw(QPainter &painter) const;
+
+    Kind m_kind;
+    QRect m_rect;
+    int m_radius;
+};
