@@ -11,6 +11,7 @@ build_packages=(
     libxcb1-dev libxcb-keysyms1-dev libxkbcommon-dev
     fonts-font-awesome fonts-wqy-zenhei fonts-dejavu-core
 )
+bench_packages=(libbenchmark-dev python3 python3-matplotlib valgrind)
 display_packages=(xvfb openbox x11-utils)
 test_packages=(
     "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QBrush>
+#include <QFont>
+#include <QPen>
+#include <QRect>
+#include <QString>
+#include <QVector>
+#include <QWidget>
+
+/** One shape with a caption, in the arguments of the QPainter calls that draw it. */
+struct PreparedDrawing
+{
+    QPen pen = Qt::NoPen;
+    QBrush brush;
+    QRectF rect;
+    qreal radius = 0; ///< of the corners; an ellipse is drawn where it is negative
+    QString caption;
+    QPen captionPen;
+    QRect captionRect;
+    QFont font;
+};
+
+/**
+ * The floor of all painting: a widget that makes the same QPainter calls as the library's, with
+ * every colour, pen, font and rectangle prepared.
+ */
+class PreparedWidget : public QWidget
+{
+public:
+    PreparedWidget(PreparedDrawing drawing, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    PreparedDrawing m_drawing;
+};

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "support.h"
+
+#include <QCoreApplication>
+#include <QEnterEvent>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include <atomic>
+#include <cstdlib>
+#include <malloc.h>
+#include <utility>
+
+namespace {
+
+/** Set by callers who count instructions: the same number of steps in each run. */
+constexpr char iterationsVariable[] = "OLV_BENCH_ITERATIONS";
+
+std::atomic<quint64> allocations = 0;
+
+} // namespace
+
+// NOLINTBEGIN(bugprone-reserved-identifier): glibc's names of its own functions
+extern "C" {
+void *__libc_malloc(std::size_t size);
+void *__libc_calloc(std::size_t count, std::size_t size);
+void *__libc_realloc(void *memory, std::size_t size);
+
+// In place of the ones that Qt and the C++ library would call: those are counted as well.
+void *malloc(std::size_t size)
+{
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    return __libc_malloc(size);
+}
+
+void *calloc(std::size_t count, std::size_t size)
+{
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    return __libc_calloc(count, size);
+}
+
+void *realloc(void *memory, std::size_t size)
+{
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    return __libc_realloc(memory, size);
+}
+}
+// NOLINTEND(bugprone-reserved-identifier)
+
+benchmark::internal::Benchmark *addBenchmark(const std::string &name, Benchmark function)
+{
+    auto *added = benchmark::RegisterBenchmark(name.c_str(), std::move(function));
+    const int iterations = qEnvironmentVariableIntValue(iterationsVariable);
+    return iterations > 0 ? added->Iterations(iterations) : added;
+}
+
+void showAndWait(QWidget &window)
+{
+    window.show();
+    while (!window.windowHandle()->isExposed()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    settle();
+}
+
+void settle()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+}
+
+void paintUpdates(QWidget &window)
+{
+    QCoreApplication::sendPostedEvents(&window, QEvent::UpdateRequest);
+}
+
+QImage pictureOf(QWidget &widget)
+{
+    QImage picture(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    widget.render(&picture, {}, {}, QWidget::DrawChildren);
+    return picture;
+}
+
+void measurePainting(benchmark::State &state, QWidget &widget)
+{
+    QImage target(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    target.fill(Qt::white);
+    for (auto _ : state) {
+        widget.render(&target, {}, {}, QWidget::DrawChildren);
+    }
+}
+
+void enter(QWidget &widget, QPointF place)
+{
+    QEnterEvent event(place, place, widget.mapToGlobal(place.toPoint()));
+    QCoreApplication::sendEvent(&widget, &event);
+    QMouseEvent moved(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &moved);
+}
+
+void sendMouse(QWidget &widget, QEvent::Type type, QPointF place)
+{
+    QMouseEvent event(type, place, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+quint64 heapAllocations()
+{
+    return allocations.load(std::memory_order_relaxed);
+}
+
+double heapInUse()
+{
+    const auto info = mallinfo2();
+    return double(info.uordblks) + double(info.hblkhd);
+}

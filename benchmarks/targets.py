@@ -1,0 +1,92 @@
+# SPDX-License-Identifier: MIT
+"""What the library is held to: the one place where the targets stand."""
+
+from typing import NamedTuple, Optional
+
+
+class Ratio(NamedTuple):
+    """The library's median is at most `limit` times the contestant's."""
+
+    case: str
+    contestant: str
+    limit: float
+    size: Optional[int] = None
+
+
+class Slope(NamedTuple):
+    """The library's cost grows with at most this power of the size."""
+
+    case: str
+    limit: float
+
+
+class Counter(NamedTuple):
+    """What the library's benchmark counted is at most `limit`."""
+
+    case: str
+    counter: str
+    unit: str
+    limit: float
+
+
+TARGETS = [
+    Ratio("button-empty", "floor", 0.40),
+    Ratio("button-empty", "sheet", 0.25),
+    Ratio("button-empty", "fusion", 1.0),
+    *(
+        target
+        for state in ("rest", "hover", "pressed", "round")
+        for target in (
+            Ratio(f"button-{state}", "floor", 0.75),
+            Ratio(f"button-{state}", "sheet", 0.55),
+        )
+    ),
+    Ratio("button-plain", "floor", 0.37),
+    Ratio("button-shrunk", "floor", 1.05),
+    Ratio("switch", "floor", 0.22),
+    Ratio("slider", "floor", 0.22),
+    Ratio("slider", "fusion", 1.05),
+    Ratio("button-events", "fusion", 0.13),
+    Ratio("button-events", "sheet", 0.06),
+    Ratio("switch-ticks", "handwritten", 0.4),
+    Ratio("switch-ticks", "animation", 0.35),
+    Ratio("slider-drag", "fusion", 0.9),
+    Ratio("slider-drag", "sheet", 0.45),
+    Ratio("filter-listener", "override", 1.3),
+    Ratio("filter-none", "override", 1.1),
+    Counter("filter-listener", "allocations", "heap allocations a call", 0),
+    Ratio("text-fitting", "measuring", 1.3, 5),
+    Ratio("text-fitting", "measuring", 0.9, 20),
+    Ratio("text-fitting", "measuring", 0.35, 80),
+    Ratio("text-fitting", "measuring", 0.12, 320),
+    Ratio("text-fitting", "measuring", 0.04, 1280),
+    Slope("text-fitting", 0.6),
+    Ratio("color-from-string", "qcolor", 2.5),
+    Ratio("color-to-string", "qcolor", 0.2),
+    Ratio("many-buttons", "window-sheet", 0.45, 1000),
+    Ratio("many-buttons", "window-sheet", 0.45, 10000),
+    Ratio("many-buttons", "button-sheets", 0.25, 1000),
+    Ratio("many-buttons", "button-sheets", 0.25, 10000),
+    Slope("many-buttons", 1.1),
+    Counter("button-heap", "bytes", "bytes a button", 2100),
+    Ratio("button-heap", "window-sheet", 0.37),
+    *(
+        target
+        for size in (1000, 3000, 10000)
+        for target in (
+            Ratio("grid-all-move", "moves", 1.1, size),
+            Ratio("grid-all-move", "flow-layout", 0.7, size),
+        )
+    ),
+    *(Ratio("grid-none-moves", "flow-layout", 0.35, size) for size in (1000, 3000, 10000)),
+    Ratio("grid-add-list", "flow-layout", 1.2, 1000),
+    Ratio("grid-add-list", "flow-layout", 1.2, 10000),
+    Ratio("grid-scroll-step", "scroll-area", 1.4, 1000),
+    Ratio("grid-scroll-step", "scroll-area", 1.2, 10000),
+    *(Ratio("grid-add-each", "naive", 0.6, size) for size in (1000, 3000, 10000)),
+    Ratio("load", "empty", 2.1),
+    Counter("load", "bytes", "bytes of heap", 3000),
+]
+
+# A ratio is one of times unless the case is here: then it is one of what this counter counted.
+COUNTED_CASES = {"button-heap": "bytes"}
