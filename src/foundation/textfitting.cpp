@@ -4,8 +4,8 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 
-#include <algorithm>
 #include <array>
+#include <bitset>
 #include <limits>
 
 namespace {
@@ -26,9 +26,7 @@ class Advances
 public:
     explicit Advances(const QFont &font)
         : m_metrics(font)
-    {
-        m_latin1.fill(unknown);
-    }
+    { }
 
     int of(QChar character)
     {
@@ -39,11 +37,11 @@ public:
                 ? *found
                 : *m_others.insert(code, m_metrics.horizontalAdvance(character));
         }
-        int &advance = m_latin1[code];
-        if (advance == unknown) {
-            advance = m_metrics.horizontalAdvance(character);
+        if (!m_isKnown[code]) {
+            m_isKnown[code] = true;
+            m_latin1[code] = m_metrics.horizontalAdvance(character);
         }
-        return advance;
+        return m_latin1[code];
     }
 
     int lineSpacing() const
@@ -52,9 +50,9 @@ public:
     }
 
 private:
-    static constexpr int unknown = std::numeric_limits<int>::min();
-
     QFontMetrics m_metrics;
+    std::bitset<256> m_isKnown;
+    // not filled at first: a short caption asks for fewer advances than filling it would cost
     std::array<int, 256> m_latin1;
     QHash<ushort, int> m_others;
 };
@@ -108,20 +106,25 @@ int charactersOfLine(const QChar *begin, const QChar *end, int width, Advances &
     return qMax(carried < fitting ? fitting - carried : fitting, 1);
 }
 
-/** The wrapped lines of @p text; counting stops once there are more than @p most. */
+/** The wrapped lines of @p text; wrapping stops where one more than @p most begins. */
 int wrappedLines(const QString &text, int width, Advances &advances,
-                 int most = std::numeric_limits<int>::max())
+                 int most = std::numeric_limits<int>::max() - 1)
 {
-    const QChar *const end = text.constData() + text.size();
-    const QChar *position = text.constData();
+    const QChar *const begin = text.constData();
+    const QChar *const end = begin + text.size();
+    const QChar *position = begin;
     int lines = 0;
-    while (position != end && lines <= most) {
-        const QChar *const paragraphEnd = std::find(position, end, newline);
-        while (position != paragraphEnd && lines <= most) {
+    while (position != end) {
+        const int found = text.indexOf(newline, int(position - begin));
+        const QChar *const paragraphEnd = found < 0 ? end : begin + found;
+        while (position != paragraphEnd) {
+            if (lines == most) {
+                return most + 1;
+            }
             position += charactersOfLine(position, paragraphEnd, width, advances);
             ++lines;
         }
-        if (position != end && position == paragraphEnd) {
+        if (position != end) {
             ++position; // the newline itself
         }
     }
