@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QTimer>
-#include <QVector>
 #include <QWheelEvent>
 
 namespace {
@@ -35,6 +34,14 @@ bool isInWindow(const QWidget *parent)
 int toPixels(qint64 value)
 {
     return int(qBound<qint64>(-QWIDGETSIZE_MAX, value, QWIDGETSIZE_MAX));
+}
+
+/** Moves @p widget unless it is there already, which Qt would find out at a higher price. */
+void moveTo(QWidget *widget, QPoint position)
+{
+    if (widget->isWindow() || widget->pos() != position || !widget->testAttribute(Qt::WA_Moved)) {
+        widget->move(position);
+    }
 }
 
 /** What QWheelEvent::delta() said: the turn about the axis that was turned further. */
@@ -249,29 +256,30 @@ void OlvGridLayout::arrange()
     int rowHeight = 0;
     // whoever hears of a move may delete another widget, or the grid
     const QPointer<OlvGridLayout> self(this);
-    QVector<QPointer<QWidget>> widgets;
-    widgets.reserve(m_widgets.size());
-    for (QWidget *widget : qAsConst(m_widgets)) {
-        widgets.append(widget);
-    }
-    for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
+    const QList<QWidget *> widgets = m_widgets;
+    const auto isAlive = [&](QWidget *widget) {
+        // the list is shared with this copy until it changes: what dies leaves it
+        return self
+            && (m_widgets.constBegin() == widgets.constBegin() || m_widgets.contains(widget));
+    };
+    for (QWidget *widget : widgets) {
         if (!self) {
             return;
         }
-        if (!widget) {
+        if (!isAlive(widget)) {
             continue;
         }
         const qint64 end = right + m_margin + widget->width();
-        if (end <= available) {
-            widget->move(toPixels(right + m_margin), toPixels(top));
-            right = end;
-        } else {
+        const bool isNewRow = end > available;
+        if (isNewRow) {
             top += rowHeight + m_margin;
             rowHeight = 0;
-            widget->move(toPixels(m_margin), toPixels(top));
-            right = qint64(m_margin) + (widget ? widget->width() : 0);
         }
-        rowHeight = qMax(rowHeight, widget ? widget->height() : 0);
+        const qint64 left = isNewRow ? m_margin : right + m_margin;
+        moveTo(widget, QPoint(toPixels(left), toPixels(top)));
+        const QSize size = isAlive(widget) ? widget->size() : QSize(0, 0);
+        right = isNewRow ? left + size.width() : end;
+        rowHeight = qMax(rowHeight, size.height());
     }
     if (self) {
         resize(width(), toPixels(top + rowHeight + m_margin));
