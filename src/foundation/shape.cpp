@@ -6,6 +6,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -14,6 +15,7 @@ constexpr int bytesOfAll = 1024 * 1024;
 /** Larger ones gain little, and a few of them would drive out all others. */
 constexpr int bytesOfOne = bytesOfAll / 8;
 constexpr int bytesOfPixel = 4;
+constexpr int opaque = 255;
 /** How far from the origin of the device positions are certain to be exact. */
 constexpr qreal farthest = 16384.0;
 constexpr int smallestDiameter = 4;
@@ -107,6 +109,38 @@ struct Shape::Layer
     }
 };
 
+/** The pixels of a layer. */
+class Shape::Pixels
+{
+public:
+    explicit Pixels(const QImage &image);
+    Q_DISABLE_COPY(Pixels)
+
+    int bytes() const
+    {
+        return int(m_all.sizeInBytes());
+    }
+
+    void draw(QPainter &painter, QPoint topLeft) const
+    {
+        painter.drawImage(topLeft, m_top);
+        if (!m_opaque.isNull()) {
+            painter.drawImage(topLeft + QPoint(0, m_top.height()), m_opaque);
+            painter.drawImage(topLeft + QPoint(0, m_top.height() + m_opaque.height()), m_bottom);
+        }
+    }
+
+private:
+    QImage rows(int first, int end, QImage::Format format) const;
+
+    QImage m_all;
+    // What follows are rows of the image above, without memory of their own. A rectangle's middle
+    // covers what is below: told so, Qt copies it and blends nothing.
+    QImage m_top;
+    QImage m_opaque;
+    QImage m_bottom;
+};
+
 /** The layers that are kept. */
 class Shape::Layers
 {
@@ -121,9 +155,9 @@ public:
      * The pixels of @p layer; null at the first request: a size that comes only once, as many do
      * while a window is resized, is drawn directly and drives out nothing.
      */
-    const QImage *find(const Layer &layer)
+    const Pixels *find(const Layer &layer)
     {
-        if (const QImage *kept = m_images.object(layer)) {
+        if (const Pixels *kept = m_kept.object(layer)) {
             return kept;
         }
         const uint hash = qHash(layer, 0);
@@ -133,18 +167,48 @@ public:
             return nullptr;
         }
         requested = 0; // what has been driven out since is to come twice again
-        auto *image = new QImage(rasterised(layer));
-        m_images.insert(layer, image, int(image->sizeInBytes()));
-        return image;
+        auto *pixels = new Pixels(rasterised(layer));
+        m_kept.insert(layer, pixels, pixels->bytes());
+        return pixels;
     }
 
 private:
     static QImage rasterised(const Layer &layer);
 
-    QCache<Layer, QImage> m_images{ bytesOfAll };
+    QCache<Layer, Pixels> m_kept{ bytesOfAll };
     /** The hashes of requests that came once. */
     std::array<uint, rememberedRequests> m_requested{};
 };
+
+Shape::Pixels::Pixels(const QImage &image)
+    : m_all(image)
+{
+    const auto isOpaque = [&](int row) {
+        const auto *pixels = reinterpret_cast<const QRgb *>(m_all.constScanLine(row));
+        return std::all_of(pixels, pixels + m_all.width(),
+                           [](QRgb pixel) { return qAlpha(pixel) == opaque; });
+    };
+    int first = 0;
+    while (first < m_all.height() && !isOpaque(first)) {
+        ++first;
+    }
+    int end = first;
+    while (end < m_all.height() && isOpaque(end)) {
+        ++end;
+    }
+    m_top = rows(0, first, m_all.format());
+    if (first < end) {
+        m_opaque = rows(first, end, QImage::Format_RGB32);
+        m_bottom = rows(end, m_all.height(), m_all.format());
+    }
+}
+
+QImage Shape::Pixels::rows(int first, int end, QImage::Format format) const
+{
+    return first < end ? QImage(m_all.constScanLine(first), m_all.width(), end - first,
+                                m_all.bytesPerLine(), format)
+                       : QImage();
+}
 
 QImage Shape::Layers::rasterised(const Layer &layer)
 {
@@ -206,12 +270,11 @@ bool Shape::drawFromLayer(QPainter &painter, const Layer &layer) const
         || !isProven(m_rect.size(), m_radius, layer.lineWidth) || !isProven(painter)) {
         return false;
     }
-    const QImage *image = Layers::instance().find(layer);
-    if (!image) {
-        return false;
+    const Pixels *pixels = Layers::instance().find(layer);
+    if (pixels) {
+        pixels->draw(painter, m_rect.topLeft() - QPoint(margin, margin));
     }
-    painter.drawImage(m_rect.topLeft() - QPoint(margin, margin), *image);
-    return true;
+    return pixels;
 }
 
 void Shape::draw(QPainter &painter) const

@@ -42,6 +42,7 @@ private:
     };
 
     struct Layer;
+    class Pixels;
     class Layers;
 
     Shape(Kind kind, const QRect &rect, int radius);
