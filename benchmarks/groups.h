@@ -3,5 +3,9 @@
 
 /** Each registers the cases of the file that is named so. */
 void addButtons();
+void addButtonEvents();
 void addColors();
+void addEventFilter();
+void addSwitchAndSlider();
+void addSwitchTicks();
 void addTextFitting();

@@ -18,8 +18,12 @@ int main(int argc, char **argv)
         return 1;
     }
     addButtons();
-    addColors();
+    addSwitchAndSlider();
+    addButtonEvents();
+    addSwitchTicks();
+    addEventFilter();
     addTextFitting();
+    addColors();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -16,7 +16,7 @@ void PreparedWidget::paintEvent(QPaintEvent * /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(m_drawing.pen);
     painter.setBrush(m_drawing.brush);
-    if (m_drawing.radius < 0) {
+    if (m_drawing.radius == PreparedDrawing::ellipse) {
         painter.drawEllipse(m_drawing.rect.toRect());
     } else {
         painter.drawRoundedRect(m_drawing.rect, m_drawing.radius, m_drawing.radius);

@@ -12,10 +12,13 @@
 /** One shape with a caption, in the arguments of the QPainter calls that draw it. */
 struct PreparedDrawing
 {
+    /** The radius with which an ellipse is drawn. */
+    static constexpr qreal ellipse = -1;
+
     QPen pen = Qt::NoPen;
     QBrush brush;
     QRectF rect;
-    qreal radius = 0; ///< of the corners; an ellipse is drawn where it is negative
+    qreal radius = 0; ///< of the corners
     QString caption;
     QPen captionPen;
     QRect captionRect;

@@ -39,6 +39,9 @@ void enter(QWidget &widget, QPointF place);
 /** Sends @p widget a mouse event of the left button at @p place. */
 void sendMouse(QWidget &widget, QEvent::Type type, QPointF place);
 
+/** The look of the library's slider in the words of a style sheet for a QSlider. */
+QString sliderStyleSheet();
+
 /** How often this process has asked for memory on the heap. */
 quint64 heapAllocations();
 /** The bytes of the heap that are in use. */
