@@ -102,7 +102,7 @@ void dragLibrary(benchmark::State &state)
     QWidget window;
     auto *slider = new OlvSlider(&window);
     slider->setGeometry(sliderGeometry);
-    showFor(Painting::None, window);
+    showFor(Painting::AsItComes, window);
     QWidget *knob = slider->childAt(QPoint(15, 15));
     int step = dragStep;
     for (auto _ : state) {
@@ -147,7 +147,7 @@ void dragQtSlider(benchmark::State &state, const QString &styleSheet)
     slider->setStyleSheet(styleSheet);
     slider->setRange(0, 100);
     slider->setGeometry(sliderGeometry);
-    showFor(Painting::None, window);
+    showFor(Painting::AsItComes, window);
     slider->setValue(slider->maximum());
     const QPointF end(handleOf(*slider).center());
     slider->setValue(slider->minimum());

@@ -6,6 +6,7 @@ void addButtons();
 void addButtonEvents();
 void addColors();
 void addEventFilter();
+void addManyButtons();
 void addSwitchAndSlider();
 void addSwitchTicks();
 void addTextFitting();

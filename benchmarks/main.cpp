@@ -24,6 +24,7 @@ int main(int argc, char **argv)
     addEventFilter();
     addTextFitting();
     addColors();
+    addManyButtons();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;
