@@ -6,6 +6,7 @@ void addButtons();
 void addButtonEvents();
 void addColors();
 void addEventFilter();
+void addFlowGrid();
 void addManyButtons();
 void addSwitchAndSlider();
 void addSwitchTicks();

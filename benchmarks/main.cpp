@@ -25,6 +25,7 @@ int main(int argc, char **argv)
     addTextFitting();
     addColors();
     addManyButtons();
+    addFlowGrid();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "flowlayout.h"
+
+#include <OlvWidgets/containers.h>
+
+#include <QList>
+#include <QScrollArea>
+#include <QVector>
+#include <QWidget>
+
+using Tiles = QList<QWidget *>;
+
+/** A tile that draws nothing, so that the container alone is measured. */
+QWidget *makeEmptyTile(QWidget *parent);
+/** @p count tiles of several sizes in @p parent, shown as soon as it is. */
+Tiles makeTiles(int count, QWidget *parent, QWidget *(*makeTile)(QWidget *parent) = makeEmptyTile);
+/** Where a flow of @p tiles in @p width pixels puts each of them. */
+QVector<QPoint> flowPositions(const Tiles &tiles, int width, int gap);
+
+/** The library's grid in a viewport of its window. */
+struct LibraryGrid
+{
+    LibraryGrid();
+
+    void add(const Tiles &tiles);
+    void setGap(int gap);
+    void reflow();
+
+    QWidget window;
+    QWidget viewport;
+    OlvGridLayout *content;
+};
+
+/** The same on stock Qt: a scroll area whose widget has a flow layout. */
+struct ScrolledFlowLayout
+{
+    ScrolledFlowLayout();
+
+    void add(const Tiles &tiles);
+    void setGap(int gap);
+    void reflow();
+
+    QWidget window;
+    QScrollArea area;
+    QWidget *content;
+    FlowLayout *layout;
+};
+
+/** Tiles in a window that the case moves by itself. */
+struct BareTiles
+{
+    BareTiles();
+
+    QWidget window;
+    QWidget *content;
+};
+
+/** The grid in its simplest form: all is placed anew at each addition. */
+struct NaiveGrid : BareTiles
+{
+    void add(QWidget *tile);
+
+private:
+    Tiles m_tiles;
+};
