@@ -3,6 +3,8 @@
 #include "groups.h"
 #include "support.h"
 
+#include <OlvWidgets/buttons.h>
+
 #include <QScrollBar>
 
 namespace {
@@ -151,19 +153,26 @@ void measureScrolling(benchmark::State &state, QWidget &window, const QWidget &c
     }
 }
 
-void scrollLibrary(benchmark::State &state, int count)
+using MakeTile = QWidget *(*)(QWidget *parent);
+
+QWidget *makeDrawnTile(QWidget *parent)
+{
+    return new OlvButton(QStringLiteral("Tile"), parent);
+}
+
+void scrollLibrary(benchmark::State &state, int count, MakeTile makeTile)
 {
     LibraryGrid grid;
-    grid.add(makeTiles(count, grid.content));
+    grid.add(makeTiles(count, grid.content, makeTile));
     showAndWait(grid.window);
     measureScrolling(state, grid.window, *grid.content, *grid.viewport.findChild<QScrollBar *>(),
                      1);
 }
 
-void scrollArea(benchmark::State &state, int count)
+void scrollArea(benchmark::State &state, int count, MakeTile makeTile)
 {
     ScrolledFlowLayout flow;
-    flow.add(makeTiles(count, flow.content));
+    flow.add(makeTiles(count, flow.content, makeTile));
     showAndWait(flow.window);
     measureScrolling(state, flow.window, *flow.content, *flow.area.verticalScrollBar(), scrollStep);
 }
@@ -172,6 +181,16 @@ template <typename Function> void addSized(const std::string &name, int count, F
 {
     addBenchmark(name + '/' + std::to_string(count),
                  [count, function](benchmark::State &state) { function(state, count); });
+}
+
+void addScrolling(const std::string &name, int count, MakeTile makeTile)
+{
+    addSized(name + "/library", count, [makeTile](benchmark::State &state, int tiles) {
+        scrollLibrary(state, tiles, makeTile);
+    });
+    addSized(name + "/scroll-area", count, [makeTile](benchmark::State &state, int tiles) {
+        scrollArea(state, tiles, makeTile);
+    });
 }
 
 } // namespace
@@ -186,8 +205,8 @@ void addFlowGrid()
         addSized("grid-none-moves/flow-layout", count, moveNone<ScrolledFlowLayout>);
         addSized("grid-add-list/library", count, addList<LibraryGrid>);
         addSized("grid-add-list/flow-layout", count, addList<ScrolledFlowLayout>);
-        addSized("grid-scroll-step/library", count, scrollLibrary);
-        addSized("grid-scroll-step/scroll-area", count, scrollArea);
+        addScrolling("grid-scroll-step", count, makeEmptyTile);
+        addScrolling("grid-scroll-step-drawn", count, makeDrawnTile);
         addSized("grid-add-each/library", count, [](benchmark::State &state, int tiles) {
             addEach<LibraryGrid>(state, tiles, [](LibraryGrid &grid, QWidget *tile) {
                 grid.content->addWidget(tile);

@@ -13,6 +13,8 @@ int main(int argc, char **argv)
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
 
+    benchmark::AddCustomContext("Qt", qVersion());
+    benchmark::AddCustomContext("compiler", "GCC " __VERSION__);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;

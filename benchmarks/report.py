@@ -2,21 +2,23 @@
 # SPDX-License-Identifier: MIT
 """Holds the results of the benchmarks against the targets.
 
-usage: report.py [--pictures FOLDER --document FILE --command TEXT] RESULTS.json...
-
-Prints one table; with --document writes docs/performance.md and its plot as well. The answer is 0
-whether or not a target is met: the table says so.
+Prints one table, and with --docs writes performance.md and its plot as well. It succeeds whether or
+not the targets are met: the table says so.
 """
 
 import argparse
 import json
 import math
+import os
 import statistics
+import sys
 from collections import defaultdict
 
 from targets import COUNTED_CASES, TARGETS, Counter, Ratio, Slope
 
 HEADINGS = ("case", "against", "measured", "target", "met")
+TEMPLATE = os.path.join(os.path.dirname(__file__), "performance.md.in")
+PICTURE = "pictures/cost-against-size.png"
 
 
 class Results:
@@ -25,12 +27,15 @@ class Results:
     def __init__(self, paths):
         runs = defaultdict(list)
         self.errors = []
+        self.context = {}
         for path in paths:
-            with open(path, encoding="utf-8") as file:
-                self._read(json.load(file), runs)
+            if os.path.getsize(path):  # empty where the filter matched nothing
+                with open(path, encoding="utf-8") as file:
+                    self._read(json.load(file), runs)
         self._runs = runs
 
     def _read(self, document, runs):
+        self.context = {**document["context"], **self.context}
         for run in document["benchmarks"]:
             if run["run_type"] != "iteration":
                 continue
@@ -84,7 +89,7 @@ def measured(results, target):
         points = results.curves()[target.case]["library"]
         return slope(points) if len(points) > 1 else None
     if isinstance(target, Counter):
-        return results.median(target.case, "library", None, target.counter)
+        return results.median(target.case, target.contestant, None, target.counter)
     counter = COUNTED_CASES.get(target.case)
     library = results.median(target.case, "library", target.size, counter)
     other = results.median(target.case, target.contestant, target.size, counter)
@@ -95,13 +100,15 @@ def row(target, value):
     case = target.case
     if isinstance(target, Ratio):
         case = f"{case}, {target.size:,}" if target.size else case
-        against, form = target.contestant, "{:.2f}" if target.limit >= 0.1 else "{:.3f}"
+        against, form = target.contestant, "{:.2f}" if value >= 0.095 else "{:.3f}"
     elif isinstance(target, Slope):
         against, form = "slope", "{:.2f}"
     else:
         against, form = target.unit, "{:,.0f}"
+    if target.limit is None:
+        return case, against, form.format(value), "", ""
     met = "yes" if value <= target.limit else "no"
-    return case, against, form.format(value), form.format(target.limit), met
+    return case, against, form.format(value), f"{target.limit:,g}", met
 
 
 def table(results):
@@ -122,15 +129,52 @@ def as_markdown(headings, rows):
     )
 
 
+def processor():
+    with open("/proc/cpuinfo", encoding="utf-8") as file:
+        names = [line.split(":", 1)[1].strip() for line in file if line.startswith("model name")]
+    return names[0] if names else "unknown processor"
+
+
+def document(results, command):
+    """docs/performance.md as a text."""
+    context = results.context
+    with open(TEMPLATE, encoding="utf-8") as file:
+        template = file.read()
+    return template.format(
+        command=command,
+        compiler=context["compiler"],
+        cores=context["num_cpus"],
+        date=context["date"][:10],
+        load=f'{context["load_avg"][0]:.1f}' if context["load_avg"] else "unknown",
+        picture=PICTURE,
+        processor=processor(),
+        qt=context["Qt"],
+        repetitions=results.repetitions(),
+        table=as_markdown(HEADINGS, table(results)),
+    )
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("results", nargs="+")
+    parser.add_argument("results", nargs="+", help="what the benchmarks wrote with --benchmark_out")
+    parser.add_argument("--docs", metavar="FOLDER", help="write performance.md and its plot there")
+    parser.add_argument("--command", help="how it was measured, for performance.md")
     arguments = parser.parse_args()
 
     results = Results(arguments.results)
-    print(as_markdown(HEADINGS, table(results)))
+    rows = table(results)
+    print(as_markdown(HEADINGS, rows))
     for error in results.errors:
         print(f"not measured: {error}")
+    if results.errors or not rows:
+        sys.exit("report.py: something could not be measured")
+    if arguments.docs:
+        from plot import plot  # only here: it takes long to load
+
+        plot(results.curves(), os.path.join(arguments.docs, PICTURE))
+        path = os.path.join(arguments.docs, "performance.md")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(document(results, arguments.command))
 
 
 if __name__ == "__main__":

@@ -1,5 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""What the library is held to: the one place where the targets stand."""
+"""What the library is held to: the one place where the targets stand.
+
+A row without a limit is shown beside the others and held to nothing.
+"""
 
 from typing import NamedTuple, Optional
 
@@ -9,7 +12,7 @@ class Ratio(NamedTuple):
 
     case: str
     contestant: str
-    limit: float
+    limit: Optional[float]
     size: Optional[int] = None
 
 
@@ -17,16 +20,17 @@ class Slope(NamedTuple):
     """The library's cost grows with at most this power of the size."""
 
     case: str
-    limit: float
+    limit: Optional[float]
 
 
 class Counter(NamedTuple):
-    """What the library's benchmark counted is at most `limit`."""
+    """What the library's benchmark counted, or a contestant's, is at most `limit`."""
 
     case: str
     counter: str
     unit: str
-    limit: float
+    limit: Optional[float]
+    contestant: str = "library"
 
 
 TARGETS = [
@@ -46,8 +50,13 @@ TARGETS = [
     Ratio("switch", "floor", 0.22),
     Ratio("slider", "floor", 0.22),
     Ratio("slider", "fusion", 1.05),
+    Ratio("slider", "sheet", None),
     Ratio("button-events", "fusion", 0.13),
     Ratio("button-events", "sheet", 0.06),
+    Ratio("button-events-unpainted", "fusion", None),
+    Ratio("button-events-unpainted", "sheet", None),
+    Ratio("button-events-painted", "fusion", None),
+    Ratio("button-events-painted", "sheet", None),
     Ratio("switch-ticks", "handwritten", 0.4),
     Ratio("switch-ticks", "animation", 0.35),
     Ratio("slider-drag", "fusion", 0.9),
@@ -63,6 +72,7 @@ TARGETS = [
     Slope("text-fitting", 0.6),
     Ratio("color-from-string", "qcolor", 2.5),
     Ratio("color-to-string", "qcolor", 0.2),
+    Ratio("color-to-string", "empty-string", None),
     Ratio("many-buttons", "window-sheet", 0.45, 1000),
     Ratio("many-buttons", "window-sheet", 0.45, 10000),
     Ratio("many-buttons", "button-sheets", 0.25, 1000),
@@ -83,9 +93,15 @@ TARGETS = [
     Ratio("grid-add-list", "flow-layout", 1.2, 10000),
     Ratio("grid-scroll-step", "scroll-area", 1.4, 1000),
     Ratio("grid-scroll-step", "scroll-area", 1.2, 10000),
+    *(Ratio("grid-scroll-step-drawn", "scroll-area", None, size) for size in (1000, 10000)),
     *(Ratio("grid-add-each", "naive", 0.6, size) for size in (1000, 3000, 10000)),
+    *(
+        Slope(f"grid-{name}", None)
+        for name in ("all-move", "none-moves", "add-list", "scroll-step", "add-each")
+    ),
     Ratio("load", "empty", 2.1),
     Counter("load", "bytes", "bytes of heap", 3000),
+    Counter("load", "bytes", "bytes, empty library", None, "empty"),
 ]
 
 # A ratio is one of times unless the case is here: then it is one of what this counter counted.

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// What loading the library costs a program that has Qt already: so this program links Qt, but not
+// the library.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <array>
+#include <cstdio>
+#include <dlfcn.h>
+#include <malloc.h>
+#include <sys/wait.h>
+#include <time.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char xcbPlatform[] = "libQt5XcbQpa.so.5";
+
+/** What a child process reports. */
+struct Cost
+{
+    double seconds;
+    double bytes;
+};
+
+double cpuSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return double(now.tv_sec) + double(now.tv_nsec) / 1e9;
+}
+
+double heapInUse()
+{
+    const auto info = mallinfo2();
+    return double(info.uordblks) + double(info.hblkhd);
+}
+
+/** False where @p path could not be loaded. */
+bool load(const char *path, Cost &cost)
+{
+    const double bytes = heapInUse();
+    const double seconds = cpuSeconds();
+    // lazily, as the program that links it has it loaded
+    const void *handle = dlopen(path, RTLD_LAZY | RTLD_LOCAL);
+    cost.seconds = cpuSeconds() - seconds;
+    cost.bytes = heapInUse() - bytes;
+    if (!handle) {
+        std::fprintf(stderr, "%s\n", dlerror());
+    }
+    return handle;
+}
+
+/** Loads in a process of its own, since a library that Qt knows of is never unloaded. */
+bool loadInChild(const char *path, Cost &cost)
+{
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) != 0) {
+        return false;
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+        Cost own{};
+        const bool done = load(path, own) && write(ends[1], &own, sizeof own) == sizeof own;
+        _exit(done ? 0 : 1);
+    }
+    close(ends[1]);
+    const bool done = child > 0 && read(ends[0], &cost, sizeof cost) == sizeof cost;
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return done;
+}
+
+void measureLoading(benchmark::State &state, const char *path)
+{
+    Cost cost{};
+    for (auto _ : state) {
+        if (!loadInChild(path, cost)) {
+            state.SkipWithError("the library could not be loaded");
+            return;
+        }
+        state.SetIterationTime(cost.seconds);
+    }
+    state.counters["bytes"] = cost.bytes;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    // What Qt loads on a desktop: the second library shares the X libraries with it.
+    if (!dlopen(xcbPlatform, RTLD_NOW | RTLD_GLOBAL)) {
+        std::fprintf(stderr, "%s\n", dlerror());
+        return 1;
+    }
+    benchmark::RegisterBenchmark("load/library", measureLoading, OLV_LIBRARY)->UseManualTime();
+    benchmark::RegisterBenchmark("load/empty", measureLoading, OLV_EMPTY_LIBRARY)->UseManualTime();
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
