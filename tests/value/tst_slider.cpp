@@ -1,51 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "mouse.h"
+#include "paintwatch.h"
 #include "pixels.h"
+#include "sliderknob.h"
 
-#include <OlvSlider>
-
-#include <QMouseEvent>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
-
-namespace {
-
-SliderRound *knobOf(const OlvSlider &slider)
-{
-    return reinterpret_cast<SliderRound *>(slider.property("SliderRound").toULongLong());
-}
-
-void sendMouse(QWidget *widget, QEvent::Type type, const QPointF &place,
-               Qt::MouseButton button = Qt::LeftButton)
-{
-    QMouseEvent event(type, place, button,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
-}
-
-/** Presses the knob at its middle and moves so that its logical x becomes @p newX, if it may. */
-void dragTo(OlvSlider &slider, int newX)
-{
-    SliderRound *knob = knobOf(slider);
-    sendMouse(knob, QEvent::MouseButtonPress, { 10, 10 });
-    sendMouse(knob, QEvent::MouseMove, QPointF(newX + 10 - knob->x(), 10));
-}
-
-class CountingSlider : public OlvSlider
-{
-public:
-    using OlvSlider::OlvSlider;
-    void setValue(const QVariant &value) override
-    {
-        values.append(value);
-        OlvSlider::setValue(value);
-    }
-    QVariantList values;
-};
-
-} // namespace
-
-Q_DECLARE_METATYPE(Qt::MouseButton)
 
 class TestSlider : public QObject
 {
@@ -57,25 +18,11 @@ private Q_SLOTS:
     void keepsItsHeight();
     void hasAMetaObjectWithNothingOfItsOwn();
     void setValueMovesNothingAndTellsNobody();
+    void valuesAndLimitsRepaintNothing();
     void getValueConvertsThePropertyToInt_data();
     void getValueConvertsThePropertyToInt();
-    void pressingGrowsTheKnobAboutItsCentre_data();
-    void pressingGrowsTheKnobAboutItsCentre();
-    void pressRoundsThePointInTheGeometryBefore_data();
-    void pressRoundsThePointInTheGeometryBefore();
-    void dragGivesAPercentage_data();
-    void dragGivesAPercentage();
-    void writesOnlyNewPercentagesButAlwaysTheFirst();
-    void draggingEmitsNothing();
-    void releasingWritesNoValue();
-    void movesOnlyWhilePressed();
-    void tracksNoMouseAtRest();
-    void keepsTheKnobsPlaceOnResizeUntilTheNextDrag();
     void survivesAPropertyThatHoldsAnotherNumber_data();
     void survivesAPropertyThatHoldsAnotherNumber();
-    void survivesASetValueThatDeletesTheSlider();
-    void knobOutsideASliderDragsAndTellsNobody();
-    void knobOutlivesTheSliderItLeft();
     void drawsTheTrack_data();
     void drawsTheTrack();
     void drawsTheTrackWhateverTheValue();
@@ -140,6 +87,19 @@ void TestSlider::setValueMovesNothingAndTellsNobody()
     QCOMPARE(changed.count(), 0);
 }
 
+void TestSlider::valuesAndLimitsRepaintNothing()
+{
+    OlvSlider slider;
+    PaintWatch sliderWatch(slider);
+    PaintWatch knobWatch(*knobOf(slider));
+    QVERIFY(sliderWatch.showWindow());
+    knobWatch.take();
+    slider.setValue(50);
+    knobOf(slider)->setMaxX(60);
+    QCOMPARE(sliderWatch.take(), {});
+    QCOMPARE(knobWatch.take(), {});
+}
+
 void TestSlider::getValueConvertsThePropertyToInt_data()
 {
     QTest::addColumn<QVariant>("stored");
@@ -163,178 +123,6 @@ void TestSlider::getValueConvertsThePropertyToInt()
     QCOMPARE(slider.getValue().userType(), int(QMetaType::Int));
 }
 
-void TestSlider::pressingGrowsTheKnobAboutItsCentre_data()
-{
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::newRow("left") << Qt::LeftButton;
-    QTest::newRow("right") << Qt::RightButton;
-    QTest::newRow("middle") << Qt::MiddleButton;
-}
-
-void TestSlider::pressingGrowsTheKnobAboutItsCentre()
-{
-    QFETCH(Qt::MouseButton, button);
-    OlvSlider slider;
-    SliderRound *knob = knobOf(slider);
-    QTest::mousePress(knob, button, {}, { 10, 10 });
-    QCOMPARE(knob->geometry(), QRect(0, 0, 30, 30));
-    QTest::mouseRelease(knob, button, {}, { 10, 10 });
-    QCOMPARE(knob->geometry(), QRect(5, 5, 20, 20));
-}
-
-void TestSlider::pressRoundsThePointInTheGeometryBefore_data()
-{
-    QTest::addColumn<qreal>("pressX");
-    QTest::addColumn<qreal>("moveX");
-    QTest::addColumn<int>("knobX");
-    QTest::newRow("whole") << 4.0 << 54.0 << 50;
-    QTest::newRow("press rounds up at a half") << 4.5 << 54.0 << 49;
-    QTest::newRow("press rounds down below it") << 4.4 << 54.0 << 50;
-    QTest::newRow("move rounds up at a half") << 4.0 << 53.5 << 50;
-    QTest::newRow("move rounds down below it") << 4.0 << 53.4 << 49;
-    QTest::newRow("press outside on the left") << -2.0 << 48.0 << 50;
-}
-
-void TestSlider::pressRoundsThePointInTheGeometryBefore()
-{
-    QFETCH(qreal, pressX);
-    QFETCH(qreal, moveX);
-    QFETCH(int, knobX);
-    OlvSlider slider;
-    SliderRound *knob = knobOf(slider);
-    sendMouse(knob, QEvent::MouseButtonPress, { pressX, 3.0 });
-    sendMouse(knob, QEvent::MouseMove, { moveX, 80.0 });
-    QCOMPARE(knob->pos(), QPoint(knobX, 0));
-}
-
-void TestSlider::dragGivesAPercentage_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("newX");
-    QTest::addColumn<int>("knobX");
-    QTest::addColumn<int>("progress");
-    QTest::newRow("at the start") << 200 << 0 << 0 << 0;
-    QTest::newRow("left of the start") << 200 << -1 << 0 << 0;
-    QTest::newRow("far left") << 200 << -5000 << 0 << 0;
-    QTest::newRow("one pixel is less than a percent") << 200 << 1 << 1 << 0;
-    QTest::newRow("two pixels are cut off to one percent") << 200 << 2 << 2 << 1;
-    QTest::newRow("middle") << 200 << 85 << 85 << 50;
-    QTest::newRow("just before the end") << 200 << 169 << 169 << 99;
-    QTest::newRow("at the end") << 200 << 170 << 170 << 100;
-    QTest::newRow("beyond the end") << 200 << 171 << 170 << 100;
-    QTest::newRow("far right") << 200 << 9000 << 170 << 100;
-    QTest::newRow("one pixel of travel, start") << 31 << 0 << 0 << 0;
-    QTest::newRow("one pixel of travel, end") << 31 << 1 << 1 << 100;
-    QTest::newRow("as wide as the knob, on the spot") << 30 << 0 << 0 << 0;
-    QTest::newRow("as wide as the knob, to the left") << 30 << -4 << 0 << 0;
-    QTest::newRow("as wide as the knob, to the right") << 30 << 4 << 0 << 100;
-    QTest::newRow("narrower, on the spot") << 20 << 0 << -10 << 100;
-    QTest::newRow("narrower, to the right") << 20 << 7 << -10 << 100;
-    QTest::newRow("narrower, to the left") << 20 << -9 << -10 << 100;
-    QTest::newRow("narrower, at its end") << 20 << -10 << 0 << 0;
-    QTest::newRow("narrower, beyond its end") << 20 << -11 << 0 << 0;
-    QTest::newRow("as wide as Qt allows") << QWIDGETSIZE_MAX << 16777000 << 16777000 << 99;
-}
-
-void TestSlider::dragGivesAPercentage()
-{
-    QFETCH(int, width);
-    QFETCH(int, newX);
-    QFETCH(int, knobX);
-    QFETCH(int, progress);
-    CountingSlider slider;
-    slider.resize(width, 30);
-    QResizeEvent resized(slider.size(), slider.size());
-    QCoreApplication::sendEvent(&slider, &resized);
-    QCOMPARE(knobOf(slider)->maxX(), width - 30);
-    dragTo(slider, newX);
-    QCOMPARE(knobOf(slider)->pos(), QPoint(knobX, 0));
-    QCOMPARE(knobOf(slider)->size(), QSize(30, 30));
-    QCOMPARE(slider.values, QVariantList({ progress }));
-    QCOMPARE(slider.getValue(), QVariant(progress));
-}
-
-void TestSlider::writesOnlyNewPercentagesButAlwaysTheFirst()
-{
-    CountingSlider slider;
-    SliderRound *knob = knobOf(slider);
-    sendMouse(knob, QEvent::MouseButtonPress, { 10, 10 });
-    sendMouse(knob, QEvent::MouseMove, { 10, 10 });
-    QCOMPARE(slider.values, QVariantList({ 0 }));
-    sendMouse(knob, QEvent::MouseMove, { 11, 10 });
-    QCOMPARE(knob->x(), 1);
-    QCOMPARE(slider.values, QVariantList({ 0 }));
-    sendMouse(knob, QEvent::MouseMove, { 11, 10 });
-    QCOMPARE(slider.values, QVariantList({ 0, 1 }));
-
-    // what the knob handed over last counts, not what the property holds by now
-    slider.setProperty("progress", 60);
-    sendMouse(knob, QEvent::MouseMove, { 10, 10 });
-    QCOMPARE(slider.values, QVariantList({ 0, 1 }));
-    QCOMPARE(slider.getValue(), QVariant(60));
-}
-
-void TestSlider::draggingEmitsNothing()
-{
-    OlvSlider slider;
-    QSignalSpy changed(&slider, &OlvWidget::valueChanged);
-    dragTo(slider, 100);
-    QTest::mouseRelease(knobOf(slider), Qt::LeftButton);
-    QCOMPARE(slider.getValue(), QVariant(58));
-    QCOMPARE(changed.count(), 0);
-}
-
-void TestSlider::releasingWritesNoValue()
-{
-    CountingSlider slider;
-    dragTo(slider, 100);
-    slider.setProperty("progress", 3);
-    sendMouse(knobOf(slider), QEvent::MouseButtonRelease, { 25, 25 });
-    QCOMPARE(slider.getValue(), QVariant(3));
-    QCOMPARE(slider.values.count(), 1);
-    QCOMPARE(knobOf(slider)->geometry(), QRect(105, 5, 20, 20));
-}
-
-void TestSlider::movesOnlyWhilePressed()
-{
-    CountingSlider slider;
-    SliderRound *knob = knobOf(slider);
-    sendMouse(knob, QEvent::MouseMove, { 60, 10 });
-    QCOMPARE(knob->geometry(), QRect(5, 5, 20, 20));
-    dragTo(slider, 40);
-    sendMouse(knob, QEvent::MouseButtonRelease, { 10, 10 });
-    sendMouse(knob, QEvent::MouseMove, { 60, 10 });
-    QCOMPARE(knob->geometry(), QRect(45, 5, 20, 20));
-    QCOMPARE(slider.values.count(), 1);
-}
-
-void TestSlider::tracksNoMouseAtRest()
-{
-    OlvSlider slider;
-    QVERIFY(!slider.hasMouseTracking());
-    QVERIFY(!knobOf(slider)->hasMouseTracking());
-}
-
-void TestSlider::keepsTheKnobsPlaceOnResizeUntilTheNextDrag()
-{
-    OlvSlider slider;
-    slider.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&slider));
-    SliderRound *knob = knobOf(slider);
-    dragTo(slider, 170);
-    sendMouse(knob, QEvent::MouseButtonRelease, { 10, 10 });
-    QCOMPARE(knob->geometry(), QRect(175, 5, 20, 20));
-
-    slider.resize(100, 30);
-    QCOMPARE(knob->maxX(), 70);
-    QCOMPARE(knob->geometry(), QRect(175, 5, 20, 20));
-    QCOMPARE(slider.getValue(), QVariant(100));
-
-    sendMouse(knob, QEvent::MouseButtonPress, { 10, 10 });
-    sendMouse(knob, QEvent::MouseMove, { 10, 10 });
-    QCOMPARE(knob->pos(), QPoint(70, 0));
-}
-
 void TestSlider::survivesAPropertyThatHoldsAnotherNumber_data()
 {
     QTest::addColumn<QVariant>("number");
@@ -354,44 +142,6 @@ void TestSlider::survivesAPropertyThatHoldsAnotherNumber()
     slider.setProperty("SliderRound", number);
     slider.resize(100, 30);
     QCOMPARE(static_cast<SliderRound *>(knob)->maxX(), 170);
-}
-
-void TestSlider::survivesASetValueThatDeletesTheSlider()
-{
-    class Suicidal : public OlvSlider
-    {
-    public:
-        void setValue(const QVariant & /*value*/) override
-        {
-            delete this;
-        }
-    };
-    const QPointer<OlvSlider> slider(new Suicidal);
-    dragTo(*slider, 50);
-    QVERIFY(slider.isNull());
-}
-
-void TestSlider::knobOutsideASliderDragsAndTellsNobody()
-{
-    QWidget parent;
-    parent.resize(130, 30);
-    SliderRound knob(&parent);
-    QCOMPARE(knob.maxX(), 100);
-    sendMouse(&knob, QEvent::MouseButtonPress, { 10, 10 });
-    sendMouse(&knob, QEvent::MouseMove, { 45, 10 });
-    QCOMPARE(knob.geometry(), QRect(30, 0, 30, 30));
-}
-
-void TestSlider::knobOutlivesTheSliderItLeft()
-{
-    QWidget home;
-    auto *slider = new OlvSlider;
-    SliderRound *knob = knobOf(*slider);
-    knob->setParent(&home);
-    delete slider;
-    sendMouse(knob, QEvent::MouseButtonPress, { 10, 10 });
-    sendMouse(knob, QEvent::MouseMove, { 60, 10 });
-    QCOMPARE(knob->pos(), QPoint(50, 0));
 }
 
 void TestSlider::drawsTheTrack_data()
@@ -445,7 +195,7 @@ void TestSlider::drawsTheKnob()
     OlvSlider slider;
     SliderRound *knob = knobOf(slider);
     if (pressed) {
-        sendMouse(knob, QEvent::MouseButtonPress, { 10, 10 });
+        Mouse::press(knob, { 10, 10 });
     }
     const int size = pressed ? 30 : 20;
     DrawnWidget expected({ size, size }, [=](QPainter &painter) {
