@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "fakeshortcut.h"
+#include "keyplay.h"
+
+#include <OlvShortcutEdit>
+
+#include <QPointer>
+#include <QTest>
+
+#include <utility>
+
+class TestShortcutEditMisuse : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void survivesSlotsThatDoAnything_data();
+    void survivesSlotsThatDoAnything();
+    void survivesShortcutsThatDeleteIt();
+    void survivesTheLossOfItsShortcut();
+    void hostilePropertiesNameNoShortcut_data();
+    void hostilePropertiesNameNoShortcut();
+};
+
+void TestShortcutEditMisuse::init()
+{
+    takeRecord();
+}
+
+void TestShortcutEditMisuse::survivesSlotsThatDoAnything_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<bool>("fromValueChanged");
+    for (const char *action : { "delete", "clear", "replace", "delete the shortcut" }) {
+        for (const bool fromValueChanged : { false, true }) {
+            QTest::addRow("%s, %s", action, fromValueChanged ? "valueChanged" : "shortcutChanged")
+                << QString::fromLatin1(action) << fromValueChanged;
+        }
+    }
+}
+
+void TestShortcutEditMisuse::survivesSlotsThatDoAnything()
+{
+    QFETCH(QString, action);
+    QFETCH(bool, fromValueChanged);
+    const QPointer<OlvShortcutEdit> edit(new OlvShortcutEdit);
+    bool done = false;
+    const auto act = [&] {
+        if (std::exchange(done, true)) {
+            return;
+        }
+        if (action == QLatin1String("delete")) {
+            delete edit;
+        } else if (action == QLatin1String("clear")) {
+            edit->clear();
+        } else if (action == QLatin1String("replace")) {
+            edit->setShortcut(new FakeShortcut(QStringLiteral("two")));
+        } else {
+            delete edit->shortcut();
+        }
+    };
+    if (fromValueChanged) {
+        connect(edit, &OlvWidget::valueChanged, this, act);
+    } else {
+        connect(edit, &OlvShortcutEdit::shortcutChanged, this, act);
+    }
+    QVERIFY(edit->setShortcut(new FakeShortcut(QStringLiteral("one"))));
+    QVERIFY(done);
+    if (edit) {
+        QCOMPARE(edit->getValue().toString(),
+                 action == QLatin1String("replace") ? QStringLiteral("two")
+                                                    : QStringLiteral("nullptr"));
+    }
+    delete edit;
+    // whatever happened, each shortcut was deleted once
+    const QStringList record = takeRecord();
+    QCOMPARE(record.count(QStringLiteral("one deleted")), 1);
+    QCOMPARE(record.count(QStringLiteral("two deleted")),
+             action == QLatin1String("replace") ? 1 : 0);
+}
+
+void TestShortcutEditMisuse::survivesShortcutsThatDeleteIt()
+{
+    QPointer<OlvShortcutEdit> edit(new OlvShortcutEdit);
+    auto *shortcut = new FakeShortcut(QStringLiteral("one"));
+    shortcut->onActive = [=] {
+        delete edit;
+    };
+    QVERIFY(!edit->setShortcut(shortcut));
+    QVERIFY(edit.isNull());
+    QCOMPARE(takeRecord(),
+             QStringList({ QStringLiteral("one active"), QStringLiteral("one deleted") }));
+
+    edit = new OlvShortcutEdit;
+    shortcut = new FakeShortcut(QStringLiteral("one"));
+    shortcut->onDestroy = [=] {
+        delete edit;
+    };
+    edit->setShortcut(shortcut);
+    takeRecord();
+    QVERIFY(!edit->setShortcut(new FakeShortcut(QStringLiteral("two"))));
+    QVERIFY(edit.isNull());
+    QStringList record = takeRecord();
+    record.sort();
+    QCOMPARE(record,
+             QStringList({ QStringLiteral("one deleted"), QStringLiteral("one destroyed"),
+                           QStringLiteral("two active"), QStringLiteral("two deleted") }));
+}
+
+void TestShortcutEditMisuse::survivesTheLossOfItsShortcut()
+{
+    OlvShortcutEdit edit(new FakeShortcut(QStringLiteral("one")));
+    delete edit.shortcut();
+    QCOMPARE(edit.shortcut(), nullptr);
+    QCOMPARE(edit.getValue(), QVariant(QStringLiteral("nullptr")));
+    QVERIFY(!edit.grab().isNull());
+    QVERIFY(edit.setShortcut(new FakeShortcut(QStringLiteral("two"))));
+    QCOMPARE(edit.getValue(), QVariant(QStringLiteral("two")));
+}
+
+void TestShortcutEditMisuse::hostilePropertiesNameNoShortcut_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QVariant>("value");
+    for (const char *name : { "HasOlvShortcut", "OlvShortcut", "Temp" }) {
+        QTest::addRow("%s invalid", name) << QByteArray(name) << QVariant();
+        QTest::addRow("%s wild", name) << QByteArray(name) << QVariant(0xdeadbeefULL);
+        QTest::addRow("%s text", name) << QByteArray(name) << QVariant(QStringLiteral("x"));
+    }
+}
+
+void TestShortcutEditMisuse::hostilePropertiesNameNoShortcut()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QVariant, value);
+    for (const bool holding : { false, true }) {
+        auto *edit = new OlvShortcutEdit;
+        if (holding) {
+            edit->setShortcut(new FakeShortcut(QStringLiteral("one")));
+        }
+        edit->setProperty(name.constData(), value);
+        QVERIFY(!edit->grab().isNull());
+        edit->getValue();
+        play(*edit, QStringLiteral("+ctrl +a -a -ctrl"));
+        edit->setShortcut(new FakeShortcut(QStringLiteral("two")));
+        QCOMPARE(edit->getValue(), QVariant(QStringLiteral("two")));
+        edit->setProperty(name.constData(), value);
+        edit->clear();
+        delete edit;
+        const QStringList record = takeRecord();
+        QCOMPARE(record.count(QStringLiteral("one deleted")), holding ? 1 : 0);
+        QCOMPARE(record.count(QStringLiteral("two deleted")), 1);
+    }
+}
+
+QTEST_MAIN(TestShortcutEditMisuse)
+#include "tst_shortcuteditmisuse.moc"
