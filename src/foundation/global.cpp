@@ -129,8 +129,10 @@ void OlvGlobal::init()
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         return;
     }
-    // has Qt make its font database's statics now: what is made before the jobs outlives them
-    QFontDatabase::applicationFontFamilies(firstFontId);
+    // has Qt make its font database's statics now: what is made before the jobs outlives them. Only
+    // once: a job that waits for a file holds the database.
+    static std::once_flag made;
+    std::call_once(made, [] { QFontDatabase::applicationFontFamilies(firstFontId); });
     FontJobs::instance().begin();
     qAddPostRoutine([] { FontJobs::instance().endAll(); });
     std::thread(runFontJob).detach();

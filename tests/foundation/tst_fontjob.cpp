@@ -2,6 +2,7 @@
 #include <OlvGlobal>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -10,7 +11,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -29,6 +32,28 @@ QString sans()
 QString mono()
 {
     return QStringLiteral(OLV_TEST_FONTS "/DejaVuSansMono.ttf");
+}
+
+/** Lists two files, either of which keeps a job waiting until somebody opens it for writing. */
+void makeTwoPipes()
+{
+    QVERIFY(QDir().mkdir(QStringLiteral("Font")));
+    QVERIFY(QDir().mkdir(QStringLiteral("fonts")));
+    write(QStringLiteral("Font/a.ttf"), "listed only");
+    write(QStringLiteral("Font/b.ttf"), "listed only");
+    QCOMPARE(mkfifo("fonts/a.ttf", 0600), 0);
+    QCOMPARE(mkfifo("fonts/b.ttf", 0600), 0);
+}
+
+/** Runs a program that starts the job in the current folder, and leaves. */
+void leave(QProcess *program, const QString &way)
+{
+    // what counts is that it does not crash: whoever leaves so early need not clean up
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
+    program->setProcessEnvironment(environment);
+    program->start(QStringLiteral(OLV_INIT_AND_LEAVE), { way });
+    QVERIFY(program->waitForFinished());
 }
 
 } // namespace
@@ -59,6 +84,8 @@ private Q_SLOTS:
     void lookingUpAddsNoKey();
     void secondJobRegistersEverythingAgain();
     void withoutADirectoryNothingIsRegistered();
+    void initDoesNotWaitForAJobThatIsStuck();
+    void leavingWaitsFiveSecondsForAFileThatNeverEnds();
     void leavingDuringTheJobIsSafe_data();
     void leavingDuringTheJobIsSafe();
 
@@ -255,6 +282,62 @@ void TestFontJob::withoutADirectoryNothingIsRegistered()
     QVERIFY(QDir::setCurrent(m_home.path()));
 }
 
+void TestFontJob::initDoesNotWaitForAJobThatIsStuck()
+{
+    const QTemporaryDir home;
+    QVERIFY(QDir::setCurrent(home.path()));
+    makeTwoPipes();
+    OlvGlobal::OlvPluginFonts.clear();
+    OlvGlobal::DPI = 0.0;
+    OlvGlobal::init();
+    // whichever pipe can be opened is the one that the job reads; it gets stuck in the other one
+    QString other;
+    const auto isPastTheFirst = [&] {
+        for (const char *name : { "a", "b" }) {
+            const QByteArray pipe = QByteArray("fonts/") + name + ".ttf";
+            const int writer = open(pipe.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+            if (writer >= 0) {
+                close(writer);
+                other = *name == 'a' ? QStringLiteral("b") : QStringLiteral("a");
+                return true;
+            }
+        }
+        return false;
+    };
+    QVERIFY(QTest::qWaitFor(isPastTheFirst));
+
+    QVERIFY(QFile::remove(QStringLiteral("Font/a.ttf")));
+    QVERIFY(QFile::remove(QStringLiteral("Font/b.ttf")));
+    QCOMPARE(OlvGlobal::DPI, 0.0);
+    OlvGlobal::init();
+    QTRY_VERIFY(OlvGlobal::DPI > 0.0);
+    QCOMPARE(OlvGlobal::OlvPluginFonts.size(), 1);
+    QVERIFY(!OlvGlobal::OlvPluginFonts.contains(other));
+
+    OlvGlobal::DPI = 0.0;
+    QFile pipe(QStringLiteral("fonts/%1.ttf").arg(other));
+    QVERIFY(pipe.open(QIODevice::WriteOnly));
+    pipe.close();
+    QTRY_VERIFY(OlvGlobal::DPI > 0.0);
+    QCOMPARE(OlvGlobal::OlvPluginFonts.value(other, 99), -1);
+    QVERIFY(QDir::setCurrent(m_home.path()));
+}
+
+void TestFontJob::leavingWaitsFiveSecondsForAFileThatNeverEnds()
+{
+    const QTemporaryDir home;
+    QVERIFY(QDir::setCurrent(home.path()));
+    makeTwoPipes();
+    QElapsedTimer clock;
+    clock.start();
+    QProcess program;
+    leave(&program, QStringLiteral("stuck"));
+    QVERIFY2(clock.elapsed() >= 5900, QByteArray::number(clock.elapsed()).constData());
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    QVERIFY(QDir::setCurrent(m_home.path()));
+}
+
 void TestFontJob::leavingDuringTheJobIsSafe_data()
 {
     QTest::addColumn<QString>("way");
@@ -267,13 +350,7 @@ void TestFontJob::leavingDuringTheJobIsSafe()
     QFETCH(QString, way);
     for (int run = 0; run < 20; ++run) {
         QProcess program;
-        program.setWorkingDirectory(m_home.path());
-        // what counts is that it does not crash: whoever leaves so early need not clean up
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
-        program.setProcessEnvironment(environment);
-        program.start(QStringLiteral(OLV_INIT_AND_LEAVE), { way });
-        QVERIFY(program.waitForFinished());
+        leave(&program, way);
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
     }
