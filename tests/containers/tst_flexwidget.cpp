@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "mouse.h"
+#include "paintwatch.h"
 #include "pixels.h"
 
 #include <OlvFlexWidget>
@@ -52,6 +53,7 @@ private Q_SLOTS:
     void takesAHeader_data();
     void takesAHeader();
     void ignoresWaysThatAreNone();
+    void headerRepaintsNothing();
     void draws_data();
     void draws();
     void drawsSquareWhenMaximised_data();
@@ -220,6 +222,15 @@ void TestFlexWidget::ignoresWaysThatAreNone()
         QCOMPARE(panel.property("headerWay"), QVariant(0));
         QVERIFY(!panel.property("headerWayColor").isValid());
     }
+}
+
+void TestFlexWidget::headerRepaintsNothing()
+{
+    OlvFlexWidget panel(200, 100);
+    PaintWatch watch(panel);
+    QVERIFY(watch.showWindow());
+    panel.setHeaderWay(OlvFlexWidget::HeaderTop, Qt::red);
+    QCOMPARE(watch.take(), {});
 }
 
 void TestFlexWidget::draws_data()

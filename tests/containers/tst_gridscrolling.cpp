@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "gridscene.h"
+
+#include <QTest>
+
+class TestGridScrolling : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void scrollsByTheRestOfTheHeight_data();
+    void scrollsByTheRestOfTheHeight();
+    void barMovesTheGrid();
+    void wheelScrolls_data();
+    void wheelScrolls();
+    void wheelReadsTheTurnAsQtDid();
+    void wheelDoesNothingInAWindow();
+    void wheelStaysWithTheGrid_data();
+    void wheelStaysWithTheGrid();
+    void barFollowsTheHeightOfTheViewport();
+    void keepsItsPlaceWhenItIsEmptiedWhileScrolled();
+};
+
+void TestGridScrolling::scrollsByTheRestOfTheHeight_data()
+{
+    QTest::addColumn<int>("tileHeight");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("fits") << 100 << 0 << false;
+    QTest::newRow("fits exactly") << 170 << 0 << false;
+    QTest::newRow("a pixel more") << 171 << 0 << true;
+    QTest::newRow("24 more") << 194 << 0 << true;
+    QTest::newRow("25 more") << 195 << 1 << true;
+    QTest::newRow("60 more, 10 out of reach") << 230 << 2 << true;
+    QTest::newRow("500 more") << 670 << 20 << true;
+}
+
+void TestGridScrolling::scrollsByTheRestOfTheHeight()
+{
+    QFETCH(int, tileHeight);
+    QFETCH(int, maximum);
+    QFETCH(bool, shown);
+    Scene scene(true);
+    barOf(*scene.grid)->setMaximum(0);
+    scene.grid->addWidget(makeTile(scene.grid, 50, tileHeight));
+    QCOMPARE(!barOf(*scene.grid)->isHidden(), shown);
+    QCOMPARE(barOf(*scene.grid)->maximum(), maximum);
+    QCOMPARE(barOf(*scene.grid)->minimum(), 0);
+}
+
+void TestGridScrolling::barMovesTheGrid()
+{
+    Scene scene(true);
+    auto *tile = makeTile(scene.grid, 50, 1170); // 1000 pixels more than fit
+    scene.grid->addWidget(tile);
+    barOf(*scene.grid)->setValue(7);
+    QCOMPARE(scene.grid->pos(), QPoint(0, -175));
+    barOf(*scene.grid)->setValue(40);
+    QCOMPARE(scene.grid->pos(), QPoint(0, -1000));
+
+    // a reflow leaves the place; a smaller maximum brings it along
+    scene.grid->reUi();
+    QCOMPARE(scene.grid->pos(), QPoint(0, -1000));
+    tile->resize(50, 670);
+    scene.grid->reUi();
+    QCOMPARE(barOf(*scene.grid)->value(), 20);
+    QCOMPARE(scene.grid->pos(), QPoint(0, -500));
+}
+
+void TestGridScrolling::wheelScrolls_data()
+{
+    QTest::addColumn<QPoint>("angle");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("value");
+    QTest::newRow("down") << QPoint(0, -120) << 0 << 20;
+    QTest::newRow("down twice as far is one notch") << QPoint(0, -240) << 0 << 20;
+    QTest::newRow("up") << QPoint(0, 120) << 35 << 15;
+    QTest::newRow("up, clamped") << QPoint(0, 120) << 7 << 0;
+    QTest::newRow("down, clamped") << QPoint(0, -120) << 30 << 40;
+    QTest::newRow("nothing goes up") << QPoint(0, 0) << 35 << 15;
+    QTest::newRow("right turn of a horizontal wheel") << QPoint(-120, 0) << 0 << 20;
+    QTest::newRow("left turn of a horizontal wheel") << QPoint(120, 0) << 35 << 15;
+    QTest::newRow("more down than left") << QPoint(60, -120) << 0 << 20;
+    QTest::newRow("more left than down") << QPoint(120, -60) << 35 << 15;
+    QTest::newRow("as much of both goes by the vertical") << QPoint(120, -120) << 0 << 20;
+}
+
+void TestGridScrolling::wheelScrolls()
+{
+    QFETCH(QPoint, angle);
+    QFETCH(int, start);
+    QFETCH(int, value);
+    Scene scene(true);
+    scene.grid->addWidget(makeTile(scene.grid, 50, 1170)); // a maximum of 40
+    barOf(*scene.grid)->setValue(start);
+    wheel(*scene.grid, angle);
+    QCOMPARE(barOf(*scene.grid)->value(), value);
+}
+
+void TestGridScrolling::wheelReadsTheTurnAsQtDid()
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    for (int x = -240; x <= 240; x += 60) {
+        for (int y = -240; y <= 240; y += 60) {
+            const QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(x, y),
+                                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            Scene scene(true);
+            scene.grid->addWidget(makeTile(scene.grid, 50, 1170));
+            barOf(*scene.grid)->setValue(20);
+            wheel(*scene.grid, QPoint(x, y));
+            QCOMPARE(barOf(*scene.grid)->value(), event.delta() < 0 ? 40 : 0);
+        }
+    }
+    QT_WARNING_POP
+}
+
+void TestGridScrolling::wheelDoesNothingInAWindow()
+{
+    Scene scene(false);
+    scene.grid->addWidget(makeTile(scene.grid, 50, 900));
+    wheel(*scene.grid, QPoint(0, -120));
+    QCOMPARE(scene.grid->pos(), QPoint(1, 1));
+}
+
+void TestGridScrolling::wheelStaysWithTheGrid_data()
+{
+    QTest::addColumn<bool>("embedded");
+    QTest::newRow("in a viewport") << true;
+    QTest::newRow("in a window") << false;
+}
+
+void TestGridScrolling::wheelStaysWithTheGrid()
+{
+    QFETCH(bool, embedded);
+    class OpenGrid : public OlvGridLayout
+    {
+    public:
+        using OlvGridLayout::OlvGridLayout;
+        using OlvGridLayout::wheelEvent;
+    };
+    QWidget window;
+    OpenGrid grid(embedded ? new QWidget(&window) : &window);
+    grid.addWidget(makeTile(&grid, 50, 1170));
+    QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    event.accept();
+    grid.wheelEvent(&event);
+    QVERIFY(event.isAccepted());
+}
+
+void TestGridScrolling::barFollowsTheHeightOfTheViewport()
+{
+    Scene scene(true);
+    scene.grid->addWidget(makeTile(scene.grid, 50, 670)); // 700 pixels high
+    scene.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.window));
+    QTRY_VERIFY(!timerOf(*scene.grid)->isActive());
+    QScrollBar *bar = barOf(*scene.grid);
+    QCOMPARE(bar->maximum(), 20);
+
+    scene.viewport->resize(300, 100);
+    // known from the moment when the size has settled
+    scene.grid->reUi();
+    QCOMPARE(bar->maximum(), 20);
+    QCOMPARE(bar->height(), 200);
+    QTRY_COMPARE(bar->maximum(), 24);
+    QCOMPARE(bar->geometry(), QRect(287, 0, 10, 100));
+    QVERIFY(bar->isVisible());
+    bar->setValue(24);
+
+    scene.viewport->resize(300, 699);
+    QTRY_COMPARE(bar->maximum(), 0);
+    QVERIFY(bar->isVisible());
+    QCOMPARE(scene.grid->pos(), QPoint(0, 0));
+    scene.viewport->resize(300, 700);
+    QTRY_VERIFY(!bar->isVisible());
+    QCOMPARE(bar->height(), 700);
+}
+
+void TestGridScrolling::keepsItsPlaceWhenItIsEmptiedWhileScrolled()
+{
+    Scene scene(true);
+    auto *tile = makeTile(scene.grid, 50, 1170);
+    scene.grid->addWidget(tile);
+    scene.window.show();
+    QScrollBar *bar = barOf(*scene.grid);
+    bar->setValue(30);
+    QVERIFY(scene.grid->delWidget(tile));
+    QCOMPARE(scene.grid->geometry(), QRect(0, -750, 300, 200));
+    QCOMPARE(bar->value(), 30);
+    QCOMPARE(bar->maximum(), 40);
+    QVERIFY(bar->isVisible());
+    QVERIFY(labelOf(*scene.grid)->isVisible());
+}
+
+QTEST_MAIN(TestGridScrolling)
+#include "tst_gridscrolling.moc"
