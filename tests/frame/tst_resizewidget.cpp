@@ -55,6 +55,7 @@ private Q_SLOTS:
     void placesThreeHandles_data();
     void placesThreeHandles();
     void handlesHaveTheirCursors();
+    void handlesAreShownTogetherWithTheTarget();
     void handlesKnowEachOther();
     void keepsTheCornersAddress();
     void raisesTheHandlesFromTheEventLoop();
@@ -119,6 +120,28 @@ void TestResizeWidget::handlesHaveTheirCursors()
     QCOMPARE(handles.right->cursor().shape(), Qt::SizeHorCursor);
     QCOMPARE(handles.bottom->cursor().shape(), Qt::SizeVerCursor);
     QCOMPARE(handles.corner->cursor().shape(), Qt::SizeFDiagCursor);
+}
+
+void TestResizeWidget::handlesAreShownTogetherWithTheTarget()
+{
+    QWidget target;
+    const OlvResizeWidget before(&target, 5);
+    const Handles handles = handlesOf(target);
+    for (const OlvResizeItem *handle : { handles.right, handles.bottom, handles.corner }) {
+        QVERIFY(!handle->testAttribute(Qt::WA_WState_ExplicitShowHide));
+    }
+    target.show();
+    QVERIFY(handles.right->isVisible() && handles.bottom->isVisible()
+            && handles.corner->isVisible());
+
+    // nobody shows those of a target that is shown already
+    QWidget shown;
+    shown.show();
+    const OlvResizeWidget after(&shown, 5);
+    auto *last = new QWidget(&shown);
+    QTRY_VERIFY(shown.children().indexOf(last) < shown.children().indexOf(handlesOf(shown).corner));
+    QVERIFY(!handlesOf(shown).right->isVisible());
+    QVERIFY(!handlesOf(shown).corner->isVisible());
 }
 
 void TestResizeWidget::handlesKnowEachOther()
