@@ -241,8 +241,8 @@ public:
      * A missing directory registers nothing; a file that Qt cannot load is recorded with the id -1.
      * Without a primary screen the measures are not recorded and isReady() stays false; without a
      * QGuiApplication nothing is done at all. Call it once: a second call registers every file a
-     * second time. A program that ends while the job is running waits for the file in hand, at most
-     * 5 seconds.
+     * second time. A program that ends while the job is running waits for the file in hand: the
+     * library for at most 5 seconds, Qt for as long as it reads it.
      */
     static void init();
     /** Whether the font job has done its work; never goes back to false. Set just before #DPI. */
