@@ -49,6 +49,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    friend class AccessibleSlider;
+    void dragTo(int progress);
+
     bool m_pressed = false;
     int m_maxX = 0;
     int m_progress = -1;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "accessibility/accessibility_p.h"
+
 namespace {
 
 constexpr int sideLength = 30;
@@ -11,8 +13,10 @@ constexpr char checkedProperty[] = "enable";
 } // namespace
 
 OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font, QWidget *parent)
-    : QPushButton(text, parent)
+    : QPushButton(parent)
 {
+    Accessibility::prepare(this);
+    setText(text); // tells assistive programs: not before they get the right interface
     setFont(font);
     setCheckable(true);
     resize(sideLength, sideLength);

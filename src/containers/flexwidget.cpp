@@ -2,6 +2,7 @@
 #include <OlvWidgets/containers.h>
 #include <OlvWidgets/frame.h>
 
+#include "accessibility/accessibility_p.h"
 #include "foundation/childataddress_p.h"
 #include "foundation/shape_p.h"
 
@@ -60,6 +61,7 @@ QRect headerRect(int way, QSize size)
 OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
     : QWidget(parent)
 {
+    Accessibility::prepare(this);
     setProperty(stayProperty, int(StayNormal));
     setProperty(headerWayProperty, noHeader);
     setMinimumSize(smallestSide, smallestSide);

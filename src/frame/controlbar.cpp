@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/frame.h>
 
+#include "accessibility/accessibility_p.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSpacerItem>
@@ -61,6 +63,7 @@ const OlvControlBar::WindowState *stateOf(const QPushButton *button)
 OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const QStringList &tips)
     : QWidget(parent)
 {
+    Accessibility::prepare(this);
     setFixedHeight(barHeight);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -94,6 +97,7 @@ QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int i
     button->setProperty(indexProperty, index);
     button->setToolTip(tip);
     layout()->addWidget(button);
+    Accessibility::prepare(button); // only now is it a button of a bar
     button->setFont(QFont(QStringLiteral("FontAwesome"), glyphSize));
     m_buttons.append(button);
     return button;

@@ -34,6 +34,18 @@ void SliderRound::setMaxX(int maxX)
     m_maxX = maxX;
 }
 
+void SliderRound::dragTo(int progress)
+{
+    // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
+    // track has a pixel for it.
+    const qint64 x = (qMax<qint64>(m_maxX, 0) * progress + fullProgress - 1) / fullProgress;
+    move(int(x) + (m_pressed ? 0 : SliderMetrics::knobInset), y());
+    m_progress = progress;
+    if (m_slider) {
+        m_slider->setValue(progress);
+    }
+}
+
 void SliderRound::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/widget.h>
 
+#include "accessibility/accessibility_p.h"
+
 #include <QInputMethodEvent>
 #include <QPointer>
 
 OlvWidget::OlvWidget(QWidget *parent)
     : QWidget(parent)
-{ }
+{
+    Accessibility::prepare(this);
+}
 
 void OlvWidget::openInputMethod()
 {

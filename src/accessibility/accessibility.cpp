@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "accessibility/accessibility_p.h"
+
+#include <OlvWidgets/frame.h>
+
+#include "accessibility/accessiblebutton_p.h"
+#include "accessibility/accessibleflexwidget_p.h"
+#include "accessibility/accessibleglyphbutton_p.h"
+#include "accessibility/accessibleiconbutton_p.h"
+#include "accessibility/accessibleshortcutedit_p.h"
+#include "accessibility/accessibleslider_p.h"
+#include "accessibility/accessibleswitch_p.h"
+
+#include <QApplication>
+
+namespace {
+
+template <class Interface> AccessibleWidget *make(QWidget *widget)
+{
+    return new Interface(widget);
+}
+
+template <QAccessible::Role role> AccessibleWidget *makePlain(QWidget *widget)
+{
+    return new AccessibleWidget(widget, role);
+}
+
+struct Maker
+{
+    const char *className;
+    AccessibleWidget *(*make)(QWidget *);
+};
+
+constexpr Maker makers[] = {
+    { "OlvButton", make<AccessibleButton> },
+    { "OlvControlBar", makePlain<QAccessible::ToolBar> },
+    { "OlvFlexWidget", make<AccessibleFlexWidget> },
+    { "OlvIconButton", make<AccessibleIconButton> },
+    { "OlvLineEdit", makePlain<QAccessible::Grouping> },
+    { "OlvShortcutEdit", make<AccessibleShortcutEdit> },
+    { "OlvSimpleIconButton", make<AccessibleGlyphButton> },
+    { "OlvSlider", make<AccessibleSlider> },
+    { "OlvSwitch", make<AccessibleSwitch> },
+};
+
+AccessibleWidget *makeFor(const QString &className, QWidget *widget)
+{
+    if (className == QLatin1String("QPushButton")) {
+        return qobject_cast<OlvControlBar *>(widget->parentWidget())
+            ? new AccessibleGlyphButton(widget)
+            : nullptr;
+    }
+    if (!className.startsWith(QLatin1String("Olv"))) {
+        return nullptr;
+    }
+    for (const Maker &maker : makers) {
+        if (className == QLatin1String(maker.className)) {
+            return maker.make(widget);
+        }
+    }
+    return nullptr;
+}
+
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    AccessibleWidget *made = widget ? makeFor(className, widget) : nullptr;
+    // Qt makes interfaces for every widget that is shown, whether or not anybody looks at them
+    if (made && QAccessible::isActive()) {
+        made->setWatching(true);
+    }
+    return made;
+}
+
+/** Watches the widgets that were there before somebody looked. */
+class Activation : public QAccessible::ActivationObserver
+{
+public:
+    void accessibilityActiveChanged(bool active) override
+    {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            auto *own =
+                dynamic_cast<AccessibleWidget *>(QAccessible::queryAccessibleInterface(widget));
+            if (own) {
+                own->setWatching(active);
+            }
+        }
+    }
+};
+
+struct Installation
+{
+    Activation activation;
+
+    Installation() = default;
+    ~Installation()
+    {
+        QAccessible::removeActivationObserver(&activation);
+        QAccessible::removeFactory(makeInterface);
+    }
+    Q_DISABLE_COPY(Installation)
+
+    /** Qt forgets both with each application object, and takes each but once. */
+    void install()
+    {
+        QAccessible::installActivationObserver(&activation);
+        QAccessible::installFactory(makeInterface);
+    }
+};
+
+} // namespace
+
+void Accessibility::prepare(QWidget *widget)
+{
+    static Installation installation;
+    installation.install();
+    // The constructor of a base class may have told of a change, as QWidget's does in a disabled
+    // parent, and Qt then has made the interface of that class and would keep it.
+    if (!widget->isEnabled() || QAccessible::isActive()) {
+        QAccessible::deleteAccessibleInterface(
+            QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
+    }
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWidget;
+
+/** What the widgets know of their accessibility. */
+namespace Accessibility {
+
+/**
+ * Makes Qt ask this library for the interface of @p widget, also when it has made one of its own
+ * already. Each class that has an interface here calls it in its constructor. It costs next to
+ * nothing while nobody looks.
+ */
+void prepare(QWidget *widget);
+
+} // namespace Accessibility

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "accessibility/accessibleflexwidget_p.h"
+
+AccessibleFlexWidget::AccessibleFlexWidget(QWidget *panel)
+    : AccessibleWidget(panel, QAccessible::Pane)
+{ }
+
+QAccessible::Role AccessibleFlexWidget::role() const
+{
+    return widget() && widget()->isWindow() ? QAccessible::Window : AccessibleWidget::role();
+}
+
+QAccessible::State AccessibleFlexWidget::state() const
+{
+    QAccessible::State state = AccessibleWidget::state();
+    const bool isFree = widget() && !widget()->isMaximized();
+    state.movable = isFree;
+    state.sizeable = isFree;
+    return state;
+}

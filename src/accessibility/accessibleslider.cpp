@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "accessibility/accessibleslider_p.h"
+
+#include <OlvWidgets/value.h>
+
+#include "foundation/childataddress_p.h"
+
+#include <QtMath>
+
+namespace {
+
+constexpr int lowest = 0;
+constexpr int highest = 100;
+
+} // namespace
+
+AccessibleSlider::AccessibleSlider(QWidget *slider)
+    : AccessibleWidget(slider, QAccessible::Slider)
+{ }
+
+void *AccessibleSlider::interface_cast(QAccessible::InterfaceType type)
+{
+    if (type == QAccessible::ValueInterface) {
+        return static_cast<QAccessibleValueInterface *>(this);
+    }
+    return AccessibleWidget::interface_cast(type);
+}
+
+QVariant AccessibleSlider::currentValue() const
+{
+    auto *slider = qobject_cast<OlvSlider *>(object());
+    // an application may have written any number
+    return slider ? qBound(lowest, slider->getValue().toInt(), highest) : lowest;
+}
+
+void AccessibleSlider::setCurrentValue(const QVariant &value)
+{
+    bool isNumber = false;
+    const double wanted = value.toDouble(&isNumber);
+    auto *slider = qobject_cast<OlvSlider *>(object());
+    if (!slider || !slider->isEnabled() || !isNumber || qIsNaN(wanted)) {
+        return;
+    }
+    const int progress = qRound(qBound<double>(lowest, wanted, highest));
+    if (auto *knob = childAtAddress<SliderRound>(slider, property("SliderRound"))) {
+        knob->dragTo(progress);
+    } else {
+        slider->setValue(progress);
+    }
+}
+
+QVariant AccessibleSlider::maximumValue() const
+{
+    return highest;
+}
+
+QVariant AccessibleSlider::minimumValue() const
+{
+    return lowest;
+}
+
+QVariant AccessibleSlider::minimumStepSize() const
+{
+    return 1;
+}
+
+QVariant AccessibleSlider::value() const
+{
+    return currentValue();
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAccessibleWidget>
+#include <QVariant>
+#include <QWidget>
+
+#include <memory>
+
+class ChangeWatcher;
+
+/**
+ * What the interfaces of the library's widgets share: names, updates, and standing it when the
+ * widget has died before them. Knobs and handles are parts of their widget, not children.
+ *
+ * The name is the widget's accessible name, or the subclass's ownName(), or what any widget is
+ * called by (a label whose buddy it is, the title of a window), or the tool tip.
+ */
+class AccessibleWidget : public QAccessibleWidget
+{
+public:
+    AccessibleWidget(QWidget *widget, QAccessible::Role role);
+    ~AccessibleWidget() override;
+
+    /** Starts or stops to send updates. */
+    void setWatching(bool watching);
+    /** Sends an update for each of name, state and value that has changed since the last time. */
+    void tellChanges();
+
+    QWindow *window() const override;
+    QVector<QPair<QAccessibleInterface *, QAccessible::Relation>>
+    relations(QAccessible::Relation match) const override;
+    QAccessibleInterface *focusChild() const override;
+    QAccessibleInterface *parent() const override;
+    QAccessibleInterface *child(int index) const override;
+    int childCount() const override;
+    int indexOfChild(const QAccessibleInterface *child) const override;
+    QString text(QAccessible::Text kind) const override;
+    QRect rect() const override;
+    QAccessible::State state() const override;
+    QColor foregroundColor() const override;
+    QColor backgroundColor() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString &name) override;
+
+protected:
+    /** The widget's property; invalid when the widget is gone. */
+    QVariant property(const char *name) const;
+
+    /** What the widget itself says that it is called; empty for nothing. */
+    virtual QString ownName() const;
+    /** The states that come to state(), and whose changes Qt does not tell by itself. */
+    virtual QAccessible::State ownState() const;
+    /** The value; invalid for widgets without one. */
+    virtual QVariant value() const;
+    /** Tells that value() is another now. */
+    virtual void tellValue(const QVariant &before);
+
+private:
+    struct Told;
+
+    QString name() const;
+
+    std::unique_ptr<Told> m_told;
+    std::unique_ptr<ChangeWatcher> m_watcher;
+};
