@@ -93,7 +93,10 @@ struct Installation
 {
     Activation activation;
 
-    Installation() = default;
+    Installation()
+    {
+        install(); // so that Qt's lists are there before this, and go after it
+    }
     ~Installation()
     {
         QAccessible::removeActivationObserver(&activation);

@@ -6,7 +6,7 @@
 #include "buttons/buttonstate_p.h"
 
 AccessibleButton::AccessibleButton(QWidget *button)
-    : AccessibleClickable(button, QAccessible::Button)
+    : AccessibleClickable(button)
 { }
 
 QString AccessibleButton::ownName() const

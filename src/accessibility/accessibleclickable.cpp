@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "accessibility/accessibleclickable_p.h"
 
+AccessibleClickable::AccessibleClickable(QWidget *widget)
+    : AccessibleWidget(widget, QAccessible::Button)
+{ }
+
+QAccessible::Role AccessibleClickable::role() const
+{
+    return state().checkable ? QAccessible::CheckBox : AccessibleWidget::role();
+}
+
 QStringList AccessibleClickable::actionNames() const
 {
     QStringList names;
-    if (widget() && widget()->isEnabled()) {
+    if (isValid() && widget()->isEnabled()) {
         if (state().checkable) {
             names << toggleAction();
         }

@@ -4,14 +4,16 @@
 #include "accessibility/accessiblewidget_p.h"
 
 /**
- * A widget that is clicked: it has the action "press", and "toggle" where it is checkable. Both are
- * a click, since that is what applications listen to.
+ * A widget that is clicked: a button, or where it is checkable a check box, as it is with Qt's own
+ * buttons. It has the action "press", and "toggle" where it is checkable. Both are a click, since
+ * that is what applications listen to.
  */
 class AccessibleClickable : public AccessibleWidget
 {
 public:
-    using AccessibleWidget::AccessibleWidget;
+    explicit AccessibleClickable(QWidget *widget);
 
+    QAccessible::Role role() const override;
     QStringList actionNames() const override;
     void doAction(const QString &name) override;
 

@@ -7,13 +7,13 @@ AccessibleFlexWidget::AccessibleFlexWidget(QWidget *panel)
 
 QAccessible::Role AccessibleFlexWidget::role() const
 {
-    return widget() && widget()->isWindow() ? QAccessible::Window : AccessibleWidget::role();
+    return isValid() && widget()->isWindow() ? QAccessible::Window : AccessibleWidget::role();
 }
 
 QAccessible::State AccessibleFlexWidget::state() const
 {
     QAccessible::State state = AccessibleWidget::state();
-    const bool isFree = widget() && !widget()->isMaximized();
+    const bool isFree = isValid() && !widget()->isMaximized();
     state.movable = isFree;
     state.sizeable = isFree;
     return state;

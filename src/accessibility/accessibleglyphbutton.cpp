@@ -20,7 +20,7 @@ bool isReadable(const QString &text)
 } // namespace
 
 AccessibleGlyphButton::AccessibleGlyphButton(QWidget *button)
-    : AccessibleClickable(button, QAccessible::Button)
+    : AccessibleClickable(button)
 { }
 
 QAccessible::State AccessibleGlyphButton::state() const

@@ -44,7 +44,7 @@ void sendCrossing(QWidget *tile, QEvent::Type type)
 } // namespace
 
 AccessibleIconButton::AccessibleIconButton(QWidget *tile)
-    : AccessibleClickable(tile, QAccessible::Button)
+    : AccessibleClickable(tile)
 { }
 
 QStringList AccessibleIconButton::actionNames() const

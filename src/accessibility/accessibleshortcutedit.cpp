@@ -78,7 +78,7 @@ QVariant AccessibleShortcutEdit::value() const
 
 void AccessibleShortcutEdit::tellValue(const QVariant &before)
 {
+    // instead of the change of a value, which Qt's bridge takes for one of a number
     QAccessibleTextUpdateEvent event(widget(), 0, before.toString(), value().toString());
     QAccessible::updateAccessibility(&event);
-    AccessibleWidget::tellValue(before);
 }

@@ -6,7 +6,7 @@
 #include <QAbstractEventDispatcher>
 
 AccessibleSwitch::AccessibleSwitch(QWidget *widget)
-    : AccessibleClickable(widget, QAccessible::CheckBox)
+    : AccessibleClickable(widget)
 { }
 
 QAccessible::State AccessibleSwitch::ownState() const

@@ -44,7 +44,7 @@ AccessibleWidget::~AccessibleWidget() = default;
 
 void AccessibleWidget::setWatching(bool watching)
 {
-    if (!watching || !widget()) {
+    if (!watching || !isValid()) {
         m_watcher.reset();
     } else if (!m_watcher) {
         m_told = std::make_unique<Told>(Told{ name(), ownState(), value() });
@@ -54,7 +54,7 @@ void AccessibleWidget::setWatching(bool watching)
 
 void AccessibleWidget::tellChanges()
 {
-    if (!widget() || !m_told) {
+    if (!QAccessible::isActive() || !isValid() || !m_told) {
         return;
     }
     const QString nameBefore = std::exchange(m_told->name, name());
@@ -78,29 +78,29 @@ void AccessibleWidget::tellChanges()
 
 QWindow *AccessibleWidget::window() const
 {
-    return widget() ? QAccessibleWidget::window() : nullptr;
+    return isValid() ? QAccessibleWidget::window() : nullptr;
 }
 
 QVector<QPair<QAccessibleInterface *, QAccessible::Relation>>
 AccessibleWidget::relations(QAccessible::Relation match) const
 {
-    return widget() ? QAccessibleWidget::relations(match)
-                    : QVector<QPair<QAccessibleInterface *, QAccessible::Relation>>();
+    return isValid() ? QAccessibleWidget::relations(match)
+                     : QVector<QPair<QAccessibleInterface *, QAccessible::Relation>>();
 }
 
 QAccessibleInterface *AccessibleWidget::focusChild() const
 {
-    return widget() ? QAccessibleWidget::focusChild() : nullptr;
+    return isValid() ? QAccessibleWidget::focusChild() : nullptr;
 }
 
 QAccessibleInterface *AccessibleWidget::parent() const
 {
-    return widget() ? QAccessibleWidget::parent() : nullptr;
+    return isValid() ? QAccessibleWidget::parent() : nullptr;
 }
 
 QAccessibleInterface *AccessibleWidget::child(int index) const
 {
-    const int count = widget() ? QAccessibleWidget::childCount() : 0;
+    const int count = isValid() ? QAccessibleWidget::childCount() : 0;
     for (int i = 0; i < count; ++i) {
         QAccessibleInterface *child = QAccessibleWidget::child(i);
         if (child && !isPart(child) && index-- == 0) {
@@ -133,7 +133,7 @@ int AccessibleWidget::indexOfChild(const QAccessibleInterface *wanted) const
 
 QString AccessibleWidget::text(QAccessible::Text kind) const
 {
-    if (!widget()) {
+    if (!isValid()) {
         return QString();
     }
     switch (kind) {
@@ -153,12 +153,12 @@ QString AccessibleWidget::text(QAccessible::Text kind) const
 
 QRect AccessibleWidget::rect() const
 {
-    return widget() ? QAccessibleWidget::rect() : QRect();
+    return isValid() ? QAccessibleWidget::rect() : QRect();
 }
 
 QAccessible::State AccessibleWidget::state() const
 {
-    if (!widget()) {
+    if (!isValid()) {
         QAccessible::State gone;
         gone.invalid = true;
         return gone;
@@ -173,29 +173,29 @@ QAccessible::State AccessibleWidget::state() const
 
 QColor AccessibleWidget::foregroundColor() const
 {
-    return widget() ? QAccessibleWidget::foregroundColor() : QColor();
+    return isValid() ? QAccessibleWidget::foregroundColor() : QColor();
 }
 
 QColor AccessibleWidget::backgroundColor() const
 {
-    return widget() ? QAccessibleWidget::backgroundColor() : QColor();
+    return isValid() ? QAccessibleWidget::backgroundColor() : QColor();
 }
 
 QStringList AccessibleWidget::actionNames() const
 {
-    return widget() ? QAccessibleWidget::actionNames() : QStringList();
+    return isValid() ? QAccessibleWidget::actionNames() : QStringList();
 }
 
 void AccessibleWidget::doAction(const QString &name)
 {
-    if (widget()) {
+    if (isValid()) {
         QAccessibleWidget::doAction(name);
     }
 }
 
 QVariant AccessibleWidget::property(const char *name) const
 {
-    return object() ? object()->property(name) : QVariant();
+    return isValid() ? object()->property(name) : QVariant();
 }
 
 QString AccessibleWidget::ownName() const

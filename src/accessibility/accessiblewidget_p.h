@@ -11,7 +11,8 @@ class ChangeWatcher;
 
 /**
  * What the interfaces of the library's widgets share: names, updates, and standing it when the
- * widget has died before them. Knobs and handles are parts of their widget, not children.
+ * widget has died before them, or is about to: they are not valid then. Knobs and handles are parts
+ * of their widget, not children.
  *
  * The name is the widget's accessible name, or the subclass's ownName(), or what any widget is
  * called by (a label whose buddy it is, the title of a window), or the tool tip.
@@ -44,7 +45,7 @@ public:
     void doAction(const QString &name) override;
 
 protected:
-    /** The widget's property; invalid when the widget is gone. */
+    /** A property of the widget. */
     QVariant property(const char *name) const;
 
     /** What the widget itself says that it is called; empty for nothing. */

@@ -13,10 +13,14 @@ ChangeWatcher::ChangeWatcher(QObject *widget, AccessibleWidget *accessible)
 
 bool ChangeWatcher::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool mayChange =
-        event->type() == QEvent::DynamicPropertyChange || event->type() == QEvent::ToolTipChange;
-    if (mayChange && QAccessible::isActive()) {
+    switch (event->type()) {
+    case QEvent::DynamicPropertyChange:
+    case QEvent::ToolTipChange:
+    case QEvent::WindowTitleChange:
         m_accessible->tellChanges();
+        break;
+    default:
+        break;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -92,12 +92,12 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
 QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,
                                       const QString &tip)
 {
-    auto *button = new QPushButton(icon < icons.size() ? QString(icons.at(icon)) : QString());
+    auto *button = new QPushButton(icon < icons.size() ? QString(icons.at(icon)) : QString(), this);
+    Accessibility::prepare(button);
     button->setFixedSize(buttonSize, buttonSize);
     button->setProperty(indexProperty, index);
     button->setToolTip(tip);
     layout()->addWidget(button);
-    Accessibility::prepare(button); // only now is it a button of a bar
     button->setFont(QFont(QStringLiteral("FontAwesome"), glyphSize));
     m_buttons.append(button);
     return button;

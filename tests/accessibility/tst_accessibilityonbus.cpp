@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include <OlvWidgets/OlvWidgets>
+
+#include <QApplication>
+#include <QPointer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int patience = 60000; // milliseconds
+
+/** A shortcut that can always be had. */
+class FreeShortcut : public OlvShortcut
+{
+public:
+    explicit FreeShortcut(Qt::Key key)
+        : OlvShortcut(key, true, false, false, false)
+    { }
+    bool active() override
+    {
+        return true;
+    }
+};
+
+/** A window with one widget of each kind. */
+class Window : public QWidget
+{
+public:
+    Window()
+        : save(new OlvButton(QStringLiteral("Save"), this))
+        , bold(new OlvButton(QStringLiteral("Bold"), this))
+        , mail(new OlvIconButton(QChar(0xf0e0), QStringLiteral("Mail"),
+                                 QStringLiteral("FontAwesome"), this, 60, 60))
+        , wifi(new OlvSwitch(this))
+        , volume(new OlvSlider(this))
+        , record(new OlvShortcutEdit(new FreeShortcut(Qt::Key_F5), this))
+        , bar(new OlvControlBar({ 0xf2d2, 0xf103, 0xf102, 0xf068, 0xf065, 0xf00d, 0xf066, 0xf013 },
+                                this, { QStringLiteral("Settings") }))
+        , panel(new OlvFlexWidget(120, 60, this))
+    {
+        bold->setCheckable(true);
+        wifi->setAccessibleName(QStringLiteral("Wi-Fi"));
+        volume->setAccessibleName(QStringLiteral("Volume"));
+        record->setAccessibleName(QStringLiteral("Record"));
+        panel->setWindowFlags(Qt::Widget);
+        panel->setAccessibleName(QStringLiteral("Note"));
+        auto *column = new QVBoxLayout(this);
+        for (QWidget *widget : { static_cast<QWidget *>(bar), static_cast<QWidget *>(save),
+                                 static_cast<QWidget *>(bold), static_cast<QWidget *>(mail),
+                                 static_cast<QWidget *>(wifi), static_cast<QWidget *>(volume),
+                                 static_cast<QWidget *>(record), static_cast<QWidget *>(panel) }) {
+            widget->setMinimumSize(widget->minimumSize().expandedTo(QSize(60, 24)));
+            column->addWidget(widget);
+        }
+    }
+
+    OlvButton *save;
+    OlvButton *bold;
+    OlvIconButton *mail;
+    OlvSwitch *wifi;
+    OlvSlider *volume;
+    OlvShortcutEdit *record;
+    OlvControlBar *bar;
+    OlvFlexWidget *panel;
+};
+
+/** A program of its own that looks at this one over the bus. */
+class OtherProgram : public QProcess
+{
+public:
+    explicit OtherProgram(const QStringList &arguments)
+    {
+        setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        QStringList all{ QStringLiteral("-Wignore::DeprecationWarning"),
+                         QStringLiteral(OLV_ASSISTANT),
+                         QString::number(QCoreApplication::applicationPid()) };
+        start(QStringLiteral("/usr/bin/python3"), all + arguments);
+    }
+    ~OtherProgram() override
+    {
+        kill();
+        waitForFinished();
+    }
+    Q_DISABLE_COPY(OtherProgram)
+
+    /** Waits, answering its questions meanwhile, until it has come to a good end. */
+    bool succeeds()
+    {
+        return QTest::qWaitFor([this] { return state() == NotRunning; }, patience)
+            && exitStatus() == NormalExit && exitCode() == 0;
+    }
+    QStringList lines()
+    {
+        m_output += QString::fromUtf8(readAllStandardOutput());
+        return m_output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    }
+
+private:
+    QString m_output;
+};
+
+} // namespace
+
+class TestAccessibilityOnBus : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void theTreeIsRead();
+    void aButtonIsPressed();
+    void aCheckableButtonIsToggled();
+    void aTileIsPressedAndDoubleClicked();
+    void aSwitchIsSwitched();
+    void aSliderIsSet();
+    void theBarIsPressed();
+    void updatesAreHeard();
+
+private:
+    QPointer<Window> m_window;
+};
+
+void TestAccessibilityOnBus::init()
+{
+    m_window = new Window;
+    m_window->setWindowTitle(QStringLiteral("Accessibility"));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+}
+
+void TestAccessibilityOnBus::cleanup()
+{
+    delete m_window;
+}
+
+void TestAccessibilityOnBus::theTreeIsRead()
+{
+    m_window->wifi->setProperty("switch", true);
+    m_window->volume->setValue(42);
+    m_window->mail->setEnabled(false);
+    OtherProgram reader({ QStringLiteral("tree") });
+    QVERIFY(reader.succeeds());
+    // Qt's bridge steps through a value by itself
+    QCOMPARE(reader.lines(),
+             (QStringList{ QStringLiteral("filler|Accessibility|||"),
+                           QStringLiteral("push button|Save|||Press"),
+                           QStringLiteral("check box|Bold|||Toggle Press"),
+                           QStringLiteral("push button|Mail|disabled||"),
+                           QStringLiteral("check box|Wi-Fi|checked||Toggle Press"),
+                           QStringLiteral("slider|Volume||42 of 0 to 100|Increase Decrease"),
+                           QStringLiteral("text|Record||Ctrl+F5|SetFocus"),
+                           QStringLiteral("push button|Settings|||Press SetFocus"),
+                           QStringLiteral("check box|悬浮|||Toggle Press SetFocus"),
+                           QStringLiteral("check box|置底|||Toggle Press SetFocus"),
+                           QStringLiteral("check box|置顶|||Toggle Press SetFocus"),
+                           QStringLiteral("push button|最小化|||Press SetFocus"),
+                           QStringLiteral("check box|最大化|||Toggle Press SetFocus"),
+                           QStringLiteral("push button|关闭|||Press SetFocus"),
+                           QStringLiteral("panel|Note|||") }));
+}
+
+void TestAccessibilityOnBus::aButtonIsPressed()
+{
+    QSignalSpy clicked(m_window->save, &OlvButton::clicked);
+    OtherProgram presser(
+        { QStringLiteral("act"), QStringLiteral("Save"), QStringLiteral("Press") });
+    QVERIFY(presser.succeeds());
+    QCOMPARE(clicked.count(), 1);
+}
+
+void TestAccessibilityOnBus::aCheckableButtonIsToggled()
+{
+    QSignalSpy toggled(m_window->bold, &OlvButton::toggled);
+    OtherProgram toggler(
+        { QStringLiteral("act"), QStringLiteral("Bold"), QStringLiteral("Toggle") });
+    QVERIFY(toggler.succeeds());
+    QCOMPARE(toggled.count(), 1);
+    QVERIFY(m_window->bold->isChecked());
+}
+
+void TestAccessibilityOnBus::aTileIsPressedAndDoubleClicked()
+{
+    QSignalSpy clicked(m_window->mail, &OlvIconButton::clicked);
+    QSignalSpy doubleClicked(m_window->mail, &OlvIconButton::dClicked);
+    OtherProgram presser(
+        { QStringLiteral("act"), QStringLiteral("Mail"), QStringLiteral("Press") });
+    QVERIFY(presser.succeeds());
+    QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, patience);
+    OtherProgram clicker(
+        { QStringLiteral("act"), QStringLiteral("Mail"), QStringLiteral("doubleClick") });
+    QVERIFY(clicker.succeeds());
+    QTRY_COMPARE_WITH_TIMEOUT(doubleClicked.count(), 1, patience);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void TestAccessibilityOnBus::aSwitchIsSwitched()
+{
+    QSignalSpy changed(m_window->wifi, &OlvSwitch::changed);
+    OtherProgram toggler(
+        { QStringLiteral("act"), QStringLiteral("Wi-Fi"), QStringLiteral("Toggle") });
+    QVERIFY(toggler.succeeds());
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, patience);
+    QCOMPARE(m_window->wifi->getValue(), QVariant(true));
+}
+
+void TestAccessibilityOnBus::aSliderIsSet()
+{
+    const QWidget *knob = m_window->volume->findChild<QWidget *>();
+    const int before = knob->x();
+    OtherProgram setter({ QStringLiteral("set"), QStringLiteral("Volume"), QStringLiteral("75") });
+    QVERIFY(setter.succeeds());
+    QCOMPARE(m_window->volume->getValue(), QVariant(75));
+    QVERIFY(knob->x() > before);
+}
+
+void TestAccessibilityOnBus::theBarIsPressed()
+{
+    QSignalSpy custom(m_window->bar, &OlvControlBar::custom);
+    OtherProgram presser(
+        { QStringLiteral("act"), QStringLiteral("Settings"), QStringLiteral("Press") });
+    QVERIFY(presser.succeeds());
+    QCOMPARE(custom.count(), 1);
+}
+
+void TestAccessibilityOnBus::updatesAreHeard()
+{
+    OtherProgram listener({ QStringLiteral("hear") });
+    // Updates are sent from when Qt has come to know that somebody listens. States come last.
+    QTimer knocking;
+    connect(&knocking, &QTimer::timeout, m_window->bold,
+            [this] { m_window->bold->setChecked(!m_window->bold->isChecked()); });
+    knocking.start(100);
+    const auto hears = [&](const char *update) {
+        return listener.lines().contains(QString::fromUtf8(update));
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(hears("state-changed:checked|Bold|1"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hears("state-changed:checked|Bold|0"), patience);
+    knocking.stop();
+
+    m_window->save->setText(QStringLiteral("Store"));
+    QTRY_VERIFY_WITH_TIMEOUT(hears("property-change:accessible-name|Store|"), patience);
+    m_window->volume->setValue(30);
+    QTRY_VERIFY_WITH_TIMEOUT(hears("property-change:accessible-value|Volume|30 of 0 to 100"),
+                             patience);
+    QVERIFY(m_window->record->setShortcut(new FreeShortcut(Qt::Key_F6)));
+    QTRY_VERIFY_WITH_TIMEOUT(hears("text-changed:delete|Record|Ctrl+F5"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hears("text-changed:insert|Record|Ctrl+F6"), patience);
+    m_window->wifi->setValue(true);
+    QTRY_VERIFY_WITH_TIMEOUT(hears("state-changed:checked|Wi-Fi|1"), patience);
+}
+
+QTEST_MAIN(TestAccessibilityOnBus)
+#include "tst_accessibilityonbus.moc"

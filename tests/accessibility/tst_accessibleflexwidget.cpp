@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "assistant.h"
+
+#include <OlvFlexWidget>
+
+#include <QTest>
+
+class TestAccessibleFlexWidget : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAWindowOrAPane();
+    void isCalledByItsTitle();
+    void canBeMovedAndResizedUnlessMaximised();
+};
+
+void TestAccessibleFlexWidget::isAWindowOrAPane()
+{
+    QWidget desk;
+    OlvFlexWidget panel(100, 100);
+    QCOMPARE(accessible(&panel)->role(), QAccessible::Window);
+    panel.setParent(&desk);
+    QCOMPARE(accessible(&panel)->role(), QAccessible::Pane);
+}
+
+void TestAccessibleFlexWidget::isCalledByItsTitle()
+{
+    Assistant assistant;
+    OlvFlexWidget panel(100, 100);
+    panel.show();
+    panel.setWindowTitle(QStringLiteral("Note"));
+    QCOMPARE(nameOf(&panel), QStringLiteral("Note"));
+    QCOMPARE(assistant.heardOf(&panel), QStringList{ QStringLiteral("name Note") });
+    panel.setAccessibleName(QStringLiteral("Sticky note"));
+    QCOMPARE(nameOf(&panel), QStringLiteral("Sticky note"));
+}
+
+void TestAccessibleFlexWidget::canBeMovedAndResizedUnlessMaximised()
+{
+    OlvFlexWidget panel(100, 100);
+    QVERIFY(accessible(&panel)->state().movable);
+    QVERIFY(accessible(&panel)->state().sizeable);
+    panel.showMaximized();
+    QVERIFY(!accessible(&panel)->state().movable);
+    QVERIFY(!accessible(&panel)->state().sizeable);
+}
+
+QTEST_MAIN(TestAccessibleFlexWidget)
+#include "tst_accessibleflexwidget.moc"

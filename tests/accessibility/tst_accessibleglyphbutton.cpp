@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "assistant.h"
+
+#include <OlvControlBar>
+#include <OlvLineEdit>
+#include <OlvSimpleIconButton>
+
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const QString press = QAccessibleActionInterface::pressAction();
+const QString toggle = QAccessibleActionInterface::toggleAction();
+
+/** A bar with two buttons of the application's, and its buttons in their order. */
+class Bar : public OlvControlBar
+{
+public:
+    explicit Bar(QWidget *parent = nullptr)
+        : OlvControlBar({ 0xf2d2, 0xf103, 0xf102, 0xf068, 0xf065, 0xf00d, 0xf066, 0xf013, 0xf0c9 },
+                        parent, { QStringLiteral("Settings"), QStringLiteral("Menu") })
+        , changes(this, &OlvControlBar::changed)
+        , customs(this, &OlvControlBar::custom)
+    { }
+    QPushButton *button(int place) const
+    {
+        return findChildren<QPushButton *>().at(place);
+    }
+    QPushButton *windowButton(WindowState state) const
+    {
+        return button(2 + state);
+    }
+
+    QSignalSpy changes;
+    QSignalSpy customs;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(OlvControlBar::WindowState)
+
+class TestAccessibleGlyphButton : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void buttonsOfABarAreCalledByTheirToolTips();
+    void buttonsOfABarAreCalledAsTheApplicationSays();
+    void buttonsOfABarArePressed();
+    void buttonsOfABarAreToggled();
+    void maximiseTellsItsNewName();
+    void exclusionIsTold();
+    void survivesDeletionByItsSlots();
+    void glyphsAreNoNames();
+    void readableCaptionsAreNames();
+    void togglesItsGlyph();
+    void showsThePassword();
+};
+
+void TestAccessibleGlyphButton::initTestCase()
+{
+    qRegisterMetaType<OlvControlBar::WindowState>("OlvControlBar::WindowState");
+}
+
+void TestAccessibleGlyphButton::buttonsOfABarAreCalledByTheirToolTips()
+{
+    const Bar bar;
+    QStringList names;
+    QAccessibleInterface *interface = accessible(const_cast<Bar *>(&bar));
+    for (int i = 0; i < interface->childCount(); ++i) {
+        QCOMPARE(interface->child(i)->text(QAccessible::Description), QString());
+        names << interface->child(i)->text(QAccessible::Name);
+    }
+    QCOMPARE(
+        names,
+        (QStringList{ QStringLiteral("Settings"), QStringLiteral("Menu"), QStringLiteral("悬浮"),
+                      QStringLiteral("置底"), QStringLiteral("置顶"), QStringLiteral("最小化"),
+                      QStringLiteral("最大化"), QStringLiteral("关闭") }));
+}
+
+void TestAccessibleGlyphButton::buttonsOfABarAreCalledAsTheApplicationSays()
+{
+    const Bar bar;
+    QPushButton *button = bar.windowButton(OlvControlBar::Max);
+    button->setAccessibleName(QStringLiteral("Maximise"));
+    QCOMPARE(nameOf(button), QStringLiteral("Maximise"));
+    QVERIFY(act(button, toggle));
+    QCOMPARE(nameOf(button), QStringLiteral("Maximise"));
+    QCOMPARE(accessible(button)->text(QAccessible::Description), QStringLiteral("还原"));
+    button->setAccessibleName(QString());
+    QCOMPARE(nameOf(button), QStringLiteral("还原"));
+}
+
+void TestAccessibleGlyphButton::buttonsOfABarArePressed()
+{
+    Bar bar;
+    QVERIFY(act(bar.windowButton(OlvControlBar::Close), press));
+    QVERIFY(!act(bar.windowButton(OlvControlBar::Close), toggle));
+    QCOMPARE(bar.changes.count(), 1);
+    QCOMPARE(bar.changes.at(0).at(0).value<OlvControlBar::WindowState>(), OlvControlBar::Close);
+    QVERIFY(act(bar.button(1), press));
+    QCOMPARE(bar.customs.count(), 1);
+    QCOMPARE(bar.customs.at(0).at(0).toInt(), 1);
+
+    bar.setEnabled(false);
+    QVERIFY(!act(bar.button(1), press));
+}
+
+void TestAccessibleGlyphButton::buttonsOfABarAreToggled()
+{
+    Bar bar;
+    QPushButton *top = bar.windowButton(OlvControlBar::Top);
+    QVERIFY(accessible(top)->state().checkable);
+    for (const bool on : { true, false }) {
+        QVERIFY(act(top, toggle));
+        QCOMPARE(accessible(top)->state().checked, on);
+        QCOMPARE(bar.changes.count(), 1);
+        QCOMPARE(bar.changes.takeFirst().at(1).toBool(), on);
+    }
+}
+
+void TestAccessibleGlyphButton::maximiseTellsItsNewName()
+{
+    Assistant assistant;
+    QWidget window;
+    const Bar bar(&window);
+    window.show();
+    QPushButton *button = bar.windowButton(OlvControlBar::Max);
+    assistant.heardOf(button);
+    QVERIFY(act(button, press));
+    const QStringList told = assistant.heardOf(button);
+    QVERIFY(told.contains(QStringLiteral("state checked")));
+    QCOMPARE(told.last(), QStringLiteral("name 还原"));
+    QCOMPARE(told.count(QStringLiteral("state checked")), 1);
+}
+
+void TestAccessibleGlyphButton::exclusionIsTold()
+{
+    Assistant assistant;
+    QWidget window;
+    const Bar bar(&window);
+    window.show();
+    QVERIFY(act(bar.windowButton(OlvControlBar::Top), toggle));
+    assistant.heardOf(bar.windowButton(OlvControlBar::Top));
+    QVERIFY(act(bar.windowButton(OlvControlBar::Bottom), toggle));
+    QCOMPARE(assistant.heardOf(bar.windowButton(OlvControlBar::Top)),
+             QStringList{ QStringLiteral("state checked") });
+    QVERIFY(!accessible(bar.windowButton(OlvControlBar::Top))->state().checked);
+}
+
+void TestAccessibleGlyphButton::survivesDeletionByItsSlots()
+{
+    const QPointer<Bar> bar(new Bar);
+    connect(bar, &OlvControlBar::changed, this, [&] { delete bar; });
+    QVERIFY(act(bar->windowButton(OlvControlBar::Close), press));
+    QVERIFY(!bar);
+}
+
+void TestAccessibleGlyphButton::glyphsAreNoNames()
+{
+    OlvSimpleIconButton button(QChar(0xf006), QFont());
+    QCOMPARE(nameOf(&button), QString());
+    button.setToolTip(QStringLiteral("Favourite"));
+    QCOMPARE(nameOf(&button), QStringLiteral("Favourite"));
+}
+
+void TestAccessibleGlyphButton::readableCaptionsAreNames()
+{
+    OlvSimpleIconButton button(QStringLiteral("B"), QFont());
+    QCOMPARE(nameOf(&button), QStringLiteral("B"));
+    QVERIFY(accessible(&button)->state().checkable);
+}
+
+void TestAccessibleGlyphButton::togglesItsGlyph()
+{
+    OlvSimpleIconButton button(QStringLiteral("off"), QFont());
+    button.setToggle(QStringLiteral("on"));
+    QVERIFY(act(&button, toggle));
+    QCOMPARE(button.text(), QStringLiteral("on"));
+    QVERIFY(accessible(&button)->state().checked);
+    QVERIFY(act(&button, press));
+    QCOMPARE(button.text(), QStringLiteral("off"));
+}
+
+void TestAccessibleGlyphButton::showsThePassword()
+{
+    OlvLineEdit edit;
+    edit.setPassWord(true);
+    auto *button = edit.findChild<OlvSimpleIconButton *>();
+    auto *text = edit.findChild<QLineEdit *>();
+    QCOMPARE(nameOf(button), QStringLiteral("显示密码"));
+    QVERIFY(act(button, toggle));
+    QCOMPARE(text->echoMode(), QLineEdit::Normal);
+    QVERIFY(accessible(button)->state().checked);
+    button->setToolTip(QStringLiteral("Show the password"));
+    QCOMPARE(nameOf(button), QStringLiteral("Show the password"));
+}
+
+QTEST_MAIN(TestAccessibleGlyphButton)
+#include "tst_accessibleglyphbutton.moc"
