@@ -41,6 +41,10 @@
  * wrapped (OlvGlobal::adaptDocumentToPointSize()); it is not wrapped, and what does not fit is cut
  * off on both sides.
  *
+ * Accessibility: a button, or a check box while it is checkable, called by its accessible name,
+ * else by its caption. The actions "Press" and, while it is checkable, "Toggle" both do what a
+ * click does.
+ *
  * @code
  * auto *save = new OlvButton(tr("Save"), this);
  * save->setOlvStyle("success", "round"); // the colour comes first, then the shape
@@ -151,6 +155,10 @@ private:
  * under the pointer it shows with its red inverted (0 for one above 127, else 127); at rest all is
  * grey.
  *
+ * Accessibility: a button, or a check box while it is checkable, called by its accessible name,
+ * else by its caption. The actions "Press" and, while it is checkable, "Toggle" are both a click of
+ * the mouse, which counts like any other; "doubleClick" is two of them at once.
+ *
  * @code
  * auto *mail = new OlvIconButton(QChar(0xf0e0), tr("Mail"), "FontAwesome", this, 80, 80);
  * connect(mail, &OlvIconButton::clicked, this, &Desktop::select);
@@ -222,6 +230,10 @@ OLVWIDGETS_EXPORT bool isChecked(OlvIconButton *button);
  * It is checkable: every click flips its checked state. setToggle() makes the glyph follow that
  * state; the two glyphs are kept in the dynamic properties "deable" (unchecked) and "enable"
  * (checked), both strings, which are read at each click. Its look comes from its style sheet alone.
+ *
+ * Accessibility: a check box called by its accessible name, else by its tool tip: give it one of
+ * the two, since a glyph of an icon font says nothing when it is read out. The actions "Toggle" and
+ * "Press" both click it.
  *
  * @code
  * auto *star = new OlvSimpleIconButton(QChar(0xf006), QFont("FontAwesome", 12), this);

@@ -120,6 +120,9 @@ private:
  * HeaderWay or 0), "headerWayColor" (uint, 0xAARRGGBB) and "resizeTimer" (qulonglong, the library's
  * own).
  *
+ * Accessibility: a window, or a pane within one, called by its accessible name, else by its window
+ * title; what lies in it are its children.
+ *
  * @code
  * auto *note = new OlvFlexWidget(240, 180);
  * note->setHeaderWay(OlvFlexWidget::HeaderTop, QColor(64, 158, 255));

@@ -156,6 +156,10 @@ public:
  * Keeping on top and keeping at the bottom exclude each other: checking one unchecks the other
  * silently. Apart from that only the user's clicks change a button; a window that is maximised by
  * other means leaves the bar as it is.
+ *
+ * Accessibility: a tool bar of buttons, the checkable ones of which are check boxes. Each is called
+ * by the accessible name that the application gives it, else by its tool tip. The actions "Press"
+ * and, for the checkable ones, "Toggle" both click it.
  */
 class OLVWIDGETS_EXPORT OlvControlBar : public QWidget
 {

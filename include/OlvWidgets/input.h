@@ -38,6 +38,10 @@ class QLineEdit;
  * | "Invisible" | string | "※"      | its glyph once clicked, while the text is shown |
  * | "state"     | string | "normal" | "edit" while the text has the focus             |
  *
+ * Accessibility: a group, called by its accessible name, of the text, which is a QLineEdit, and the
+ * password button, a check box called "显示密码" unless it is given an accessible name or a tool
+ * tip.
+ *
  * @code
  * auto *password = new OlvLineEdit(this);
  * password->resize(240, 32);
@@ -116,6 +120,10 @@ private:
  * as an address: see setValue(). Three dynamic properties are the library's own: "HasOlvShortcut"
  * (bool, whether a shortcut is held), "OlvShortcut" (qulonglong, its address) and "Temp"
  * (qulonglong, the address of the keys that were noted).
+ *
+ * Accessibility: a text that is read only, the one of the shortcut, called by its accessible name,
+ * else by a label whose buddy it is, else by its tool tip. The action "SetFocus" lets the keyboard
+ * follow.
  *
  * @code
  * auto *edit = new OlvShortcutEdit(this);

@@ -84,6 +84,11 @@ private:
  * pointer pulls to the right, then 100. In a narrower one the end of the track lies left of its
  * start: a drag jumps to that end and gives 100, but for one still further to the left, which gives
  * 0.
+ *
+ * Accessibility: a slider, called by its accessible name, else by a label whose buddy it is, with a
+ * value from 0 to 100 in steps of 1. Setting that value is a drag to it: the knob moves to where a
+ * drag would give the same percentage, or to the next pixel on a track with fewer pixels than
+ * percentages, and setValue() is called once.
  */
 class OLVWIDGETS_EXPORT OlvSlider : public OlvWidget
 {
@@ -164,6 +169,10 @@ private:
  * The knob keeps its place when the switch is resized, until the next animation. Mouse releases,
  * resizes and timer events are handled by listeners that consume them: a subclass does not get its
  * mouseReleaseEvent(), resizeEvent() and timerEvent().
+ *
+ * Accessibility: a check box, called by its accessible name, else by a label whose buddy it is. The
+ * actions "Toggle" and "Press" both do what a click does, and nothing until the animation under way
+ * has ended; it is told to be checked or not once it stands so.
  *
  * @code
  * auto *wifi = new OlvSwitch(this);

@@ -6,7 +6,8 @@ Usage: assistant.py PID COMMAND [ARGUMENT...]
     tree             every widget that has a name, one a line: role, name, states, value, actions
     act NAME ACTION  does an action of the widget of that name
     set NAME VALUE   sets the value of the widget of that name
-    hear             says the updates of names, texts, values and checked states as they come, until it is killed
+    hear             says the updates of names, texts, values and checked states as they come,
+                     until it is killed
 """
 
 import sys
