@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
 class QLabel;
@@ -103,7 +104,7 @@ private:
     int m_spacing = 20;
     int m_scrollStep = 25;
     QList<QWidget *> m_widgets;
-    QLabel *m_emptyLabel;
+    QPointer<QLabel> m_emptyLabel;
     int m_viewHeight = 0;
 };
 

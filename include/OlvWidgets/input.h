@@ -103,8 +103,8 @@ protected:
 private:
     int iconWidth(const QString &icon) const;
 
-    QLineEdit *m_editor;
-    OlvSimpleIconButton *m_pwdButton;
+    QPointer<QLineEdit> m_editor;
+    QPointer<OlvSimpleIconButton> m_pwdButton;
 };
 
 /**

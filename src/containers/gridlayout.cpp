@@ -155,9 +155,13 @@ void OlvGridLayout::reUi()
     QWidget *parent = parentWidget();
     if (m_widgets.isEmpty()) {
         resize(width(), isSubWindow() || !parent ? emptyHeight : parent->height());
-        m_emptyLabel->show();
+        if (m_emptyLabel) {
+            m_emptyLabel->show();
+        }
     } else {
-        m_emptyLabel->hide();
+        if (m_emptyLabel) {
+            m_emptyLabel->hide();
+        }
         arrange();
         if (!self) {
             return;
@@ -169,7 +173,7 @@ void OlvGridLayout::reUi()
             parent->resize(parent->width(), height() + 2 * windowBorder);
         }
     }
-    if (self) {
+    if (self && m_emptyLabel) {
         m_emptyLabel->resize(size());
     }
 }

@@ -50,34 +50,39 @@ OlvLineEdit::OlvLineEdit(QWidget *parent)
     m_pwdButton = new OlvSimpleIconButton(visible, QFont(QStringLiteral("FontAwesome")), this);
     m_pwdButton->hide();
     m_pwdButton->setToggle(invisible);
-    connect(m_pwdButton, &QPushButton::clicked, m_editor, [this](bool checked) {
-        m_editor->setEchoMode(checked ? QLineEdit::Normal : QLineEdit::Password);
+    connect(m_pwdButton, &QPushButton::clicked, m_editor, [editor = m_editor.data()](bool checked) {
+        editor->setEchoMode(checked ? QLineEdit::Normal : QLineEdit::Password);
     });
 }
 
 QVariant OlvLineEdit::getValue()
 {
-    return m_editor->text();
+    return getText();
 }
 
 void OlvLineEdit::setValue(const QVariant &value)
 {
-    m_editor->setText(value.toString());
+    setText(value.toString());
 }
 
+// whoever finds the children may delete them: each use asks whether they are still there
 void OlvLineEdit::setText(const QString &text)
 {
-    m_editor->setText(text);
+    if (m_editor) {
+        m_editor->setText(text);
+    }
 }
 
 QString OlvLineEdit::getText()
 {
-    return m_editor->text();
+    return m_editor ? m_editor->text() : QString();
 }
 
 void OlvLineEdit::setPlaceholderText(const QString &text)
 {
-    m_editor->setPlaceholderText(text);
+    if (m_editor) {
+        m_editor->setPlaceholderText(text);
+    }
 }
 
 void OlvLineEdit::setIcon(const QString &icon)
@@ -91,15 +96,21 @@ void OlvLineEdit::setIcon(const QString &icon)
 void OlvLineEdit::setPassWord(bool on)
 {
     setProperty(passwordProperty, on);
-    m_pwdButton->setVisible(on);
-    m_editor->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
+    if (m_pwdButton) {
+        m_pwdButton->setVisible(on);
+    }
+    if (m_editor) {
+        m_editor->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
+    }
     resizeEvent(nullptr);
     update();
 }
 
 void OlvLineEdit::setPwdIcon(const QString &hidden, const QString &shown)
 {
-    m_pwdButton->setTextIcon(hidden, shown);
+    if (m_pwdButton) {
+        m_pwdButton->setTextIcon(hidden, shown);
+    }
 }
 
 bool OlvLineEdit::eventFilter(QObject *watched, QEvent *event)
@@ -134,19 +145,29 @@ void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
         sized.setPointSize(height() / 2);
     }
     setFont(sized);
-    m_editor->setFont(sized);
-    m_pwdButton->setFont(sized);
+    if (m_editor) {
+        m_editor->setFont(sized);
+    }
+    if (m_pwdButton) {
+        m_pwdButton->setFont(sized);
+    }
 
     const int column = iconWidth(property(iconProperty).toString());
     const int pwdWidth = property(passwordProperty).toBool() ? height() : 0;
     setProperty(iconWidthProperty, column);
-    m_editor->setGeometry(column, 0, width() - column - pwdWidth, height());
-    m_pwdButton->setGeometry(width() - height(), 0, height(), height());
+    if (m_editor) {
+        m_editor->setGeometry(column, 0, width() - column - pwdWidth, height());
+    }
+    if (m_pwdButton) {
+        m_pwdButton->setGeometry(width() - height(), 0, height(), height());
+    }
 }
 
 void OlvLineEdit::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    m_editor->setFocus(Qt::OtherFocusReason);
+    if (m_editor) {
+        m_editor->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 int OlvLineEdit::iconWidth(const QString &icon) const

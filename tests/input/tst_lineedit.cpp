@@ -54,6 +54,7 @@ private Q_SLOTS:
     void anyClickOnTheFrameFocusesTheText();
     void takesTextFromAnInputMethod();
     void activatesItsWindow();
+    void survivesTheLossOfItsChildren();
 };
 
 void TestLineEdit::startsEmptyWithItsDefaults()
@@ -316,6 +317,29 @@ void TestLineEdit::activatesItsWindow()
     QVERIFY(QTest::qWaitForWindowActive(&other));
     new OlvLineEdit(&window);
     QTRY_VERIFY(window.isActiveWindow());
+}
+
+void TestLineEdit::survivesTheLossOfItsChildren()
+{
+    SizedLineEdit edit;
+    edit.setText(QStringLiteral("text"));
+    edit.setPassWord(true);
+    delete buttonOf(edit);
+    edit.setPwdIcon(QStringLiteral("a"), QStringLiteral("b"));
+    edit.setSize({ 300, 40 });
+    QCOMPARE(edit.getText(), QStringLiteral("text"));
+    QCOMPARE(editorOf(edit)->geometry(), QRect(40, 0, 220, 40));
+
+    delete editorOf(edit);
+    edit.setText(QStringLiteral("else"));
+    edit.setValue(QStringLiteral("else"));
+    edit.setPlaceholderText(QStringLiteral("else"));
+    edit.setPassWord(false);
+    edit.setIcon(QStringLiteral("@"));
+    QTest::mouseRelease(&edit, Qt::LeftButton);
+    QCOMPARE(edit.getText(), QString());
+    QCOMPARE(edit.getValue(), QVariant(QString()));
+    QVERIFY(!edit.grab().isNull());
 }
 
 QTEST_MAIN(TestLineEdit)
