@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "deletion.h"
+#include "gridscene.h"
+
+#include <OlvWidgets>
+
+#include <QPushButton>
+
+namespace {
+
+using namespace Deletion;
+
+QVector<Emission> barEmissions()
+{
+    const auto makeBar = [](QWidget *parent) -> QWidget * {
+        return new OlvControlBar({ 0x61, 0x62, 0x63, 0x64, 0x65, 0x66, 0x67, 0x68 }, parent,
+                                 { QStringLiteral("one"), QStringLiteral("two") });
+    };
+    const auto buttonAt = [](int index) -> Helper {
+        return [=](const QWidget *bar) -> QObject * {
+            return bar->findChildren<QPushButton *>().value(index);
+        };
+    };
+    QVector<Emission> emissions;
+    for (int i = 0; i < 8; ++i) {
+        const auto click = [=](QWidget *sender) {
+            clickMouse(static_cast<QWidget *>(buttonAt(i)(sender)));
+        };
+        // the two in the middle are those that exclude each other
+        const QMap<QString, Helper> helpers{ { QStringLiteral("button"), buttonAt(i) },
+                                             { QStringLiteral("bottom"), buttonAt(3) },
+                                             { QStringLiteral("top"), buttonAt(4) } };
+        if (i < 2) {
+            emissions.append({ QStringLiteral("OlvControlBar::custom %1").arg(i), makeBar,
+                               toSignal<OlvControlBar>(&OlvControlBar::custom), click, helpers });
+        } else {
+            emissions.append({ QStringLiteral("OlvControlBar::changed %1").arg(i - 2), makeBar,
+                               toSignal<OlvControlBar>(&OlvControlBar::changed), click, helpers });
+        }
+    }
+    return emissions;
+}
+
+QVector<Emission> containerEmissions()
+{
+    const auto makeGrid = [](QWidget *parent) -> QWidget * {
+        auto *grid = new OlvGridLayout(parent);
+        grid->resize(300, grid->height());
+        auto *tile = makeTile(grid, 50, 1970);
+        tile->setObjectName(QStringLiteral("tile"));
+        grid->addWidget(tile);
+        return grid;
+    };
+    const auto toBar = [](QWidget *sender, const Slot &slot) {
+        QScrollBar *bar = barOf(*static_cast<OlvGridLayout *>(sender));
+        bar->setValue(70);
+        QObject::connect(bar, &QScrollBar::valueChanged, sender, slot);
+    };
+    const auto turn = [](QWidget *sender) {
+        wheel(*static_cast<OlvGridLayout *>(sender), QPoint(0, 120));
+    };
+    const auto shrink = [](QWidget *sender) {
+        auto *tile = sender->findChild<QWidget *>(QStringLiteral("tile"));
+        tile->resize(50, tile->height() / 2);
+        static_cast<OlvGridLayout *>(sender)->reUi();
+    };
+    const auto toTimer = [](const char *property) {
+        return [=](QWidget *sender, const Slot &slot) {
+            auto *timer = static_cast<QTimer *>(inProperty<QTimer>(property)(sender));
+            QObject::connect(timer, &QTimer::timeout, sender, slot);
+        };
+    };
+    const auto makePanel = [](QWidget *parent) -> QWidget * {
+        return new OlvFlexWidget(200, 100, parent);
+    };
+    const QMap<QString, Helper> gridHelpers{
+        { QStringLiteral("bar"), inProperty<QScrollBar>("ScrollBar") },
+        { QStringLiteral("timer"), inProperty<QTimer>("ResizeTimer") },
+        { QStringLiteral("label"), ofClass<QLabel>() },
+    };
+    const QMap<QString, Helper> panelHelpers{
+        { QStringLiteral("timer"), inProperty<QTimer>("resizeTimer") },
+        { QStringLiteral("mover"), ofClass<OlvMoveWidget>() },
+        { QStringLiteral("resizer"), ofClass<OlvResizeWidget>() },
+        { QStringLiteral("handle"), ofClass<OlvResizeItem>() },
+    };
+    return {
+        { QStringLiteral("bar of OlvGridLayout, wheel"), makeGrid, toBar, turn, gridHelpers },
+        { QStringLiteral("bar of OlvGridLayout, reflow"), makeGrid, toBar, shrink, gridHelpers },
+        { QStringLiteral("timer of OlvGridLayout"), makeGrid, toTimer("ResizeTimer"),
+          [](QWidget *sender) { hurry(sender, "ResizeTimer"); }, gridHelpers },
+        { QStringLiteral("timer of OlvFlexWidget"), makePanel, toTimer("resizeTimer"),
+          [](QWidget *sender) { hurry(sender, "resizeTimer"); }, panelHelpers },
+    };
+}
+
+const QVector<Emission> &emissions()
+{
+    static const QVector<Emission> all = barEmissions() + containerEmissions();
+    return all;
+}
+
+} // namespace
+
+class TestDeletionInHelpers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survives_data();
+    void survives();
+};
+
+void TestDeletionInHelpers::survives_data()
+{
+    Deletion::addRows(emissions());
+}
+
+void TestDeletionInHelpers::survives()
+{
+    QFETCH(int, index);
+    QFETCH(QString, victim);
+    Deletion::check(emissions().at(index), victim);
+}
+
+QTEST_MAIN(TestDeletionInHelpers)
+#include "tst_deletioninhelpers.moc"
