@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "wrappedslowly.h"
+
 #include <OlvGlobal>
 
 #include <QFontInfo>
 #include <QFontMetrics>
-#include <QRandomGenerator>
 #include <QTest>
 
 namespace {
@@ -24,79 +25,6 @@ int widthFor(int characters)
 {
     return characters * characterWidth() + 1;
 }
-
-/** What a line of a text without newlines takes, found the slow way, by the rules as they are told.
- */
-int expectedLine(const QString &text, int width, const QFontMetrics &metrics)
-{
-    int sum = 0;
-    int fitting = 0;
-    while (fitting < text.size()) {
-        sum += metrics.horizontalAdvance(text.at(fitting));
-        if (sum >= width) {
-            break;
-        }
-        ++fitting;
-    }
-    if (fitting == text.size()) {
-        return fitting;
-    }
-    const QString digits = QStringLiteral("0123456789");
-    const QString letters = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    int carried = 0;
-    for (const QString &kind : { digits, letters }) {
-        if (kind.contains(text.at(fitting))) {
-            while (carried < fitting && kind.contains(text.at(fitting - 1 - carried))) {
-                ++carried;
-            }
-        }
-    }
-    if (carried == fitting) {
-        return fitting == 0 ? 1 : fitting;
-    }
-    return fitting - carried;
-}
-
-int expectedLines(const QString &text, int width, const QFont &font)
-{
-    const QFontMetrics metrics(font);
-    int lines = 0;
-    const QStringList paragraphs = text.split(QLatin1Char('\n'));
-    for (QString rest : paragraphs) {
-        while (!rest.isEmpty()) {
-            rest = rest.mid(expectedLine(rest, width, metrics));
-            ++lines;
-        }
-    }
-    return lines;
-}
-
-QString randomText(QRandomGenerator &random)
-{
-    static const QString alphabet = QStringLiteral("abcXYZ019 .-,_\n\tßé中文字Ω𝄞i̇WM");
-    QString text;
-    const int length = random.bounded(60);
-    for (int i = 0; i < length; ++i) {
-        text.append(random.bounded(50) == 0 ? QChar(0xd800 + random.bounded(0x800))
-                                            : alphabet.at(random.bounded(alphabet.size())));
-    }
-    return text;
-}
-
-QFont randomFont(QRandomGenerator &random)
-{
-    static const QStringList families{ QStringLiteral("DejaVu Sans"),
-                                       QStringLiteral("DejaVu Sans Mono"), QStringLiteral("宋体") };
-    QFont font(families.at(random.bounded(families.size())), 1 + random.bounded(30));
-    font.setBold(random.bounded(4) == 0);
-    return font;
-}
-
-#ifdef __SANITIZE_ADDRESS__
-constexpr int randomRounds = 200; // each takes many times as long
-#else
-constexpr int randomRounds = 3000;
-#endif
 
 } // namespace
 
@@ -123,8 +51,6 @@ private Q_SLOTS:
     void stopsAtOnePoint_data();
     void stopsAtOnePoint();
     void endsForFontsSizedInPixels();
-    void agreesWithTheSlowWayOnRandomTexts();
-    void pointSizeFitsOrIsOneOnRandomTexts();
     void handlesAMegabyteOfText();
 };
 
@@ -366,52 +292,6 @@ void TestTextFitting::endsForFontsSizedInPixels()
     QVERIFY(shrunk < QFontInfo(font).pointSize());
     font.setPointSize(shrunk);
     QVERIFY(OlvGlobal::adaptDocumentHeight(QStringLiteral("abcdef"), 60, font) <= 20);
-}
-
-void TestTextFitting::agreesWithTheSlowWayOnRandomTexts()
-{
-    QRandomGenerator random(20240501);
-    for (int round = 0; round < randomRounds; ++round) {
-        const QString text = randomText(random);
-        const QFont font = randomFont(random);
-        const int width = random.bounded(200) - 5;
-        const QByteArray what =
-            QStringLiteral("\"%1\" at %2 in %3").arg(text).arg(width).arg(font.toString()).toUtf8();
-        const int lines = OlvGlobal::adaptDocumentOfLine(text, width, font);
-        QVERIFY2(lines == expectedLines(text, width, font), what.constData());
-        QVERIFY2(lines <= text.size(), what.constData());
-
-        const int fitting = OlvGlobal::accommodate(text, width, font);
-        const QFontMetrics metrics(font);
-        int sum = 0;
-        for (int i = 0; i < fitting; ++i) {
-            sum += metrics.horizontalAdvance(text.at(i));
-        }
-        QVERIFY2(fitting == 0 || sum < width, what.constData());
-        QVERIFY2(fitting == text.size()
-                     || sum + metrics.horizontalAdvance(text.at(fitting)) >= width,
-                 what.constData());
-    }
-}
-
-void TestTextFitting::pointSizeFitsOrIsOneOnRandomTexts()
-{
-    QRandomGenerator random(7);
-    for (int round = 0; round < randomRounds / 4; ++round) {
-        const QString text = randomText(random);
-        QFont font = randomFont(random);
-        const int start = font.pointSize();
-        const QSize box(random.bounded(300), random.bounded(120));
-        const int found = OlvGlobal::adaptDocumentToPointSize(text, box, font);
-        QVERIFY(found >= 1);
-        QVERIFY(found <= start);
-        for (int size = start; size >= found; --size) {
-            font.setPointSize(size);
-            const int height =
-                expectedLines(text, box.width(), font) * QFontMetrics(font).lineSpacing();
-            QVERIFY(size == found ? (height <= box.height() || found == 1) : height > box.height());
-        }
-    }
 }
 
 void TestTextFitting::handlesAMegabyteOfText()

@@ -1,54 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "otherprogram.h"
-#include "realinput.h"
+#include "shortcutkeys.h"
 
-#include <OlvShortcut>
-
-#include <QDir>
 #include <QPointer>
-#include <QSet>
 #include <QSignalSpy>
-#include <QTest>
-
-#include <sys/socket.h>
 
 #include <memory>
 
 namespace {
 
-// symbols of X's keysymdef.h
-constexpr quint32 symbolControl = 0xffe3;
-constexpr quint32 symbolShift = 0xffe1;
-constexpr quint32 symbolF5 = 0xffc2;
 constexpr quint32 symbolCapsLock = 0xffe5;
 constexpr quint32 symbolNumLock = 0xff7f;
-constexpr int maskControl = 4;
-
-OlvShortcut *ctrl(Qt::Key key)
-{
-    return new OlvShortcut(key, true, false, false, false);
-}
-
-void setLayout(const char *layout)
-{
-    QCOMPARE(QProcess::execute(QStringLiteral("setxkbmap"), { QLatin1String(layout) }), 0);
-}
-
-/** The sockets that this process has open. */
-QSet<int> openSockets()
-{
-    QSet<int> sockets;
-    const QStringList names =
-        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System);
-    for (const QString &name : names) {
-        int type = 0;
-        socklen_t size = sizeof type;
-        if (getsockopt(name.toInt(), SOL_SOCKET, SO_TYPE, &type, &size) == 0) {
-            sockets.insert(name.toInt());
-        }
-    }
-    return sockets;
-}
 
 } // namespace
 
@@ -57,7 +19,6 @@ class TestShortcutOnServer : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
     void firesWhileAnotherWindowHasTheFocus();
@@ -68,46 +29,14 @@ private Q_SLOTS:
     void firesForEachKey_data();
     void firesForEachKey();
     void staysSilentForOtherModifiers();
-    void isRefusedWhileAnotherProgramHoldsIt();
-    void holdsItAgainstOtherPrograms();
-    void activatingAndDestroyingTwiceIsHarmless();
-    void secondObjectOfACombinationIsRefused();
-    void combinationsThatShareAKeyAreOne();
-    void destructorLetsGo();
-    void keysThatAreNoneAreRefused_data();
-    void keysThatAreNoneAreRefused();
     void followsTheLayout();
     void comesBackWithTheLayoutThatHasTheKey();
     void slotMayDeleteShortcuts();
     void anotherMayTakeOverInASlot();
-    void aDeadConnectionIsInactive();
 
 private:
-    void pressWithControl(quint32 symbol)
-    {
-        // A press in the same millisecond as the release before it is a key that repeats; no person
-        // is that quick.
-        QTest::qWait(5);
-        m_input->pressKey(symbolControl);
-        m_input->pressKey(symbol);
-        m_input->releaseKey(symbol);
-        m_input->releaseKey(symbolControl);
-    }
-
     std::unique_ptr<RealInput> m_input;
-    /** The socket of the shortcuts' connection. */
-    int m_ownSocket = -1;
 };
-
-void TestShortcutOnServer::initTestCase()
-{
-    const QSet<int> before = openSockets();
-    const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
-    QVERIFY(shortcut->active());
-    const QSet<int> made = openSockets() - before;
-    QCOMPARE(made.count(), 1);
-    m_ownSocket = *made.cbegin();
-}
 
 void TestShortcutOnServer::init()
 {
@@ -128,12 +57,12 @@ void TestShortcutOnServer::firesWhileAnotherWindowHasTheFocus()
     const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
     QSignalSpy activated(shortcut.get(), &OlvShortcut::activated);
     QVERIFY(shortcut->active());
-    pressWithControl(symbolF5);
+    pressWithControl(*m_input, symbolF5);
     QTRY_COMPARE(activated.count(), 1);
-    pressWithControl(symbolF5);
+    pressWithControl(*m_input, symbolF5);
     QTRY_COMPARE(activated.count(), 2);
     shortcut->destroy();
-    pressWithControl(symbolF5);
+    pressWithControl(*m_input, symbolF5);
     QTest::qWait(100);
     QCOMPARE(activated.count(), 2);
 }
@@ -205,10 +134,10 @@ void TestShortcutOnServer::firesUnderTheLocks()
         }
     };
     toggleLocks();
-    pressWithControl(0x6a);
+    pressWithControl(*m_input, 0x6a);
     QTRY_COMPARE(activated.count(), 1);
     toggleLocks();
-    pressWithControl(0x6a);
+    pressWithControl(*m_input, 0x6a);
     QTRY_COMPARE(activated.count(), 2);
 }
 
@@ -245,7 +174,7 @@ void TestShortcutOnServer::firesForEachKey()
     if (pressShift) {
         m_input->pressKey(symbolShift);
     }
-    pressWithControl(symbol);
+    pressWithControl(*m_input, symbol);
     if (pressShift) {
         m_input->releaseKey(symbolShift);
     }
@@ -260,111 +189,11 @@ void TestShortcutOnServer::staysSilentForOtherModifiers()
     m_input->pressKey(0x71);
     m_input->releaseKey(0x71);
     m_input->pressKey(symbolShift);
-    pressWithControl(0x71);
+    pressWithControl(*m_input, 0x71);
     m_input->releaseKey(symbolShift);
-    pressWithControl(0x77);
+    pressWithControl(*m_input, 0x77);
     QTest::qWait(100);
     QCOMPARE(activated.count(), 0);
-}
-
-void TestShortcutOnServer::isRefusedWhileAnotherProgramHoldsIt()
-{
-    OtherProgram holder(
-        { QStringLiteral("hold"), QString::number(symbolF5), QString::number(maskControl) });
-    QTRY_COMPARE(holder.lines(), QStringList({ QStringLiteral("held") }));
-    const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
-    QSignalSpy activated(shortcut.get(), &OlvShortcut::activated);
-    QVERIFY(!shortcut->active());
-
-    holder.kill();
-    QTRY_VERIFY(shortcut->active());
-    pressWithControl(symbolF5);
-    QTRY_COMPARE(activated.count(), 1);
-}
-
-void TestShortcutOnServer::holdsItAgainstOtherPrograms()
-{
-    const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
-    QVERIFY(shortcut->active());
-    OtherProgram other(
-        { QStringLiteral("hold"), QString::number(symbolF5), QString::number(maskControl) });
-    QTRY_COMPARE(other.lines(), QStringList({ QStringLiteral("refused") }));
-    shortcut->destroy();
-    OtherProgram later(
-        { QStringLiteral("hold"), QString::number(symbolF5), QString::number(maskControl) });
-    QTRY_COMPARE(later.lines(), QStringList({ QStringLiteral("held") }));
-}
-
-void TestShortcutOnServer::activatingAndDestroyingTwiceIsHarmless()
-{
-    const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
-    QSignalSpy activated(shortcut.get(), &OlvShortcut::activated);
-    shortcut->destroy();
-    QVERIFY(shortcut->active());
-    QVERIFY(shortcut->active());
-    pressWithControl(symbolF5);
-    QTRY_COMPARE(activated.count(), 1);
-    shortcut->destroy();
-    shortcut->destroy();
-    pressWithControl(symbolF5);
-    QTest::qWait(100);
-    QCOMPARE(activated.count(), 1);
-    QVERIFY(shortcut->active());
-}
-
-void TestShortcutOnServer::secondObjectOfACombinationIsRefused()
-{
-    const std::unique_ptr<OlvShortcut> first(ctrl(Qt::Key_F5));
-    QSignalSpy activated(first.get(), &OlvShortcut::activated);
-    QVERIFY(first->active());
-    {
-        const std::unique_ptr<OlvShortcut> second(ctrl(Qt::Key_F5));
-        QVERIFY(!second->active());
-        second->destroy();
-    }
-    pressWithControl(symbolF5);
-    QTRY_COMPARE(activated.count(), 1);
-}
-
-void TestShortcutOnServer::combinationsThatShareAKeyAreOne()
-{
-    OlvShortcut plain(Qt::Key_Exclam, true, false, false, false);
-    OlvShortcut shifted(Qt::Key_1, true, true, false, false);
-    QVERIFY(plain.active());
-    QVERIFY(!shifted.active());
-    plain.destroy();
-    QVERIFY(shifted.active());
-}
-
-void TestShortcutOnServer::destructorLetsGo()
-{
-    ctrl(Qt::Key_F5)->setParent(this);
-    auto *shortcut = findChild<OlvShortcut *>();
-    QVERIFY(shortcut->active());
-    delete shortcut;
-    OtherProgram other(
-        { QStringLiteral("hold"), QString::number(symbolF5), QString::number(maskControl) });
-    QTRY_COMPARE(other.lines(), QStringList({ QStringLiteral("held") }));
-}
-
-void TestShortcutOnServer::keysThatAreNoneAreRefused_data()
-{
-    QTest::addColumn<int>("key");
-    for (const Qt::Key key :
-         { Qt::Key(0), Qt::Key_unknown, Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta,
-           Qt::Key_AltGr, Qt::Key_Super_L, Qt::Key_Super_R, Qt::Key_CapsLock, Qt::Key_NumLock,
-           Qt::Key_ScrollLock, Qt::Key_Hyper_L, Qt::Key_Mode_switch, Qt::Key_Kanji, Qt::Key(0x4e2d),
-           Qt::Key_F35, Qt::Key(1) }) {
-        QTest::addRow("0x%x", uint(key)) << int(key);
-    }
-}
-
-void TestShortcutOnServer::keysThatAreNoneAreRefused()
-{
-    QFETCH(int, key);
-    OlvShortcut shortcut(Qt::Key(key), true, false, false, false);
-    QVERIFY(!shortcut.active());
-    QVERIFY(!shortcut.active());
 }
 
 void TestShortcutOnServer::followsTheLayout()
@@ -372,15 +201,15 @@ void TestShortcutOnServer::followsTheLayout()
     const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_Z));
     QSignalSpy activated(shortcut.get(), &OlvShortcut::activated);
     QVERIFY(shortcut->active());
-    pressWithControl(0x7a);
+    pressWithControl(*m_input, 0x7a);
     QTRY_COMPARE(activated.count(), 1);
 
     // y and z change places; the input still means the places of the layout before
     setLayout("de");
     QTest::qWait(200);
-    pressWithControl(0x79);
+    pressWithControl(*m_input, 0x79);
     QTRY_COMPARE(activated.count(), 2);
-    pressWithControl(0x7a);
+    pressWithControl(*m_input, 0x7a);
     QTest::qWait(100);
     QCOMPARE(activated.count(), 2);
 
@@ -401,16 +230,16 @@ void TestShortcutOnServer::comesBackWithTheLayoutThatHasTheKey()
     setLayout("ru");
     QTest::qWait(200);
     QVERIFY(!shortcut->active());
-    pressWithControl(0x7a);
+    pressWithControl(*m_input, 0x7a);
     QTest::qWait(100);
     QCOMPARE(activated.count(), 0);
     QVERIFY(cyrillic->active());
-    pressWithControl(0x7a);
+    pressWithControl(*m_input, 0x7a);
     QTRY_COMPARE(cyrillicActivated.count(), 1);
 
     setLayout("us");
     QTest::qWait(200);
-    pressWithControl(0x7a);
+    pressWithControl(*m_input, 0x7a);
     QTRY_COMPARE(activated.count(), 1);
     QCOMPARE(cyrillicActivated.count(), 1);
 }
@@ -450,24 +279,10 @@ void TestShortcutOnServer::anotherMayTakeOverInASlot()
         delete first;
         takenOver = second->active();
     });
-    pressWithControl(symbolF5);
+    pressWithControl(*m_input, symbolF5);
     QTRY_VERIFY(takenOver);
-    pressWithControl(symbolF5);
+    pressWithControl(*m_input, symbolF5);
     QTRY_COMPARE(activated.count(), 1);
-}
-
-void TestShortcutOnServer::aDeadConnectionIsInactive()
-{
-    // the last function: no connection is made in place of the one that is lost
-    const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
-    QVERIFY(shortcut->active());
-    QVERIFY(m_ownSocket >= 0);
-    QCOMPARE(shutdown(m_ownSocket, SHUT_RDWR), 0);
-    QTest::qWait(50);
-    QVERIFY(!shortcut->active());
-    shortcut->destroy();
-    const std::unique_ptr<OlvShortcut> later(ctrl(Qt::Key_F6));
-    QVERIFY(!later->active());
 }
 
 QTEST_MAIN(TestShortcutOnServer)
