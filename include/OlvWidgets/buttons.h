@@ -248,6 +248,11 @@ class OLVWIDGETS_EXPORT OlvSimpleIconButton : public QPushButton
 public:
     /** A checkable button of 30 by 30 pixels with @p text in @p font in @p parent, its owner. */
     OlvSimpleIconButton(const QString &text, const QFont &font, QWidget *parent = nullptr);
+    /**
+     * For forms made with Qt Designer, which set text and font as properties: the same without a
+     * text, in the font "FontAwesome".
+     */
+    explicit OlvSimpleIconButton(QWidget *parent = nullptr);
 
     /**
      * Makes the button a toggle: the present caption is shown while it is unchecked, @p checkedText

@@ -151,6 +151,8 @@ public:
 
     /** A panel of @p width by @p height pixels in @p parent, which owns it. */
     OlvFlexWidget(int width, int height, QWidget *parent = nullptr);
+    /** For forms made with Qt Designer, which size it afterwards: a panel of 240 by 180 pixels. */
+    explicit OlvFlexWidget(QWidget *parent = nullptr);
 
     /**
      * Changes how the panel is stacked, and shows it, since a change of its window flags hides it.

@@ -12,6 +12,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <type_traits>
+
 class QPushButton;
 
 /**
@@ -184,6 +186,14 @@ public:
      */
     explicit OlvControlBar(const QList<QChar> &icons, QWidget *parent = nullptr,
                            const QStringList &tips = QStringList());
+    /**
+     * For forms made with Qt Designer, which know a parent alone: a bar with glyphs of FontAwesome
+     * for the window buttons. (A template, so that {} goes on to mean an empty list of glyphs.)
+     */
+    template <typename Parent, typename = std::enable_if_t<std::is_base_of_v<QWidget, Parent>>>
+    explicit OlvControlBar(Parent *parent)
+        : OlvControlBar(formIcons(), parent)
+    { }
 
 Q_SIGNALS:
     /** A window button was clicked; @p checked is its new state, true for those without one. */
@@ -193,6 +203,7 @@ Q_SIGNALS:
     void custom(int index);
 
 private:
+    static QList<QChar> formIcons();
     QPushButton *addButton(const QList<QChar> &icons, int icon, int index, const QString &tip);
     void addCustomButton(const QList<QChar> &icons, int index, const QString &tip);
     void addWindowButton(const QList<QChar> &icons, int index);
@@ -216,4 +227,6 @@ public:
      * where it begins can be passed already, and are ignored.
      */
     OlvDragWidget(QWidget *parent, QWidget *source, QWidget *target, const QPoint &position);
+    /** For forms made with Qt Designer: a plain widget in @p parent, which owns it. */
+    explicit OlvDragWidget(QWidget *parent = nullptr);
 };

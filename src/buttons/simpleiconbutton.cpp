@@ -25,6 +25,10 @@ OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font,
                                  "QPushButton:disabled{color:rgb(32,32,32)}"));
 }
 
+OlvSimpleIconButton::OlvSimpleIconButton(QWidget *parent)
+    : OlvSimpleIconButton(QString(), QFont(QStringLiteral("FontAwesome")), parent)
+{ }
+
 void OlvSimpleIconButton::setToggle(const QString &checkedText)
 {
     setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(184,186,188);}"

@@ -18,6 +18,7 @@ constexpr char resizeTimerProperty[] = "resizeTimer";
 
 constexpr int noHeader = 0;
 constexpr int smallestSide = 50;
+constexpr QSize formSize(240, 180);
 constexpr int handleWidth = 3;
 constexpr int settlingTime = 2000; // milliseconds
 constexpr int cornerRadius = 5;
@@ -87,6 +88,10 @@ OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
         }
     });
 }
+
+OlvFlexWidget::OlvFlexWidget(QWidget *parent)
+    : OlvFlexWidget(formSize.width(), formSize.height(), parent)
+{ }
 
 void OlvFlexWidget::stay(OlvStayType type)
 {

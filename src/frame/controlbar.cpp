@@ -89,6 +89,11 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
     connect(top, &QPushButton::clicked, this, [=] { exclude(top, bottom); });
 }
 
+QList<QChar> OlvControlBar::formIcons()
+{
+    return { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2 };
+}
+
 QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,
                                       const QString &tip)
 {

@@ -5,3 +5,7 @@ OlvDragWidget::OlvDragWidget(QWidget *parent, QWidget * /*source*/, QWidget * /*
                              const QPoint & /*position*/)
     : QWidget(parent)
 { }
+
+OlvDragWidget::OlvDragWidget(QWidget *parent)
+    : QWidget(parent)
+{ }

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void keepsItsStateWhenOthersMaximise();
     void readsTheIndexAtEachClick();
     void shortIconListsLeaveButtonsBlank();
+    void formsGetGlyphsAndBracesNone();
     void survivesDeletionFromItsSignals_data();
     void survivesDeletionFromItsSignals();
     void survivesTheLossOfAButton();
@@ -317,6 +318,20 @@ void TestControlBar::shortIconListsLeaveButtonsBlank()
         bar.windowButton(OlvControlBar::Max)->click();
         QVERIFY(!bar.grab().isNull());
         QCOMPARE(bar.record.count(), 2);
+    }
+}
+
+void TestControlBar::formsGetGlyphsAndBracesNone()
+{
+    QWidget window;
+    const OlvControlBar *inForm = new OlvControlBar(&window);
+    const OlvControlBar withoutGlyphs({});
+    for (int place = 1; place <= 6; ++place) {
+        const auto textIn = [place](const OlvControlBar &bar) {
+            return qobject_cast<QPushButton *>(bar.layout()->itemAt(place)->widget())->text();
+        };
+        QCOMPARE(textIn(*inForm).size(), 1);
+        QCOMPARE(textIn(withoutGlyphs), QString());
     }
 }
 
