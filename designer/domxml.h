@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+struct WidgetKind;
+
+/** What a form gets when a widget of @p kind is dropped into it, as Designer wants it told. */
+QString domXml(const WidgetKind &kind);

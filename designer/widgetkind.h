@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSize>
+#include <QSizePolicy>
+#include <QString>
+#include <QVariant>
+#include <QVector>
+
+class QWidget;
+
+/** A property that a new widget of a form is given. */
+struct KindProperty
+{
+    enum Way {
+        Declared, ///< one of the class's own, with a setter
+        Dynamic,  ///< one that the widget reads by its name
+    };
+
+    QString name;
+    QVariant value;
+    /** What Designer's property editor says about it. */
+    QString tip;
+    /** Whether it is a text for the program's user, to be translated. */
+    bool isText = false;
+    Way way = Dynamic;
+};
+
+/** What Designer is told about one class of widgets. */
+struct WidgetKind
+{
+    QString className;
+    /** The nearest class that Designer knows by itself. */
+    QString baseName;
+    /** Its name in the widget box. */
+    QString title;
+    QString toolTip;
+    QString whatsThis;
+    /** The size of a new one. */
+    QSize size;
+    QSizePolicy::Policy horizontal;
+    QSizePolicy::Policy vertical;
+    bool isContainer;
+    QVector<KindProperty> properties;
+    QWidget *(*create)(QWidget *parent);
+    /** The size of the widget in its icon, and what else makes a good picture of it, or null. */
+    QSize sampleSize;
+    void (*pose)(QWidget *widget);
+};
+
+/** Every widget that a form may have, in the order of the widget box. */
+QVector<WidgetKind> widgetKinds();

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "widgetplugin.h"
+
+#include "domxml.h"
+#include "widgeticon.h"
+
+#include <QCoreApplication>
+#include <QDynamicPropertyChangeEvent>
+#include <QIcon>
+#include <QResizeEvent>
+#include <QWidget>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
+
+#include <algorithm>
+
+WidgetPlugin::WidgetPlugin(const WidgetKind &kind, QObject *parent)
+    : QObject(parent)
+    , m_kind(kind)
+{ }
+
+QString WidgetPlugin::name() const
+{
+    return m_kind.className;
+}
+
+QString WidgetPlugin::group() const
+{
+    return QStringLiteral("OlvWidgets");
+}
+
+QString WidgetPlugin::toolTip() const
+{
+    return m_kind.toolTip;
+}
+
+QString WidgetPlugin::whatsThis() const
+{
+    return m_kind.whatsThis;
+}
+
+QString WidgetPlugin::includeFile() const
+{
+    // the brackets make it "#include <OlvButton>" in what uic writes
+    return QLatin1Char('<') + m_kind.className + QLatin1Char('>');
+}
+
+QIcon WidgetPlugin::icon() const
+{
+    return widgetIcon(m_kind);
+}
+
+QString WidgetPlugin::domXml() const
+{
+    return ::domXml(m_kind);
+}
+
+bool WidgetPlugin::isContainer() const
+{
+    return m_kind.isContainer;
+}
+
+QWidget *WidgetPlugin::createWidget(QWidget *parent)
+{
+    QWidget *widget = m_kind.create(parent);
+    if (m_isInDesigner) {
+        if (parent) {
+            // a grid would follow the form's size, while Designer says where it lies
+            parent->removeEventFilter(widget);
+        }
+        widget->installEventFilter(this);
+    }
+    return widget;
+}
+
+void WidgetPlugin::initialize(QDesignerFormEditorInterface *core)
+{
+    m_isInDesigner = true;
+    connect(core->formWindowManager(), &QDesignerFormWindowManagerInterface::formWindowAdded, this,
+            &WidgetPlugin::watch);
+}
+
+bool WidgetPlugin::isInitialized() const
+{
+    return m_isInDesigner;
+}
+
+bool WidgetPlugin::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange) {
+        const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
+        auto *widget = qobject_cast<QWidget *>(watched);
+        if (widget && isOffered(QString::fromUtf8(name))) {
+            // some widgets arrange themselves by their properties when they are resized
+            QResizeEvent resize(widget->size(), widget->size());
+            QCoreApplication::sendEvent(widget, &resize);
+            widget->update();
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool WidgetPlugin::isOffered(const QString &property) const
+{
+    return std::any_of(m_kind.properties.begin(), m_kind.properties.end(),
+                       [&](const KindProperty &offered) { return offered.name == property; });
+}
+
+void WidgetPlugin::watch(QDesignerFormWindowInterface *form)
+{
+    connect(form, &QDesignerFormWindowInterface::widgetManaged, this,
+            [=](QWidget *widget) { hideInternalProperties(form, widget); });
+}
+
+/** Designer lists every dynamic property, those that are the widget's own business included. */
+void WidgetPlugin::hideInternalProperties(QDesignerFormWindowInterface *form, QWidget *widget) const
+{
+    if (QLatin1String(widget->metaObject()->className()) != m_kind.className) {
+        return;
+    }
+    auto *sheet =
+        qt_extension<QDesignerPropertySheetExtension *>(form->core()->extensionManager(), widget);
+    const QList<QByteArray> names = widget->dynamicPropertyNames();
+    for (const QByteArray &name : names) {
+        const QString property = QString::fromUtf8(name);
+        const int index = sheet->indexOf(property);
+        if (index >= 0 && !isOffered(property)) {
+            sheet->setVisible(index, false);
+        }
+    }
+}
