@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// A launcher: a flow grid of icon buttons. A click says what a tile starts, a double click starts
+// it.
+#include <OlvGlobal>
+#include <OlvGridLayout>
+#include <OlvIconButton>
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QPalette>
+#include <QProcess>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int tileSide = 92;
+
+struct Program
+{
+    QChar glyph;
+    QString name;
+    QString command;
+    QColor color;
+};
+
+QVector<Program> programs()
+{
+    const QColor blue(64, 158, 255);
+    const QColor green(103, 194, 58);
+    const QColor orange(230, 162, 60);
+    const QColor red(245, 108, 108);
+    return {
+        { 0xf0ac, QStringLiteral("Browser"), QStringLiteral("x-www-browser"), blue },
+        { 0xf0e0, QStringLiteral("Mail"), QStringLiteral("thunderbird"), orange },
+        { 0xf120, QStringLiteral("Terminal"), QStringLiteral("x-terminal-emulator"), green },
+        { 0xf07b, QStringLiteral("Files"), QStringLiteral("thunar"), orange },
+        { 0xf044, QStringLiteral("Editor"), QStringLiteral("mousepad"), blue },
+        { 0xf1ec, QStringLiteral("Calculator"), QStringLiteral("galculator"), green },
+        { 0xf001, QStringLiteral("Music"), QStringLiteral("audacious"), red },
+        { 0xf03d, QStringLiteral("Videos"), QStringLiteral("vlc"), red },
+        { 0xf03e, QStringLiteral("Pictures"), QStringLiteral("ristretto"), green },
+        { 0xf073, QStringLiteral("Calendar"), QStringLiteral("orage"), blue },
+        { 0xf0ad, QStringLiteral("Settings"), QStringLiteral("xfce4-settings-manager"), orange },
+        { 0xf023, QStringLiteral("Lock"), QStringLiteral("xflock4"), red },
+    };
+}
+
+} // namespace
+
+class Launcher : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Launcher()
+        : m_status(new QLabel(tr("Double-click a tile to start its program.")))
+    {
+        setWindowTitle(tr("Launcher"));
+        QPalette colors = palette();
+        colors.setColor(QPalette::Window, QColor(38, 43, 54));
+        setPalette(colors);
+        m_status->setStyleSheet(QStringLiteral("color: rgb(144,147,153); padding: 10px 16px;"));
+
+        // the grid scrolls in its parent, so that this one is a viewport
+        auto *viewport = new QWidget;
+        auto *layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+        layout->addWidget(viewport, 1);
+        layout->addWidget(m_status);
+        resize(5 * tileSide + 130, 400);
+        layout->activate();
+
+        auto *grid = new OlvGridLayout(viewport);
+        grid->resize(viewport->size()); // until it follows the viewport's first resize
+        QList<QWidget *> tiles;
+        const QVector<Program> all = programs();
+        for (const Program &program : all) {
+            auto *tile = new OlvIconButton(program.glyph, program.name,
+                                           QStringLiteral("FontAwesome"), grid, tileSide, tileSide);
+            tile->setColor(program.color);
+            tile->setToolTip(program.command);
+            tile->show();
+            connect(tile, &OlvIconButton::clicked, m_status,
+                    [=] { m_status->setText(tr("%1: %2").arg(program.name, program.command)); });
+            connect(tile, &OlvIconButton::dClicked, this, [=] { start(program); });
+            tiles.append(tile);
+        }
+        grid->setMargin(20);
+        grid->addWidget(tiles);
+    }
+
+private:
+    void start(const Program &program)
+    {
+        const bool started = QProcess::startDetached(program.command, {});
+        m_status->setText(
+            (started ? tr("Started %1.") : tr("%1 is not installed.")).arg(program.command));
+    }
+
+    QLabel *m_status;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QDir::setCurrent(QApplication::applicationDirPath()); // where "Font" and "fonts" lie
+    OlvGlobal::init();
+    while (!OlvGlobal::isReady()) {
+        QApplication::processEvents();
+    }
+    Launcher launcher;
+    launcher.show();
+    return QApplication::exec();
+}
+
+#include "main.moc"
