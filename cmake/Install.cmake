@@ -4,12 +4,20 @@ include(CMakePackageConfigHelpers)
 set(olv_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OlvWidgets)
 set(olv_qmake_dir ${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/modules)
 
-install(TARGETS OlvWidgets OlvSystemInfo
+# The components are the packages that distributions make: one of each library, one for developers,
+# and the plugin's, which its own folder installs.
+install(TARGETS OlvWidgets
     EXPORT OlvWidgetsTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    COMPONENT widgets NAMELINK_COMPONENT development)
+install(TARGETS OlvSystemInfo
+    EXPORT OlvWidgetsTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    COMPONENT systeminfo NAMELINK_COMPONENT development)
 install(EXPORT OlvWidgetsTargets
     NAMESPACE OlvWidgets::
-    DESTINATION ${olv_cmake_dir})
+    DESTINATION ${olv_cmake_dir}
+    COMPONENT development)
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OlvWidgetsConfig.cmake.in
     ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake
@@ -19,7 +27,8 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/OlvWidgetsConfigVersion.c
 install(FILES
     ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake
     ${PROJECT_BINARY_DIR}/OlvWidgetsConfigVersion.cmake
-    DESTINATION ${olv_cmake_dir})
+    DESTINATION ${olv_cmake_dir}
+    COMPONENT development)
 
 # pkg-config and qmake find the installed tree relative to their own files, so that a tree installed
 # into another prefix (cmake --install --prefix) works as it stands.
@@ -30,8 +39,11 @@ foreach(module OlvWidgets OlvSystemInfo)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${module}.pc.in
         ${PROJECT_BINARY_DIR}/${module}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${module}.pc
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        COMPONENT development)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/qt_${module}.pri.in
         ${PROJECT_BINARY_DIR}/qt_${module}.pri @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/qt_${module}.pri DESTINATION ${olv_qmake_dir})
+    install(FILES ${PROJECT_BINARY_DIR}/qt_${module}.pri
+        DESTINATION ${olv_qmake_dir}
+        COMPONENT development)
 endforeach()

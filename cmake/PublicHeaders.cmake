@@ -43,7 +43,9 @@ function(olv_public_headers target)
         $<BUILD_INTERFACE:${generated_dir}/${target}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${target}>)
-    install(FILES ${installed} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target})
+    install(FILES ${installed}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
+        COMPONENT development)
 endfunction()
 
 # An unchanged header keeps its time stamp, so that configuring again rebuilds nothing.

@@ -1,0 +1,34 @@
+# SPDX-License-Identifier: MIT
+# Run by CPack between the installation and the packages: checks each library against the symbols file
+# that is kept for it, makes the control files of its package, and tells dpkg-shlibdeps which of the
+# packages to come has which library.
+set(version ${CPACK_PACKAGE_VERSION})
+string(REGEX MATCH "^[0-9]+" major ${version})
+
+foreach(pair "widgets libOlvWidgets" "systeminfo libOlvSystemInfo")
+    separate_arguments(pair)
+    list(GET pair 0 component)
+    list(GET pair 1 library)
+    string(TOLOWER ${library}${major} package)
+    file(GLOB file
+        ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr/${CPACK_OLV_LIBDIR}/${library}.so.${version})
+    set(control_dir ${CPACK_OLV_GENERATED_DIR}/${package})
+    set(dependency "${library} ${major} ${package} (>= ${version})\n")
+    file(WRITE ${control_dir}/shlibs "${dependency}")
+    file(WRITE ${control_dir}/triggers "activate-noawait ldconfig\n")
+    string(APPEND shlibs "${dependency}")
+    # level 4: a symbol that has come or gone is an error, with a patch of the kept file
+    execute_process(
+        COMMAND dpkg-gensymbols -c4 -p${package} -v${version} -e${file}
+            -I${CPACK_OLV_PACKAGING_DIR}/${package}.symbols -O${control_dir}/symbols
+        RESULT_VARIABLE result)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${library} does not have the symbols that packaging/${package}.symbols "
+            "lists: bring the list up to date, and the soname if a symbol has gone.")
+    endif()
+endforeach()
+
+foreach(component widgets systeminfo designer)
+    # CPack runs dpkg-shlibdeps in this folder, and removes "debian" from it afterwards
+    file(WRITE ${CPACK_TEMPORARY_DIRECTORY}/${component}/debian/shlibs.local "${shlibs}")
+endforeach()

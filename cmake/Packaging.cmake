@@ -1,0 +1,114 @@
+# SPDX-License-Identifier: MIT
+# The Debian packages, one a component: "cpack -G DEB" in a build tree configured with the prefix
+# /usr makes them; scripts/packages does all of it.
+set(olv_packaging_dir ${PROJECT_SOURCE_DIR}/packaging)
+# The changelog has the version. Its revision begins with 0, so that a package of Debian's own, which
+# begins at 1, would replace this one.
+file(STRINGS ${olv_packaging_dir}/changelog olv_changelog_entry LIMIT_COUNT 1)
+string(REGEX MATCH "\\(([^-]+)-([^)]+)\\)" olv_debian_version "${olv_changelog_entry}")
+if(NOT CMAKE_MATCH_1 VERSION_EQUAL PROJECT_VERSION)
+    message(FATAL_ERROR "packaging/changelog is not that of version ${PROJECT_VERSION}")
+endif()
+set(olv_debian_revision ${CMAKE_MATCH_2})
+set(olv_debian_version ${PROJECT_VERSION}-${olv_debian_revision})
+
+# olv_package(<component> <package> <section> <synopsis> <description> [DEPENDS <dependency>...]
+#             [LIBRARY])
+#
+# LIBRARY says that the package is that of a shared library, which needs more control files:
+# PackageSymbols.cmake makes them.
+function(olv_package component package section synopsis description)
+    cmake_parse_arguments(arg "LIBRARY" "" "DEPENDS" ${ARGN})
+    string(TOUPPER ${component} upper)
+    list(JOIN arg_DEPENDS ", " depends)
+    set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package} PARENT_SCOPE)
+    set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section} PARENT_SCOPE)
+    set(CPACK_DEBIAN_${upper}_DESCRIPTION "${synopsis}\n${description}" PARENT_SCOPE)
+    set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${depends}" PARENT_SCOPE)
+    if(arg_LIBRARY)
+        set(control_dir ${PROJECT_BINARY_DIR}/packaging/${package})
+        set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA
+            ${control_dir}/shlibs ${control_dir}/symbols ${control_dir}/triggers PARENT_SCOPE)
+    endif()
+
+    # policy wants each package to bring its changelog and its licence
+    set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package})
+    install(FILES ${olv_packaging_dir}/copyright
+        DESTINATION ${doc_dir}
+        COMPONENT ${component} EXCLUDE_FROM_ALL)
+    install(FILES ${PROJECT_BINARY_DIR}/packaging/changelog.Debian.gz
+        ${PROJECT_BINARY_DIR}/packaging/changelog.gz
+        DESTINATION ${doc_dir}
+        COMPONENT ${component} EXCLUDE_FROM_ALL)
+endfunction()
+
+# gzip's own time stamp and file name would make each build's packages differ
+find_program(OLVWIDGETS_GZIP gzip)
+function(olv_compress source target)
+    if(OLVWIDGETS_GZIP)
+        configure_file(${source} ${PROJECT_BINARY_DIR}/packaging/${target} COPYONLY)
+        execute_process(COMMAND ${OLVWIDGETS_GZIP} -9nkf ${PROJECT_BINARY_DIR}/packaging/${target})
+    endif()
+endfunction()
+olv_compress(${olv_packaging_dir}/changelog changelog.Debian)
+olv_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog)
+
+set(olv_about
+    "OlvWidgets is a library of buttons, icon buttons, text fields, switches,
+sliders, containers and what a window without a frame needs, for Qt 5 programs.")
+olv_package(widgets libolvwidgets${PROJECT_VERSION_MAJOR} libs
+    "ready-made Qt 5 widgets for desktop applications"
+    "${olv_about}
+.
+This package contains the library itself."
+    LIBRARY)
+olv_package(systeminfo libolvsysteminfo${PROJECT_VERSION_MAJOR} libs
+    "shortcuts on the whole desktop for Qt 5 programs"
+    "OlvSystemInfo lets a Qt 5 program register keyboard shortcuts that work on the
+whole desktop, whichever window has the focus. It belongs to OlvWidgets.
+.
+This package contains the library itself."
+    LIBRARY)
+olv_package(development libolvwidgets-dev libdevel
+    "ready-made Qt 5 widgets (development files)"
+    "${olv_about}
+.
+This package contains the headers, and what CMake, pkg-config and qmake need
+to build programs with it and with its sister library OlvSystemInfo."
+    DEPENDS
+    "libolvwidgets${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
+    "libolvsysteminfo${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
+    "qtbase5-dev (>= ${OLVWIDGETS_QT_VERSION})")
+olv_package(designer olvwidgets-designer libdevel
+    "ready-made Qt 5 widgets (Qt Designer plugin)"
+    "${olv_about}
+.
+This package contains the plugin that offers the widgets in Qt Designer, and
+lets programs load forms that use them.")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME olvwidgets)
+set(CPACK_PACKAGE_CONTACT "The OlvWidgets authors <authors@olvwidgets.example>")
+set(CPACK_COMPONENTS_ALL widgets systeminfo development)
+if(OLVWIDGETS_BUILD_DESIGNER)
+    list(APPEND CPACK_COMPONENTS_ALL designer)
+endif()
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
+set(CPACK_STRIP_FILES ON)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/PackageSymbols.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/PackageScripts.cmake)
+set(CPACK_OLV_PACKAGING_DIR ${olv_packaging_dir})
+set(CPACK_OLV_GENERATED_DIR ${PROJECT_BINARY_DIR}/packaging)
+set(CPACK_OLV_LIBDIR ${CMAKE_INSTALL_LIBDIR})
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${olv_debian_revision})
+set(CPACK_DEBIAN_PACKAGE_SOURCE olvwidgets)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+    ${PROJECT_BINARY_DIR}/src ${PROJECT_BINARY_DIR}/systeminfo)
+include(CPack)
