@@ -55,7 +55,7 @@ void measureVisits(benchmark::State &state, Painting painting, QWidget &window, 
             paintUpdates(window);
         }
     };
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         send(entered);
         send(pressed);
         send(released);
@@ -105,7 +105,7 @@ void dragLibrary(benchmark::State &state)
     showFor(Painting::AsItComes, window);
     QWidget *knob = slider->childAt(QPoint(15, 15));
     int step = dragStep;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         dragKnob(*knob, step);
         step = -step;
     }
@@ -157,7 +157,7 @@ void dragQtSlider(benchmark::State &state, const QString &styleSheet)
         dragHandle(*slider, forward ? start : end, forward ? dragStep : -dragStep);
         forward = !forward;
     };
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         drag();
     }
     drag();

@@ -11,7 +11,7 @@ namespace {
 template <typename Step> void addColorBenchmark(const std::string &name, Step step)
 {
     addBenchmark(name, [step](benchmark::State &state) {
-        for (auto _ : state) {
+        while (state.KeepRunning()) {
             benchmark::DoNotOptimize(step());
         }
     });

@@ -28,7 +28,7 @@ void measureSending(benchmark::State &state, QWidget &receiver, QEvent::Type typ
     QMouseEvent event(type, QPointF(1, 1), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&receiver, &event);
     const quint64 before = heapAllocations();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QCoreApplication::sendEvent(&receiver, &event);
     }
     state.counters["allocations"] = double(heapAllocations() - before) / double(state.iterations());

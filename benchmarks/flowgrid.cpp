@@ -45,7 +45,7 @@ void measureAllMoving(benchmark::State &state, QWidget &window, const Tiles &til
     settle();
     const QVector<QPoint> before = positionsOf(tiles);
     bool first = false;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         setGap(first ? firstGap : secondGap);
         first = !first;
         state.PauseTiming();
@@ -92,14 +92,14 @@ template <typename Contestant> void moveNone(benchmark::State &state, int count)
     showAndWait(contestant.window);
     contestant.reflow();
     settle();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         contestant.reflow();
     }
 }
 
 template <typename Contestant> void addList(benchmark::State &state, int count)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         {
             Contestant contestant;
@@ -117,7 +117,7 @@ template <typename Contestant> void addList(benchmark::State &state, int count)
 template <typename Contestant, typename Add>
 void addEach(benchmark::State &state, int count, Add add)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         {
             Contestant contestant;
@@ -146,7 +146,7 @@ void measureScrolling(benchmark::State &state, QWidget &window, const QWidget &c
         return;
     }
     bool down = false;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         bar.setValue(down ? step : 0);
         down = !down;
         paintUpdates(window);

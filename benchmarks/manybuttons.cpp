@@ -85,7 +85,7 @@ std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count)
 void measureFirstPaint(benchmark::State &state, const Contestant &contestant, int count)
 {
     settle();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         auto window = makeWindow(contestant, count);
         window->show();
         state.PauseTiming();
@@ -118,7 +118,7 @@ void measureHeap(benchmark::State &state, const Contestant &contestant)
     heapOfShown(contestant, heapButtonCount);
     settle();
     double bytes = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const double empty = heapOfShown(contestant, 0);
         settle();
         bytes = (heapOfShown(contestant, heapButtonCount) - empty) / heapButtonCount;

@@ -98,7 +98,7 @@ void toggleLibrary(benchmark::State &state)
     library->setGeometry(switchGeometry);
     showAndWait(window);
     bool on = false;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         on = !on;
         library->setValue(on);
         const int timerId = library->property("timerId").toInt();
@@ -118,7 +118,7 @@ void toggleHandWritten(benchmark::State &state)
     handWritten->setGeometry(switchGeometry);
     showAndWait(window);
     bool on = false;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         on = !on;
         handWritten->start();
         const int timerId = handWritten->timerId();
@@ -145,7 +145,7 @@ void toggleAnimated(benchmark::State &state)
         &animation, &QVariantAnimation::valueChanged, handWritten,
         [handWritten](const QVariant &progress) { handWritten->slideTo(progress.toReal()); });
     showAndWait(window);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         animation.setCurrentTime(0);
         for (int frame = 1; frame <= animationFrames; ++frame) {
             animation.setCurrentTime(frame * 1000 / framesPerSecond);

@@ -27,7 +27,7 @@ QString textOf(int characters)
 void fitByLibrary(benchmark::State &state, const QString &text)
 {
     const QFont font = captionFont();
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(OlvGlobal::adaptDocumentToPointSize(text, box, font));
     }
 }
@@ -41,7 +41,7 @@ void measureAtEachSize(benchmark::State &state, const QString &text)
 {
     const QFont font = captionFont();
     const int fitting = OlvGlobal::adaptDocumentToPointSize(text, box, font);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (int pointSize = captionPointSize; pointSize >= fitting; --pointSize) {
             QFont tried = font;
             if (pointSize != captionPointSize) {

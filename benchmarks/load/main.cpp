@@ -75,7 +75,7 @@ bool loadInChild(const char *path, Cost &cost)
 void measureLoading(benchmark::State &state, const char *path)
 {
     Cost cost{};
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         if (!loadInChild(path, cost)) {
             state.SkipWithError("the library could not be loaded");
             return;
