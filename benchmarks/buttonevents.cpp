@@ -68,20 +68,20 @@ void measureVisits(benchmark::State &state, Painting painting, QWidget &window, 
 
 void visitLibrary(benchmark::State &state, Painting painting)
 {
-    QWidget window;
     int clicks = 0;
+    QWidget window;
     auto *button = new OlvButton(QStringLiteral("Save as PDF"), &window);
-    QObject::connect(button, &OlvButton::clicked, &window, [&clicks] { ++clicks; });
+    QObject::connect(button, &OlvButton::clicked, &window, [counter = &clicks] { ++*counter; });
     measureVisits(state, painting, window, *button, clicks);
 }
 
 void visitPushButton(benchmark::State &state, Painting painting, const QString &styleSheet)
 {
-    QWidget window;
     int clicks = 0;
+    QWidget window;
     auto *button = new QPushButton(QStringLiteral("Save as PDF"), &window);
     button->setStyleSheet(styleSheet);
-    QObject::connect(button, &QPushButton::clicked, &window, [&clicks] { ++clicks; });
+    QObject::connect(button, &QPushButton::clicked, &window, [counter = &clicks] { ++*counter; });
     measureVisits(state, painting, window, *button, clicks);
 }
 

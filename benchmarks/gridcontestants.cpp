@@ -145,7 +145,7 @@ void NaiveGrid::add(QWidget *tile)
 {
     m_tiles.append(tile);
     Flow flow(content->width(), defaultGap);
-    for (QWidget *placed : m_tiles) {
+    for (QWidget *placed : qAsConst(m_tiles)) {
         placed->move(flow.next(placed->size()));
     }
     content->resize(content->width(), flow.height());

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """The plot of cost against size."""
 
+import math
+
 import matplotlib
 
 matplotlib.use("Agg")
@@ -38,6 +40,8 @@ def draw(panel, case, contestants):
             label=contestant,
             zorder=3 if library else 2,
         )
+    lowest, highest = (math.log10(limit) for limit in panel.get_ylim())
+    panel.set_ylim(10 ** math.floor(lowest), 10 ** math.ceil(highest))
     panel.set_title(case)
     panel.set_xlabel("characters" if case == "text-fitting" else "widgets")
     panel.set_ylabel("microseconds")

@@ -55,6 +55,11 @@ class Results:
     def repetitions(self):
         return max((len(runs) for runs in self._runs.values()), default=0)
 
+    def spread(self):
+        """The standard deviation of a benchmark's time, as a part of its mean, in the median."""
+        times = [[nanoseconds(run) for run in runs] for runs in self._runs.values()]
+        return statistics.median(statistics.stdev(t) / statistics.mean(t) for t in times)
+
     def curves(self):
         """{case: {contestant: [(size, nanoseconds)]}} of the cases that have several sizes."""
         curves = defaultdict(lambda: defaultdict(list))
@@ -100,7 +105,7 @@ def row(target, value):
     case = target.case
     if isinstance(target, Ratio):
         case = f"{case}, {target.size:,}" if target.size else case
-        against, form = target.contestant, "{:.2f}" if value >= 0.095 else "{:.3f}"
+        against, form = target.contestant, "{:.3f}" if value < 1 else "{:.2f}"
     elif isinstance(target, Slope):
         against, form = "slope", "{:.2f}"
     else:
@@ -150,6 +155,7 @@ def document(results, command):
         processor=processor(),
         qt=context["Qt"],
         repetitions=results.repetitions(),
+        spread=f"{results.spread():.1%}",
         table=as_markdown(HEADINGS, table(results)),
     )
 
