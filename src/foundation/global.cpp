@@ -87,6 +87,29 @@ private:
     bool m_stopping = false;
 };
 
+// What the job leaves behind: plain stores that applications read without a lock. Each has a
+// function of its own, so that tests/support/threads.supp can name these four and no other.
+
+void storeFontId(const QString &fileName, int id)
+{
+    OlvGlobal::OlvPluginFonts.insert(fontKey(fileName), id);
+}
+
+void storeDesktopSize(const QSize &size)
+{
+    OlvGlobal::desktopSize = size;
+}
+
+void storeReadyFlag()
+{
+    bIsReady = true;
+}
+
+void storeScale(double scale)
+{
+    OlvGlobal::DPI = scale;
+}
+
 void registerFonts()
 {
     const QStringList names = OlvGlobal::getFiles(QStringLiteral("Font"));
@@ -95,7 +118,7 @@ void registerFonts()
             return;
         }
         const int id = QFontDatabase::addApplicationFont(QLatin1String("fonts/") + name);
-        OlvGlobal::OlvPluginFonts.insert(fontKey(name), id);
+        storeFontId(name, id);
     }
 }
 
@@ -105,11 +128,11 @@ void measureScreen()
     if (!screen) {
         return;
     }
-    OlvGlobal::desktopSize = screen->size();
+    storeDesktopSize(screen->size());
     const double dotsPerInch = screen->logicalDotsPerInch();
     // the flag comes before the last measure: applications poll the flag for the fonts' sake
-    bIsReady = true;
-    OlvGlobal::DPI = dotsPerInch / referenceDotsPerInch;
+    storeReadyFlag();
+    storeScale(dotsPerInch / referenceDotsPerInch);
 }
 
 void runFontJob()
