@@ -5,7 +5,8 @@ include(GenerateExportHeader)
 #
 # Gives the library <target> its public headers, which lie in include/<target>/, and everything that
 # is made from them: the export header, one forwarding header per exported class (so that
-# "#include <OlvSlider>" works) and the umbrella header <<target>/<target>>.
+# "#include <OlvSlider>" works) and the umbrella header <<target>/<target>>. Nothing but what these
+# headers declare is exported.
 function(olv_public_headers target)
     string(TOLOWER ${target} lower)
     string(TOUPPER ${target} upper)
@@ -16,6 +17,9 @@ function(olv_public_headers target)
         EXPORT_MACRO_NAME ${upper}_EXPORT
         EXPORT_FILE_NAME ${generated_dir}/${target}/${lower}_export.h)
     set(installed ${generated_dir}/${target}/${lower}_export.h)
+    set(symbols ${PROJECT_SOURCE_DIR}/cmake/ExportedSymbols.map)
+    target_link_options(${target} PRIVATE LINKER:--version-script=${symbols})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${symbols})
 
     set(umbrella "// SPDX-License-Identifier: MIT\n#pragma once\n")
     foreach(header IN LISTS ARGN)
