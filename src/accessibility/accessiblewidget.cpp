@@ -28,12 +28,13 @@ QAccessible::State difference(QAccessible::State before, QAccessible::State now)
 
 } // namespace
 
-/** What was told last. */
+/** What was told last, and who hears of changes: nobody pays for it whom nobody looks at. */
 struct AccessibleWidget::Told
 {
     QString name;
     QAccessible::State state;
     QVariant value;
+    ChangeWatcher watcher;
 };
 
 AccessibleWidget::AccessibleWidget(QWidget *widget, QAccessible::Role role)
@@ -45,10 +46,9 @@ AccessibleWidget::~AccessibleWidget() = default;
 void AccessibleWidget::setWatching(bool watching)
 {
     if (!watching || !isValid()) {
-        m_watcher.reset();
-    } else if (!m_watcher) {
-        m_told = std::make_unique<Told>(Told{ name(), ownState(), value() });
-        m_watcher = std::make_unique<ChangeWatcher>(widget(), this);
+        m_told.reset();
+    } else if (!m_told) {
+        m_told.reset(new Told{ name(), ownState(), value(), { widget(), this } });
     }
 }
 

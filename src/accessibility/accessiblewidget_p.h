@@ -7,8 +7,6 @@
 
 #include <memory>
 
-class ChangeWatcher;
-
 /**
  * What the interfaces of the library's widgets share: names, updates, and standing it when the
  * widget has died before them, or is about to: they are not valid then. Knobs and handles are parts
@@ -63,5 +61,4 @@ private:
     QString name() const;
 
     std::unique_ptr<Told> m_told;
-    std::unique_ptr<ChangeWatcher> m_watcher;
 };
