@@ -70,6 +70,7 @@ private Q_SLOTS:
     void doesNothingToAMaximisedWidget();
     void consumesNothing();
     void handlesStayUntilReset();
+    void withoutATargetNothingIsPlaced();
     void survivesMisuse();
     void survivesATargetThatDeletesItsHandles();
 };
@@ -326,6 +327,23 @@ void TestResizeWidget::handlesStayUntilReset()
     QCOMPARE(handles.right->geometry(), QRect(195, 0, 5, 90));
     QCOMPARE(handles.bottom->geometry(), QRect(0, 95, 190, 5));
     QCOMPARE(handles.corner->geometry(), QRect(190, 90, 10, 10));
+}
+
+void TestResizeWidget::withoutATargetNothingIsPlaced()
+{
+    OlvResizeItem handle(nullptr, nullptr, OlvResizeItem::Corner, 5, nullptr, nullptr);
+    QCOMPARE(handle.geometry(), QRect(0, 0, 10, 10));
+    handle.placeAll();
+    QCOMPARE(handle.geometry(), QRect(0, 0, 10, 10));
+
+    QWidget target;
+    target.resize(400, 300);
+    OlvResizeWidget resizer(&target, 5);
+    const QRect placed = handlesOf(target).corner->geometry();
+    resizer.setParent(nullptr);
+    target.resize(200, 100);
+    resizer.reset();
+    QCOMPARE(handlesOf(target).corner->geometry(), placed);
 }
 
 void TestResizeWidget::survivesMisuse()
