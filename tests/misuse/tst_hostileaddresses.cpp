@@ -211,6 +211,7 @@ class TestHostileAddresses : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void propertyThatNamesNoHelperUsesNone_data();
     void propertyThatNamesNoHelperUsesNone();
     void propertyThatNamesAnothersHelperUsesNone_data();
@@ -218,6 +219,12 @@ private Q_SLOTS:
     void propertyThatNamesADeadHelperUsesNone_data();
     void propertyThatNamesADeadHelperUsesNone();
 };
+
+void TestHostileAddresses::cleanup()
+{
+    // has what the handles of panels defer to the event loop done, and freed with that
+    QTest::qWait(20);
+}
 
 void TestHostileAddresses::propertyThatNamesNoHelperUsesNone_data()
 {

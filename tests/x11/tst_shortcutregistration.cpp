@@ -1,34 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "opensockets.h"
 #include "otherprogram.h"
 #include "shortcutkeys.h"
 
-#include <QDir>
-#include <QSet>
 #include <QSignalSpy>
 
-#include <sys/socket.h>
-
 #include <memory>
-
-namespace {
-
-/** The sockets that this process has open. */
-QSet<int> openSockets()
-{
-    QSet<int> sockets;
-    const QStringList names =
-        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System);
-    for (const QString &name : names) {
-        int type = 0;
-        socklen_t size = sizeof type;
-        if (getsockopt(name.toInt(), SOL_SOCKET, SO_TYPE, &type, &size) == 0) {
-            sockets.insert(name.toInt());
-        }
-    }
-    return sockets;
-}
-
-} // namespace
 
 class TestShortcutRegistration : public QObject
 {
@@ -46,6 +23,9 @@ private Q_SLOTS:
     void destructorLetsGo();
     void keysThatAreNoneAreRefused_data();
     void keysThatAreNoneAreRefused();
+    void modifiersThatNoKeyGivesAreThoseOfHabit_data();
+    void modifiersThatNoKeyGivesAreThoseOfHabit();
+    void connectionGoesWithTheApplication();
     void aDeadConnectionIsInactive();
 
 private:
@@ -174,6 +154,38 @@ void TestShortcutRegistration::keysThatAreNoneAreRefused()
     OlvShortcut shortcut(Qt::Key(key), true, false, false, false);
     QVERIFY(!shortcut.active());
     QVERIFY(!shortcut.active());
+}
+
+void TestShortcutRegistration::modifiersThatNoKeyGivesAreThoseOfHabit_data()
+{
+    QTest::addColumn<bool>("alt");
+    QTest::addColumn<int>("mask");
+    QTest::newRow("Alt") << true << 8;
+    QTest::newRow("Super") << false << 64;
+}
+
+void TestShortcutRegistration::modifiersThatNoKeyGivesAreThoseOfHabit()
+{
+    QFETCH(bool, alt);
+    QFETCH(int, mask);
+    QCOMPARE(QProcess::execute(QStringLiteral("xmodmap"),
+                               { QStringLiteral("-e"), QStringLiteral("clear mod1"),
+                                 QStringLiteral("-e"), QStringLiteral("clear mod4") }),
+             0);
+    QTest::qWait(200);
+    OlvShortcut shortcut(Qt::Key_F5, false, false, alt, !alt);
+    QVERIFY(shortcut.active());
+    OtherProgram other(
+        { QStringLiteral("hold"), QString::number(symbolF5), QString::number(mask) });
+    QTRY_COMPARE(other.lines(), QStringList({ QStringLiteral("refused") }));
+}
+
+void TestShortcutRegistration::connectionGoesWithTheApplication()
+{
+    const QString program = QStringLiteral(OLV_SHORTCUT_AND_LEAVE);
+    const int without = QProcess::execute(program, QStringList());
+    QVERIFY(without >= 0);
+    QCOMPARE(QProcess::execute(program, { QStringLiteral("shortcut") }), without);
 }
 
 void TestShortcutRegistration::aDeadConnectionIsInactive()
