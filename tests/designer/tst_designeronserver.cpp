@@ -133,10 +133,8 @@ void TestDesignerOnServer::showsTheOfferedDynamicPropertiesAndNoOthers()
     const QList<QDesignerCustomWidgetInterface *> plugins = pluginWidgets();
     QCOMPARE(classes.size(), plugins.size());
     for (QDesignerCustomWidgetInterface *plugin : plugins) {
-        QStringList shown;
-        for (const QJsonValue property : classes.value(plugin->name()).toArray()) {
-            shown.append(property.toString());
-        }
+        QStringList shown =
+            QVariant(classes.value(plugin->name()).toArray().toVariantList()).toStringList();
         QStringList offered = dynamicProperties(plugin->domXml());
         shown.sort();
         offered.sort();

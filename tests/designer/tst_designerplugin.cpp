@@ -18,7 +18,7 @@ namespace {
 const QVector<QPair<QString, QStringList>> &expected()
 {
     const auto names = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        return QString::fromLatin1(text).split(QLatin1Char(' '));
     };
     static const QVector<QPair<QString, QStringList>> classes{
         { QStringLiteral("OlvButton"), names("content color type isCheckable isChecked value") },
