@@ -2,11 +2,13 @@
 #include "plugin.h"
 
 #include <QBuffer>
+#include <QEventLoop>
 #include <QFile>
 #include <QIcon>
 #include <QImage>
 #include <QSet>
 #include <QTest>
+#include <QTimer>
 #include <QUiLoader>
 #include <QWidget>
 
@@ -66,6 +68,7 @@ class TestDesignerPlugin : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void offersEveryWidgetThatAFormMayHave();
     void describesTheWidget_data();
     void describesTheWidget();
@@ -79,6 +82,14 @@ private Q_SLOTS:
 private:
     void addClasses();
 };
+
+void TestDesignerPlugin::cleanup()
+{
+    // what a panel has put off to the event loop is no leak once that has run
+    QEventLoop loop;
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 void TestDesignerPlugin::addClasses()
 {
