@@ -18,6 +18,17 @@ class Application
     QApplication m_application{ m_count, m_arguments };
 };
 
+/** What an interface says, and does, once its widget is no more. */
+void expectNothingOf(QAccessibleInterface *interface)
+{
+    QVERIFY(!interface->isValid());
+    QVERIFY(interface->state().invalid);
+    QCOMPARE(interface->text(QAccessible::Name), QString());
+    QCOMPARE(interface->childCount(), 0);
+    QCOMPARE(interface->actionInterface()->actionNames(), QStringList());
+    callAll(interface);
+}
+
 } // namespace
 
 /** Interfaces before, behind and beside the lives of others. */
@@ -34,6 +45,8 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_runtime;
+    QAccessibleInterface *m_interface = nullptr;
+    int m_ends = 0;
 };
 
 void TestAccessibilityLifetime::initTestCase()
@@ -65,27 +78,21 @@ void TestAccessibilityLifetime::isThereInEachApplication()
 void TestAccessibilityLifetime::standsTheEndOfItsWidget()
 {
     const Application application;
-    int ends = 0;
     for (const AccessibleKind &kind : accessibleKinds()) {
         QWidget parent;
         QWidget *widget = kind.make(&parent);
-        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        m_interface = QAccessible::queryAccessibleInterface(widget);
         // connected before Qt connects: its end has begun, and its interface is still there
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(m_interface));
         widget->disconnect();
-        connect(widget, &QObject::destroyed, this, [&] {
-            ++ends;
-            QVERIFY(!interface->isValid());
-            QVERIFY(interface->state().invalid);
-            QCOMPARE(interface->text(QAccessible::Name), QString());
-            QCOMPARE(interface->childCount(), 0);
-            QCOMPARE(interface->actionInterface()->actionNames(), QStringList());
-            callAll(interface);
+        connect(widget, &QObject::destroyed, this, [this] {
+            ++m_ends;
+            expectNothingOf(m_interface);
         });
-        interface = QAccessible::queryAccessibleInterface(widget);
+        m_interface = QAccessible::queryAccessibleInterface(widget);
         delete widget;
     }
-    QCOMPARE(ends, accessibleKinds().size());
+    QCOMPARE(m_ends, accessibleKinds().size());
 }
 
 void TestAccessibilityLifetime::outlivesItsWidget()
@@ -103,12 +110,7 @@ void TestAccessibilityLifetime::outlivesItsWidget()
     qDeleteAll(widgets);
     for (QAccessibleInterface *interface : qAsConst(interfaces)) {
         QVERIFY(!interface->object());
-        QVERIFY(!interface->isValid());
-        QVERIFY(interface->state().invalid);
-        QCOMPARE(interface->text(QAccessible::Name), QString());
-        QCOMPARE(interface->childCount(), 0);
-        QCOMPARE(interface->actionInterface()->actionNames(), QStringList());
-        callAll(interface);
+        expectNothingOf(interface);
     }
 }
 

@@ -10,9 +10,6 @@
 
 namespace {
 
-const QString press = QAccessibleActionInterface::pressAction();
-const QString toggle = QAccessibleActionInterface::toggleAction();
-
 QStringList actionsOf(OlvButton &button)
 {
     return accessible(&button)->actionInterface()->actionNames();
@@ -73,12 +70,12 @@ void TestAccessibleButton::tellsWhetherItIsCheckableAndChecked()
 void TestAccessibleButton::hasTheActionsOfItsKind()
 {
     OlvButton button(QStringLiteral("Bold"));
-    QCOMPARE(actionsOf(button), QStringList{ press });
+    QCOMPARE(actionsOf(button), QStringList{ press() });
     button.setCheckable(true);
-    QCOMPARE(actionsOf(button), (QStringList{ toggle, press }));
+    QCOMPARE(actionsOf(button), (QStringList{ toggle(), press() }));
     button.setFocusPolicy(Qt::StrongFocus);
     QCOMPARE(actionsOf(button),
-             (QStringList{ toggle, press, QAccessibleActionInterface::setFocusAction() }));
+             (QStringList{ toggle(), press(), QAccessibleActionInterface::setFocusAction() }));
     button.setEnabled(false);
     QCOMPARE(actionsOf(button), QStringList());
 }
@@ -89,10 +86,10 @@ void TestAccessibleButton::isPressed_data()
     QTest::addColumn<bool>("checked");
     QTest::addColumn<QString>("action");
     QTest::addColumn<QStringList>("signalled");
-    QTest::newRow("plain") << false << false << press << QStringList{ QStringLiteral("clicked") };
+    QTest::newRow("plain") << false << false << press() << QStringList{ QStringLiteral("clicked") };
     QTest::newRow("checked for good")
-        << false << true << press << QStringList{ QStringLiteral("clicked") };
-    for (const QString &action : { press, toggle }) {
+        << false << true << press() << QStringList{ QStringLiteral("clicked") };
+    for (const QString &action : { press(), toggle() }) {
         QTest::addRow("%s checks", qPrintable(action))
             << true << false << action
             << QStringList{ QStringLiteral("clicked"), QStringLiteral("toggled 1") };
@@ -127,11 +124,11 @@ void TestAccessibleButton::disabledIsNotPressed()
     OlvButton button(QStringLiteral("Save"));
     QSignalSpy clicked(&button, &OlvButton::clicked);
     button.setEnabled(false);
-    accessible(&button)->actionInterface()->doAction(press);
+    accessible(&button)->actionInterface()->doAction(press());
     QCOMPARE(clicked.count(), 0);
     button.setEnabled(true);
     // not checkable, so that there is nothing to toggle
-    accessible(&button)->actionInterface()->doAction(toggle);
+    accessible(&button)->actionInterface()->doAction(toggle());
     accessible(&button)->actionInterface()->doAction(QStringLiteral("none"));
     QCOMPARE(clicked.count(), 0);
 }
@@ -155,7 +152,7 @@ void TestAccessibleButton::survivesDeletionByItsSlots()
     } else {
         connect(button, &OlvButton::clicked, this, [&] { delete button; });
     }
-    QVERIFY(act(button, press));
+    QVERIFY(act(button, press()));
     QVERIFY(!button);
 }
 
@@ -172,7 +169,7 @@ void TestAccessibleButton::tellsOfClicks()
                            QStringLiteral("state checked") }));
     Pointer::leave(button);
     QCOMPARE(assistant.heardOf(&button), QStringList());
-    QVERIFY(act(&button, toggle));
+    QVERIFY(act(&button, toggle()));
     QCOMPARE(assistant.heardOf(&button), QStringList{ QStringLiteral("state checked") });
 }
 

@@ -13,9 +13,6 @@
 
 namespace {
 
-const QString press = QAccessibleActionInterface::pressAction();
-const QString toggle = QAccessibleActionInterface::toggleAction();
-
 /** A bar with two buttons of the application's, and its buttons in their order. */
 class Bar : public OlvControlBar
 {
@@ -89,7 +86,7 @@ void TestAccessibleGlyphButton::buttonsOfABarAreCalledAsTheApplicationSays()
     QPushButton *button = bar.windowButton(OlvControlBar::Max);
     button->setAccessibleName(QStringLiteral("Maximise"));
     QCOMPARE(nameOf(button), QStringLiteral("Maximise"));
-    QVERIFY(act(button, toggle));
+    QVERIFY(act(button, toggle()));
     QCOMPARE(nameOf(button), QStringLiteral("Maximise"));
     QCOMPARE(accessible(button)->text(QAccessible::Description), QStringLiteral("还原"));
     button->setAccessibleName(QString());
@@ -99,16 +96,16 @@ void TestAccessibleGlyphButton::buttonsOfABarAreCalledAsTheApplicationSays()
 void TestAccessibleGlyphButton::buttonsOfABarArePressed()
 {
     Bar bar;
-    QVERIFY(act(bar.windowButton(OlvControlBar::Close), press));
-    QVERIFY(!act(bar.windowButton(OlvControlBar::Close), toggle));
+    QVERIFY(act(bar.windowButton(OlvControlBar::Close), press()));
+    QVERIFY(!act(bar.windowButton(OlvControlBar::Close), toggle()));
     QCOMPARE(bar.changes.count(), 1);
     QCOMPARE(bar.changes.at(0).at(0).value<OlvControlBar::WindowState>(), OlvControlBar::Close);
-    QVERIFY(act(bar.button(1), press));
+    QVERIFY(act(bar.button(1), press()));
     QCOMPARE(bar.customs.count(), 1);
     QCOMPARE(bar.customs.at(0).at(0).toInt(), 1);
 
     bar.setEnabled(false);
-    QVERIFY(!act(bar.button(1), press));
+    QVERIFY(!act(bar.button(1), press()));
 }
 
 void TestAccessibleGlyphButton::buttonsOfABarAreToggled()
@@ -117,7 +114,7 @@ void TestAccessibleGlyphButton::buttonsOfABarAreToggled()
     QPushButton *top = bar.windowButton(OlvControlBar::Top);
     QVERIFY(accessible(top)->state().checkable);
     for (const bool on : { true, false }) {
-        QVERIFY(act(top, toggle));
+        QVERIFY(act(top, toggle()));
         QCOMPARE(accessible(top)->state().checked, on);
         QCOMPARE(bar.changes.count(), 1);
         QCOMPARE(bar.changes.takeFirst().at(1).toBool(), on);
@@ -132,7 +129,7 @@ void TestAccessibleGlyphButton::maximiseTellsItsNewName()
     window.show();
     QPushButton *button = bar.windowButton(OlvControlBar::Max);
     assistant.heardOf(button);
-    QVERIFY(act(button, press));
+    QVERIFY(act(button, press()));
     const QStringList told = assistant.heardOf(button);
     QVERIFY(told.contains(QStringLiteral("state checked")));
     QCOMPARE(told.last(), QStringLiteral("name 还原"));
@@ -145,9 +142,9 @@ void TestAccessibleGlyphButton::exclusionIsTold()
     QWidget window;
     const Bar bar(&window);
     window.show();
-    QVERIFY(act(bar.windowButton(OlvControlBar::Top), toggle));
+    QVERIFY(act(bar.windowButton(OlvControlBar::Top), toggle()));
     assistant.heardOf(bar.windowButton(OlvControlBar::Top));
-    QVERIFY(act(bar.windowButton(OlvControlBar::Bottom), toggle));
+    QVERIFY(act(bar.windowButton(OlvControlBar::Bottom), toggle()));
     QCOMPARE(assistant.heardOf(bar.windowButton(OlvControlBar::Top)),
              QStringList{ QStringLiteral("state checked") });
     QVERIFY(!accessible(bar.windowButton(OlvControlBar::Top))->state().checked);
@@ -157,7 +154,7 @@ void TestAccessibleGlyphButton::survivesDeletionByItsSlots()
 {
     const QPointer<Bar> bar(new Bar);
     connect(bar, &OlvControlBar::changed, this, [&] { delete bar; });
-    QVERIFY(act(bar->windowButton(OlvControlBar::Close), press));
+    QVERIFY(act(bar->windowButton(OlvControlBar::Close), press()));
     QVERIFY(!bar);
 }
 
@@ -180,10 +177,10 @@ void TestAccessibleGlyphButton::togglesItsGlyph()
 {
     OlvSimpleIconButton button(QStringLiteral("off"), QFont());
     button.setToggle(QStringLiteral("on"));
-    QVERIFY(act(&button, toggle));
+    QVERIFY(act(&button, toggle()));
     QCOMPARE(button.text(), QStringLiteral("on"));
     QVERIFY(accessible(&button)->state().checked);
-    QVERIFY(act(&button, press));
+    QVERIFY(act(&button, press()));
     QCOMPARE(button.text(), QStringLiteral("off"));
 }
 
@@ -194,7 +191,7 @@ void TestAccessibleGlyphButton::showsThePassword()
     auto *button = edit.findChild<OlvSimpleIconButton *>();
     auto *text = edit.findChild<QLineEdit *>();
     QCOMPARE(nameOf(button), QStringLiteral("显示密码"));
-    QVERIFY(act(button, toggle));
+    QVERIFY(act(button, toggle()));
     QCOMPARE(text->echoMode(), QLineEdit::Normal);
     QVERIFY(accessible(button)->state().checked);
     button->setToolTip(QStringLiteral("Show the password"));

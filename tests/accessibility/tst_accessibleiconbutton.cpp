@@ -10,10 +10,6 @@
 
 namespace {
 
-const QString press = QAccessibleActionInterface::pressAction();
-const QString toggle = QAccessibleActionInterface::toggleAction();
-const QString doubleClick = QStringLiteral("doubleClick");
-
 class Tile : public OlvIconButton
 {
 public:
@@ -59,9 +55,9 @@ void TestAccessibleIconButton::hasTheActionsOfItsKind()
 {
     Tile tile;
     QAccessibleActionInterface *actions = accessible(&tile)->actionInterface();
-    QCOMPARE(actions->actionNames(), (QStringList{ press, doubleClick }));
+    QCOMPARE(actions->actionNames(), (QStringList{ press(), doubleClick() }));
     tile.setCheckable(true);
-    QCOMPARE(actions->actionNames(), (QStringList{ toggle, press, doubleClick }));
+    QCOMPARE(actions->actionNames(), (QStringList{ toggle(), press(), doubleClick() }));
     tile.setEnabled(false);
     QCOMPARE(actions->actionNames(), QStringList());
 }
@@ -69,7 +65,7 @@ void TestAccessibleIconButton::hasTheActionsOfItsKind()
 void TestAccessibleIconButton::isPressedAsAMouseWould()
 {
     Tile tile;
-    QVERIFY(act(&tile, press));
+    QVERIFY(act(&tile, press()));
     QCOMPARE(tile.getValue(), QVariant(true));
     QCOMPARE(tile.property("clickNumber"), QVariant(1));
     QCOMPARE(tile.property("hovered"), QVariant(false));
@@ -83,7 +79,7 @@ void TestAccessibleIconButton::isPressedUnderThePointer()
 {
     Tile tile;
     Pointer::enter(tile);
-    QVERIFY(act(&tile, press));
+    QVERIFY(act(&tile, press()));
     QCOMPARE(tile.property("hovered"), QVariant(true));
     QCOMPARE(tile.property("state"), QVariant(QStringLiteral("hover")));
     QTRY_COMPARE_WITH_TIMEOUT(tile.single.count(), 1, 20000);
@@ -92,8 +88,8 @@ void TestAccessibleIconButton::isPressedUnderThePointer()
 void TestAccessibleIconButton::twoPressesInATimeAreADoubleClick()
 {
     Tile tile;
-    QVERIFY(act(&tile, press));
-    QVERIFY(act(&tile, press));
+    QVERIFY(act(&tile, press()));
+    QVERIFY(act(&tile, press()));
     QTRY_COMPARE_WITH_TIMEOUT(tile.twice.count(), 1, 20000);
     QCOMPARE(tile.single.count(), 0);
     QCOMPARE(tile.getValue(), QVariant(false));
@@ -102,7 +98,7 @@ void TestAccessibleIconButton::twoPressesInATimeAreADoubleClick()
 void TestAccessibleIconButton::isDoubleClicked()
 {
     Tile tile;
-    QVERIFY(act(&tile, doubleClick));
+    QVERIFY(act(&tile, doubleClick()));
     QTRY_COMPARE_WITH_TIMEOUT(tile.twice.count(), 1, 20000);
     QCOMPARE(tile.single.count(), 0);
 }
@@ -110,12 +106,12 @@ void TestAccessibleIconButton::isDoubleClicked()
 void TestAccessibleIconButton::togglesWhenCheckable()
 {
     Tile tile;
-    QVERIFY(act(&tile, press));
+    QVERIFY(act(&tile, press()));
     QVERIFY(!accessible(&tile)->state().checked); // flipped, but not shown
     tile.setCheckable(true);
     QVERIFY(accessible(&tile)->state().checkable);
     QVERIFY(!accessible(&tile)->state().checked);
-    QVERIFY(act(&tile, toggle));
+    QVERIFY(act(&tile, toggle()));
     QVERIFY(accessible(&tile)->state().checked);
     QVERIFY(isChecked(&tile));
 }
@@ -124,7 +120,7 @@ void TestAccessibleIconButton::disabledIsNotPressed()
 {
     Tile tile;
     tile.setEnabled(false);
-    for (const QString &action : { press, toggle, doubleClick }) {
+    for (const QString &action : { press(), toggle(), doubleClick() }) {
         accessible(&tile)->actionInterface()->doAction(action);
     }
     QCOMPARE(tile.property("clickNumber"), QVariant(0));
@@ -148,7 +144,7 @@ protected:
 void TestAccessibleIconButton::survivesDeletionDuringThePress()
 {
     const QPointer<OlvIconButton> tile(new FleetingTile);
-    QVERIFY(act(tile, doubleClick));
+    QVERIFY(act(tile, doubleClick()));
     QVERIFY(!tile);
 }
 
@@ -161,7 +157,7 @@ void TestAccessibleIconButton::tellsOfChanges()
     tile.setCheckable(true);
     QCOMPARE(assistant.heardOf(&tile),
              (QStringList{ QStringLiteral("name Post"), QStringLiteral("state checkable") }));
-    QVERIFY(act(&tile, toggle));
+    QVERIFY(act(&tile, toggle()));
     QCOMPARE(assistant.heardOf(&tile),
              (QStringList{ QStringLiteral("state pressed"), QStringLiteral("state pressed"),
                            QStringLiteral("state checked") }));

@@ -11,9 +11,6 @@
 
 namespace {
 
-const QString press = QAccessibleActionInterface::pressAction();
-const QString toggle = QAccessibleActionInterface::toggleAction();
-
 bool isResting(OlvSwitch &widget)
 {
     return QAbstractEventDispatcher::instance()->registeredTimers(&widget).isEmpty();
@@ -45,7 +42,8 @@ void TestAccessibleSwitch::isCheckableAndChecked()
     QVERIFY(!accessible(&widget)->state().checked);
     widget.setProperty("switch", true);
     QVERIFY(accessible(&widget)->state().checked);
-    QCOMPARE(accessible(&widget)->actionInterface()->actionNames(), (QStringList{ toggle, press }));
+    QCOMPARE(accessible(&widget)->actionInterface()->actionNames(),
+             (QStringList{ toggle(), press() }));
 }
 
 void TestAccessibleSwitch::isCalledAsTheApplicationSays()
@@ -59,8 +57,8 @@ void TestAccessibleSwitch::isCalledAsTheApplicationSays()
 void TestAccessibleSwitch::isToggled_data()
 {
     QTest::addColumn<QString>("action");
-    QTest::newRow("toggle") << toggle;
-    QTest::newRow("press") << press;
+    QTest::newRow("toggle") << toggle();
+    QTest::newRow("press") << press();
 }
 
 void TestAccessibleSwitch::isToggled()
@@ -81,10 +79,10 @@ void TestAccessibleSwitch::ignoresTogglesUntilItHasSwitched()
 {
     OlvSwitch widget;
     QSignalSpy changed(&widget, &OlvSwitch::changed);
-    QVERIFY(act(&widget, toggle));
-    QVERIFY(act(&widget, toggle));
+    QVERIFY(act(&widget, toggle()));
+    QVERIFY(act(&widget, toggle()));
     QTRY_VERIFY_WITH_TIMEOUT(widget.property("moveCount").toInt() > 0, 20000);
-    QVERIFY(act(&widget, toggle));
+    QVERIFY(act(&widget, toggle()));
     QVERIFY(changed.wait(20000));
     QVERIFY(isResting(widget));
     QVERIFY(widget.getValue().toBool());
@@ -95,7 +93,7 @@ void TestAccessibleSwitch::ignoresTogglesBehindAClick()
     OlvSwitch widget;
     QSignalSpy changed(&widget, &OlvSwitch::changed);
     Mouse::release(&widget);
-    QVERIFY(act(&widget, toggle));
+    QVERIFY(act(&widget, toggle()));
     QVERIFY(changed.wait(20000));
     QVERIFY(isResting(widget));
     QVERIFY(widget.getValue().toBool());
@@ -105,7 +103,7 @@ void TestAccessibleSwitch::disabledIsNotToggled()
 {
     OlvSwitch widget;
     widget.setEnabled(false);
-    accessible(&widget)->actionInterface()->doAction(toggle);
+    accessible(&widget)->actionInterface()->doAction(toggle());
     QVERIFY(isResting(widget));
 }
 
@@ -115,7 +113,7 @@ void TestAccessibleSwitch::survivesDeletionByItsSlots()
     const QPointer<OlvSwitch> widget(new OlvSwitch);
     widget->show();
     connect(widget, &OlvSwitch::valueChanged, this, [&] { delete widget; });
-    QVERIFY(act(widget, toggle));
+    QVERIFY(act(widget, toggle()));
     QTRY_VERIFY_WITH_TIMEOUT(!widget, 20000);
 }
 
@@ -128,7 +126,7 @@ void TestAccessibleSwitch::tellsWhenItHasSwitched()
     connect(&widget, &OlvSwitch::valueChanged, this,
             [&] { toldBefore = assistant.heardOf(&widget); });
     QSignalSpy changed(&widget, &OlvSwitch::changed);
-    QVERIFY(act(&widget, toggle));
+    QVERIFY(act(&widget, toggle()));
     QCOMPARE(assistant.heardOf(&widget), QStringList());
     QVERIFY(changed.wait(20000));
     QCOMPARE(toldBefore, QStringList{ QStringLiteral("state checked") });

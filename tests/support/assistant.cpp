@@ -11,7 +11,11 @@
 
 namespace {
 
-QMultiHash<const QObject *, QString> heard;
+QMultiHash<const QObject *, QString> &heard()
+{
+    static QMultiHash<const QObject *, QString> updates;
+    return updates;
+}
 
 /** Empty for states that Qt tells of itself, such as that of the active window. */
 QString inWords(QAccessible::State state)
@@ -33,24 +37,24 @@ void hear(QAccessibleEvent *event)
 {
     switch (event->type()) {
     case QAccessible::NameChanged:
-        heard.insert(event->object(), QStringLiteral("name ") + nameOf(event->object()));
+        heard().insert(event->object(), QStringLiteral("name ") + nameOf(event->object()));
         break;
     case QAccessible::StateChanged: {
         const QString words =
             inWords(static_cast<QAccessibleStateChangeEvent *>(event)->changedStates());
         if (!words.isEmpty()) {
-            heard.insert(event->object(), words);
+            heard().insert(event->object(), words);
         }
         break;
     }
     case QAccessible::ValueChanged:
-        heard.insert(event->object(),
-                     QStringLiteral("value ")
-                         + static_cast<QAccessibleValueChangeEvent *>(event)->value().toString());
+        heard().insert(event->object(),
+                       QStringLiteral("value ")
+                           + static_cast<QAccessibleValueChangeEvent *>(event)->value().toString());
         break;
     case QAccessible::TextUpdated: {
         const auto *update = static_cast<QAccessibleTextUpdateEvent *>(event);
-        heard.insert(
+        heard().insert(
             event->object(),
             QStringLiteral("text %1 > %2").arg(update->textRemoved(), update->textInserted()));
         break;
@@ -71,7 +75,7 @@ void setActive(bool active)
 Assistant::Assistant()
     : m_before(QAccessible::installUpdateHandler(hear))
 {
-    heard.clear();
+    heard().clear();
     setActive(true);
 }
 
@@ -83,9 +87,9 @@ Assistant::~Assistant()
 
 QStringList Assistant::heardOf(const QObject *object)
 {
-    QStringList lines = heard.values(object); // the latest first
+    QStringList lines = heard().values(object); // the latest first
     std::reverse(lines.begin(), lines.end());
-    heard.remove(object);
+    heard().remove(object);
     return lines;
 }
 
@@ -97,6 +101,21 @@ QAccessibleInterface *accessible(QObject *object)
 QString nameOf(QObject *object)
 {
     return accessible(object)->text(QAccessible::Name);
+}
+
+QString press()
+{
+    return QAccessibleActionInterface::pressAction();
+}
+
+QString toggle()
+{
+    return QAccessibleActionInterface::toggleAction();
+}
+
+QString doubleClick()
+{
+    return QStringLiteral("doubleClick");
 }
 
 bool act(QObject *object, const QString &action)

@@ -30,5 +30,9 @@ private:
 QAccessibleInterface *accessible(QObject *object);
 /** Its name. */
 QString nameOf(QObject *object);
+/** The names of actions. */
+QString press();
+QString toggle();
+QString doubleClick();
 /** Does an action through it; false when it has no such action. */
 bool act(QObject *object, const QString &action);
