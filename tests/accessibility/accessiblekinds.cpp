@@ -4,6 +4,7 @@
 #include <OlvWidgets/OlvWidgets>
 
 #include <QPushButton>
+#include <QTest>
 
 namespace {
 
@@ -61,6 +62,13 @@ const QVector<AccessibleKind> &accessibleKinds()
           } },
     };
     return all;
+}
+
+bool waitForDeferred()
+{
+    bool isDone = false;
+    OlvLastOnceFunction([&] { isDone = true; }); // calls come in the order they were put off
+    return QTest::qWaitFor([&] { return isDone; }, 60000);
 }
 
 void callAll(QAccessibleInterface *interface)

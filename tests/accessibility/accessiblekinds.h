@@ -18,5 +18,8 @@ struct AccessibleKind
 /** All of them. */
 const QVector<AccessibleKind> &accessibleKinds();
 
+/** Waits for what the widgets have put off: the helpers of a panel that has gone are freed then. */
+bool waitForDeferred();
+
 /** Calls everything that an interface has; what it says is none of this function's business. */
 void callAll(QAccessibleInterface *interface);

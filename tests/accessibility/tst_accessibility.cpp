@@ -58,6 +58,7 @@ class TestAccessibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void hasItsRole_data();
     void hasItsRole();
     void knowsItsPlaceInTheTree_data();
@@ -82,6 +83,11 @@ private Q_SLOTS:
     void tellsNothingTwice();
     void groupsThePartsOfALineEdit();
 };
+
+void TestAccessibility::cleanup()
+{
+    QVERIFY(waitForDeferred());
+}
 
 void TestAccessibility::hasItsRole_data()
 {

@@ -92,6 +92,7 @@ void TestAccessibilityLifetime::standsTheEndOfItsWidget()
         m_interface = QAccessible::queryAccessibleInterface(widget);
         delete widget;
     }
+    QVERIFY(waitForDeferred());
     QCOMPARE(m_ends, accessibleKinds().size());
 }
 
@@ -112,6 +113,7 @@ void TestAccessibilityLifetime::outlivesItsWidget()
         QVERIFY(!interface->object());
         expectNothingOf(interface);
     }
+    QVERIFY(waitForDeferred());
 }
 
 QTEST_APPLESS_MAIN(TestAccessibilityLifetime)
