@@ -40,6 +40,7 @@ private Q_SLOTS:
     void fitsCharactersBelowTheWidth_data();
     void fitsCharactersBelowTheWidth();
     void measuresSingleCharactersWithoutKerning();
+    void measuresCharactersAtTheEdgeOfLatin1();
     void addsUpTheWidthsOfLines_data();
     void addsUpTheWidthsOfLines();
     void measuresLinesWithKerning();
@@ -147,6 +148,17 @@ void TestTextFitting::measuresSingleCharactersWithoutKerning()
     QVERIFY2(metrics.horizontalAdvance(text) < single, "the font kerns these letters");
     QCOMPARE(OlvGlobal::accommodate(text, single, font), 5);
     QCOMPARE(OlvGlobal::accommodate(text, single + 1, font), 6);
+}
+
+void TestTextFitting::measuresCharactersAtTheEdgeOfLatin1()
+{
+    for (const QChar character : { QChar(0xfe), QChar(0xff), QChar(0x100), QChar(0x101) }) {
+        const QString text(4, character);
+        QCOMPARE(QFontMetrics(fixedFont()).horizontalAdvance(character), characterWidth());
+        for (int characters = 0; characters <= 4; ++characters) {
+            QCOMPARE(OlvGlobal::accommodate(text, widthFor(characters), fixedFont()), characters);
+        }
+    }
 }
 
 void TestTextFitting::addsUpTheWidthsOfLines_data()
