@@ -30,6 +30,14 @@ QByteArray windowList()
     return list.readAllStandardOutput();
 }
 
+quintptr activeWindow()
+{
+    QProcess query;
+    query.start(QStringLiteral("xdotool"), { QStringLiteral("getactivewindow") });
+    query.waitForFinished(patience);
+    return query.readAllStandardOutput().trimmed().toULongLong();
+}
+
 int colorCount(const QImage &image)
 {
     QSet<QRgb> colors;
@@ -250,7 +258,10 @@ void TestExamplesOnServer::notesComeBackWithTheirTexts()
     start(QStringLiteral(OLV_STICKYNOTE));
     QTRY_VERIFY_WITH_TIMEOUT(findWindow(QStringLiteral("Note")), patience);
     QTRY_VERIFY_WITH_TIMEOUT(isInviting(), patience);
+    // a note is shown first, and put into its place then
+    QTRY_COMPARE_WITH_TIMEOUT(m_input.geometryOf(m_window).topLeft(), QPoint(120, 90), patience);
     click({ 100, 120 });
+    QTRY_COMPARE_WITH_TIMEOUT(activeWindow(), m_window, patience);
     const quint32 symbolOfM = 'm';
     m_input.pressKey(symbolOfM);
     m_input.releaseKey(symbolOfM);
