@@ -1,13 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/foundation.h>
 
+#include <utility>
+
 OlvPluginEventFilter::OlvPluginEventFilter(QObject *parent)
     : QObject(parent)
 {
     addObject(parent);
 }
 
-OlvPluginEventFilter::~OlvPluginEventFilter() = default;
+OlvPluginEventFilter::~OlvPluginEventFilter()
+{
+    // What listeners hold may send events when it goes, and add further listeners. Until then the
+    // filter watches: it must have a table to look into, an empty one.
+    while (!m_listeners.isEmpty()) {
+        const auto listeners = std::exchange(m_listeners, {});
+    }
+}
 
 void OlvPluginEventFilter::addObject(QObject *object)
 {
@@ -19,7 +28,9 @@ void OlvPluginEventFilter::addObject(QObject *object)
 void OlvPluginEventFilter::addEventListener(QEvent::Type type,
                                             std::function<void(QEvent *)> listener)
 {
-    m_listeners.insert(type, listener);
+    // the one before goes with the argument, once the table is in order: what it holds may come
+    // back
+    m_listeners[type].swap(listener);
 }
 
 bool OlvPluginEventFilter::eventFilter(QObject *watched, QEvent *event)

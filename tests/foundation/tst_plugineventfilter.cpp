@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -32,6 +33,12 @@ bool send(QObject *receiver, QEvent::Type type)
     return QCoreApplication::sendEvent(receiver, &event);
 }
 
+/** Something to be held by a listener that does @p last when it is let go of. */
+std::shared_ptr<void> withLastWord(const std::function<void()> &last)
+{
+    return std::shared_ptr<void>(nullptr, [last](void *) { last(); });
+}
+
 } // namespace
 
 class TestPluginEventFilter : public QObject
@@ -56,6 +63,10 @@ private Q_SLOTS:
     void listenerMayDestroyTheFilter();
     void listenerMayDestroyTheWatchedObject();
     void listenerMaySendTheSameEventAgain();
+    void whatAListenerHoldsMaySendEventsWhenTheFilterGoes();
+    void whatAListenerHoldsMayAddOneWhenTheFilterGoes();
+    void whatAListenerHoldsMayChangeTheTableWhenItIsReplaced();
+    void whatAListenerHoldsMayDestroyTheFilterWhenItIsReplaced();
 };
 
 void TestPluginEventFilter::hasNoMetaObjectOfItsOwn()
@@ -273,6 +284,71 @@ void TestPluginEventFilter::listenerMaySendTheSameEventAgain()
     });
     send(&receiver, first);
     QCOMPARE(calls, 4);
+}
+
+void TestPluginEventFilter::whatAListenerHoldsMaySendEventsWhenTheFilterGoes()
+{
+    Receiver receiver;
+    auto *filter = new OlvPluginEventFilter(&receiver);
+    int calls = 0;
+    for (int i = 0; i < 100; ++i) {
+        // each finds a table that is emptied already, or a filter that is no more
+        const auto held = withLastWord([&] { send(&receiver, first); });
+        filter->addEventListener(QEvent::Type(QEvent::User + 10 + i), [held](QEvent *) {});
+    }
+    filter->addEventListener(first, [&](QEvent *) { ++calls; });
+    receiver.received.clear();
+    delete filter;
+    QCOMPARE(calls, 0);
+    QCOMPARE(receiver.received.count(first), 100);
+}
+
+void TestPluginEventFilter::whatAListenerHoldsMayAddOneWhenTheFilterGoes()
+{
+    Receiver receiver;
+    auto *filter = new OlvPluginEventFilter(&receiver);
+    {
+        const auto held = withLastWord([&] {
+            const auto heldToo = withLastWord([&] { send(&receiver, second); });
+            filter->addEventListener(first, [heldToo](QEvent *) {});
+        });
+        filter->addEventListener(first, [held](QEvent *) {});
+    }
+    receiver.received.clear();
+    delete filter;
+    QCOMPARE(receiver.received.count(second), 1);
+}
+
+void TestPluginEventFilter::whatAListenerHoldsMayChangeTheTableWhenItIsReplaced()
+{
+    Receiver receiver;
+    auto *filter = new OlvPluginEventFilter(&receiver);
+    QStringList calls;
+    {
+        const auto held = withLastWord([&] {
+            for (int type = QEvent::User + 10; type < QEvent::User + 2000; ++type) {
+                filter->addEventListener(QEvent::Type(type), [](QEvent *) {});
+            }
+            send(&receiver, first);
+        });
+        filter->addEventListener(first, [held](QEvent *) {});
+    }
+    filter->addEventListener(first, [&](QEvent *) { calls.append(QStringLiteral("new")); });
+    QCOMPARE(calls, QStringList({ QStringLiteral("new") }));
+    send(&receiver, first);
+    QCOMPARE(calls.size(), 2);
+}
+
+void TestPluginEventFilter::whatAListenerHoldsMayDestroyTheFilterWhenItIsReplaced()
+{
+    Receiver receiver;
+    const QPointer<OlvPluginEventFilter> filter(new OlvPluginEventFilter(&receiver));
+    {
+        const auto held = withLastWord([&] { delete filter; });
+        filter->addEventListener(first, [held](QEvent *) {});
+    }
+    filter->addEventListener(first, [](QEvent *) {});
+    QVERIFY(filter.isNull());
 }
 
 QTEST_GUILESS_MAIN(TestPluginEventFilter)
