@@ -48,7 +48,8 @@ void moveTo(QWidget *widget, QPoint position)
 int deltaOf(const QWheelEvent *event)
 {
     const QPoint angle = event->angleDelta();
-    return qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y();
+    // in more bits, for the least int has no positive counterpart
+    return qAbs<qint64>(angle.x()) > qAbs<qint64>(angle.y()) ? angle.x() : angle.y();
 }
 
 } // namespace
@@ -257,7 +258,7 @@ void OlvGridLayout::arrange()
     const qint64 available = qint64(width()) - m_margin;
     qint64 right = 0; // of what stands last in the row
     qint64 top = m_margin;
-    int rowHeight = 0;
+    qint64 rowHeight = 0;
     // whoever hears of a move may delete another widget, or the grid
     const QPointer<OlvGridLayout> self(this);
     const QList<QWidget *> widgets = m_widgets;
@@ -283,7 +284,7 @@ void OlvGridLayout::arrange()
         moveTo(widget, QPoint(toPixels(left), toPixels(top)));
         const QSize size = isAlive(widget) ? widget->size() : QSize(0, 0);
         right = isNewRow ? left + size.width() : end;
-        rowHeight = qMax(rowHeight, size.height());
+        rowHeight = qMax<qint64>(rowHeight, size.height());
     }
     if (self) {
         resize(width(), toPixels(top + rowHeight + m_margin));

@@ -2,7 +2,8 @@
 #include <OlvWidgets/foundation.h>
 #include <OlvWidgets/frame.h>
 
-#include <QMouseEvent>
+#include "foundation/mouseposition_p.h"
+
 #include <QVariant>
 
 namespace {
@@ -13,7 +14,20 @@ constexpr char pressPosProperty[] = "PressPos";
 
 QPoint positionOf(const QEvent *event)
 {
-    return static_cast<const QMouseEvent *>(event)->pos();
+    return mousePosition(static_cast<const QMouseEvent *>(event));
+}
+
+/** A coordinate moved by a drag; the property that says from where may hold any number. */
+int moved(int coordinate, int to, int from)
+{
+    constexpr qint64 farthest = 1 << 29;
+    return int(qBound(-farthest, qint64(coordinate) + to - from, farthest));
+}
+
+/** QRect::width() cannot tell the width of an area that spans more than an int. */
+bool isOfNoWidth(const QRect &area)
+{
+    return qint64(area.right()) - area.left() + 1 == 0;
 }
 
 void startMove(OlvMoveWidget *helper, QPoint position)
@@ -30,7 +44,10 @@ void startMove(OlvMoveWidget *helper, QPoint position)
 void follow(OlvMoveWidget *helper, QWidget *target, QPoint position)
 {
     if (helper->property(canMoveProperty).toBool()) {
-        target->move(target->pos() + position - helper->property(pressPosProperty).toPoint());
+        const QPoint pressed = helper->property(pressPosProperty).toPoint();
+        const QPoint place = target->pos();
+        target->move(moved(place.x(), position.x(), pressed.x()),
+                     moved(place.y(), position.y(), pressed.y()));
     }
 }
 
@@ -46,7 +63,7 @@ void OlvMoveWidget::setMoveArea(QRect area)
     if (!target) {
         return;
     }
-    if (area.width() == 0) {
+    if (isOfNoWidth(area)) {
         area = target->rect();
     }
     if (!property(moveAreaProperty).isValid()) {

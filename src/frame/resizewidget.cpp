@@ -2,8 +2,7 @@
 #include <OlvWidgets/frame.h>
 
 #include "foundation/childataddress_p.h"
-
-#include <QMouseEvent>
+#include "foundation/mouseposition_p.h"
 
 namespace {
 /** The handle is at the bottom right: the name is the one that the property has always had. */
@@ -44,7 +43,7 @@ bool OlvResizeWidget::eventFilter(QObject *watched, QEvent *event)
     if (!handle) {
         return passOn;
     }
-    QPoint moved = static_cast<QMouseEvent *>(event)->pos() - handle->pressPosition();
+    QPoint moved = mousePosition(static_cast<QMouseEvent *>(event)) - handle->pressPosition();
     if (handle->type() == OlvResizeItem::RightEdge) {
         moved.setY(0);
     } else if (handle->type() == OlvResizeItem::BottomEdge) {

@@ -39,6 +39,8 @@ void SwitchRound::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int last = height() - 1 - m_inset;
-    Shape::ellipse(QRect(QPoint(m_inset, m_inset), QPoint(last, last))).fill(painter, m_color);
+    // an application may have set any number
+    const int inset = qBound(-QWIDGETSIZE_MAX, m_inset, QWIDGETSIZE_MAX);
+    const int last = height() - 1 - inset;
+    Shape::ellipse(QRect(QPoint(inset, inset), QPoint(last, last))).fill(painter, m_color);
 }

@@ -5,6 +5,9 @@
 #include <OlvPluginEventFilter>
 
 #include <QTest>
+#include <QtMath>
+
+#include <limits>
 
 namespace {
 
@@ -64,6 +67,8 @@ private Q_SLOTS:
     void startsNoMoveOfAMaximisedWidget();
     void goesOnWithAMoveThatBeganBefore();
     void survivesMisuse();
+    void survivesNumbersThatNoWidgetHas_data();
+    void survivesNumbersThatNoWidgetHas();
     void ownsNothingOfTheTarget();
 };
 
@@ -294,6 +299,40 @@ void TestMoveWidget::ownsNothingOfTheTarget()
     mover->setMoveArea(QRect());
     delete target;
     QVERIFY(mover.isNull());
+}
+
+void TestMoveWidget::survivesNumbersThatNoWidgetHas_data()
+{
+    QTest::addColumn<QPoint>("pressed");
+    QTest::addColumn<QPointF>("to");
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    QTest::newRow("least") << QPoint(least, least) << QPointF(9, 9);
+    QTest::newRow("most") << QPoint(most, most) << QPointF(-9, -9);
+    QTest::newRow("infinite") << QPoint(5, 5) << QPointF(qInf(), -qInf());
+    QTest::newRow("no number") << QPoint(5, 5) << QPointF(qQNaN(), qQNaN());
+}
+
+void TestMoveWidget::survivesNumbersThatNoWidgetHas()
+{
+    QFETCH(QPoint, pressed);
+    QFETCH(QPointF, to);
+    Target target;
+    OlvMoveWidget mover(&target);
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    mover.setMoveArea(QRect(QPoint(least, least), QPoint(most, most)));
+    QVERIFY(mover.property("MoveArea").toRect().right() == most);
+    Mouse::press(&target, to);
+    Mouse::press(&target, { 5, 5 });
+    QVERIFY(mover.property("CanMove").toBool());
+    mover.setProperty("PressPos", pressed);
+    Mouse::move(&target, to);
+    // far off, but where there is room to go on
+    QVERIFY(qAbs(qint64(target.x())) <= 1 << 29);
+    QVERIFY(qAbs(qint64(target.y())) <= 1 << 29);
+    Mouse::release(&target);
+    QVERIFY(!mover.property("CanMove").toBool());
 }
 
 QTEST_MAIN(TestMoveWidget)
