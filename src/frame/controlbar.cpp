@@ -78,15 +78,20 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
 
     // Connected after the signal of each button, which tells the click before the other one
     // changes; that change is silent.
-    const QPointer<QPushButton> bottom(m_buttons.at(tips.size() + Bottom));
-    const QPointer<QPushButton> top(m_buttons.at(tips.size() + Top));
-    const auto exclude = [](QPushButton *clicked, QPushButton *other) {
-        if (clicked && other && clicked->isChecked() && other->isChecked()) {
-            other->setChecked(false);
-        }
+    QPushButton *bottom = m_buttons.at(tips.size() + Bottom);
+    QPushButton *top = m_buttons.at(tips.size() + Top);
+    const auto exclude = [](QPushButton *clicked, QPushButton *excluded) {
+        // a slot may have deleted either; and one that is being deleted is a button no more
+        return [one = QPointer<QObject>(clicked), two = QPointer<QObject>(excluded)] {
+            const auto *button = qobject_cast<QPushButton *>(one.data());
+            auto *other = qobject_cast<QPushButton *>(two.data());
+            if (button && other && button->isChecked() && other->isChecked()) {
+                other->setChecked(false);
+            }
+        };
     };
-    connect(bottom, &QPushButton::clicked, this, [=] { exclude(bottom, top); });
-    connect(top, &QPushButton::clicked, this, [=] { exclude(top, bottom); });
+    connect(bottom, &QPushButton::clicked, this, exclude(bottom, top));
+    connect(top, &QPushButton::clicked, this, exclude(top, bottom));
 }
 
 QList<QChar> OlvControlBar::formIcons()

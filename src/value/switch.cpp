@@ -51,9 +51,17 @@ OlvSwitch::OlvSwitch(QWidget *parent)
 
     auto *filter = new OlvPluginEventFilter(this);
     filter->addObject(knob);
-    filter->addEventListener(QEvent::Resize, [this](QEvent *) { fitKnob(); });
-    filter->addEventListener(QEvent::MouseButtonRelease, [this](QEvent *) { toggle(); });
-    filter->addEventListener(QEvent::Timer, [this](QEvent *) { step(); });
+    const auto listen = [&](QEvent::Type type, void (OlvSwitch::*reaction)()) {
+        // the filter goes after the switch: an event may come while only the QWidget is left of it
+        filter->addEventListener(type, [self = QPointer<QObject>(this), reaction](QEvent *) {
+            if (auto *alive = qobject_cast<OlvSwitch *>(self.data())) {
+                (alive->*reaction)();
+            }
+        });
+    };
+    listen(QEvent::Resize, &OlvSwitch::fitKnob);
+    listen(QEvent::MouseButtonRelease, &OlvSwitch::toggle);
+    listen(QEvent::Timer, &OlvSwitch::step);
 }
 
 QVariant OlvSwitch::getValue()

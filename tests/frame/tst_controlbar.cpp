@@ -79,6 +79,7 @@ private Q_SLOTS:
     void survivesDeletionFromItsSignals_data();
     void survivesDeletionFromItsSignals();
     void survivesTheLossOfAButton();
+    void survivesAClickWhileAButtonIsDestroyed();
 };
 
 void TestControlBar::statesHaveTheirNumbers()
@@ -371,6 +372,18 @@ void TestControlBar::survivesTheLossOfAButton()
     QPushButton *top = bar.windowButton(OlvControlBar::Top);
     delete bar.windowButton(OlvControlBar::Bottom);
     top->click();
+    QCOMPARE(bar.record, QStringList({ QStringLiteral("changed 2 1") }));
+}
+
+void TestControlBar::survivesAClickWhileAButtonIsDestroyed()
+{
+    Bar bar;
+    QPushButton *top = bar.windowButton(OlvControlBar::Top);
+    QPushButton *bottom = bar.windowButton(OlvControlBar::Bottom);
+    bottom->setChecked(true);
+    connect(bottom, &QObject::destroyed, top, &QPushButton::click);
+    delete bottom;
+    QVERIFY(top->isChecked());
     QCOMPARE(bar.record, QStringList({ QStringLiteral("changed 2 1") }));
 }
 
