@@ -96,8 +96,8 @@ private:
     QPoint m_pressPosition;
     int m_width;
     QPointer<QWidget> m_target;
-    QPointer<OlvResizeItem> m_first;
-    QPointer<OlvResizeItem> m_second;
+    QPointer<QWidget> m_first;
+    QPointer<QWidget> m_second;
 };
 
 /**

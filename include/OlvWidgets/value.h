@@ -57,7 +57,7 @@ private:
     int m_progress = -1;
     int m_pressX = 0;
     int m_pressY = 0;
-    QPointer<OlvSlider> m_slider;
+    QPointer<QWidget> m_slider;
 };
 
 /**

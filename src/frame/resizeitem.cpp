@@ -2,7 +2,7 @@
 #include <OlvWidgets/foundation.h>
 #include <OlvWidgets/frame.h>
 
-#include <QMouseEvent>
+#include "foundation/mouseposition_p.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, 
                              OlvResizeItem *first, OlvResizeItem *second)
     : QWidget(target)
     , m_type(type)
-    , m_width(width)
+    , m_width(qBound(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX))
     , m_target(target)
     , m_first(first)
     , m_second(second)
@@ -38,7 +38,7 @@ OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, 
     }
     setCursor(cursorOf(type));
     if (type == Corner) {
-        resize(cornerThickness * width, cornerThickness * width);
+        resize(cornerThickness * m_width, cornerThickness * m_width);
     }
     place();
     OlvLastOnceFunction([handle = QPointer<OlvResizeItem>(this)] {
@@ -60,12 +60,13 @@ QPoint OlvResizeItem::pressPosition() const
 
 OlvResizeItem *OlvResizeItem::firstPartner() const
 {
-    return m_first;
+    // what is left of a handle that is being destroyed is no handle any more
+    return dynamic_cast<OlvResizeItem *>(m_first.data());
 }
 
 OlvResizeItem *OlvResizeItem::secondPartner() const
 {
-    return m_second;
+    return dynamic_cast<OlvResizeItem *>(m_second.data());
 }
 
 void OlvResizeItem::setPartners(OlvResizeItem *first, OlvResizeItem *second)
@@ -98,15 +99,15 @@ void OlvResizeItem::place()
 void OlvResizeItem::placeAll()
 {
     place();
-    if (m_first) {
-        m_first->place();
+    if (OlvResizeItem *first = firstPartner()) {
+        first->place();
     }
-    if (m_second) {
-        m_second->place();
+    if (OlvResizeItem *second = secondPartner()) {
+        second->place();
     }
 }
 
 void OlvResizeItem::mousePressEvent(QMouseEvent *event)
 {
-    m_pressPosition = event->pos();
+    m_pressPosition = mousePosition(event);
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
+#include "foundation/mouseposition_p.h"
 #include "foundation/shape_p.h"
 #include "value/slidermetrics_p.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace {
@@ -17,7 +17,7 @@ constexpr int fullProgress = 100;
 
 SliderRound::SliderRound(QWidget *slider)
     : QWidget(slider)
-    , m_slider(dynamic_cast<OlvSlider *>(slider))
+    , m_slider(slider)
 {
     if (slider) {
         m_maxX = slider->width() - SliderMetrics::pressedKnobSize;
@@ -61,8 +61,9 @@ void SliderRound::mousePressEvent(QMouseEvent *event)
     setGeometry(x() - SliderMetrics::knobInset, 0, SliderMetrics::pressedKnobSize,
                 SliderMetrics::pressedKnobSize);
     m_pressed = true;
-    m_pressY = qRound(event->localPos().y());
-    m_pressX = qRound(event->localPos().x());
+    const QPoint position = mousePosition(event);
+    m_pressY = position.y();
+    m_pressX = position.x();
 }
 
 void SliderRound::mouseMoveEvent(QMouseEvent *event)
@@ -70,26 +71,28 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
     if (!m_pressed) {
         return;
     }
-    // wide enough for any position that an event can carry
-    const qint64 newX = qint64(qRound(event->localPos().x())) - m_pressX + x();
+    const qint64 newX = qint64(mousePosition(event).x()) - m_pressX + x();
+    // setMaxX() takes any number
+    const int maxX = qBound(-QWIDGETSIZE_MAX, m_maxX, QWIDGETSIZE_MAX);
     int progress = 0;
-    if (newX > m_maxX) {
+    if (newX > maxX) {
         // a slider narrower than the knob ends left of its start: every drag ends here then
-        move(m_maxX, 0);
+        move(maxX, 0);
         progress = fullProgress;
     } else if (newX < 0) {
         move(0, 0);
     } else {
         move(int(newX), 0);
         // a slider as wide as the knob has room for 0 alone
-        progress = m_maxX > 0 ? int(newX * fullProgress / m_maxX) : 0;
+        progress = maxX > 0 ? int(newX * fullProgress / maxX) : 0;
     }
     if (progress == m_progress) {
         return;
     }
     m_progress = progress;
-    if (m_slider) {
-        m_slider->setValue(progress);
+    // asked each time: what is left of a slider that is being destroyed is no slider any more
+    if (auto *slider = dynamic_cast<OlvSlider *>(m_slider.data())) {
+        slider->setValue(progress);
     }
 }
 

@@ -5,6 +5,9 @@
 #include <OlvResizeWidget>
 
 #include <QTest>
+#include <QtMath>
+
+#include <limits>
 
 namespace {
 
@@ -72,6 +75,8 @@ private Q_SLOTS:
     void handlesStayUntilReset();
     void withoutATargetNothingIsPlaced();
     void survivesMisuse();
+    void survivesNumbersThatNoWidgetHas();
+    void survivesAResetWhileAHandleIsDestroyed();
     void survivesATargetThatDeletesItsHandles();
 };
 
@@ -405,6 +410,44 @@ void TestResizeWidget::survivesATargetThatDeletesItsHandles()
     QVERIFY(!resizer.eventFilter(corner, &move));
     QVERIFY(watched.isNull());
     QCOMPARE(target.size(), QSize(408, 308));
+}
+
+void TestResizeWidget::survivesNumbersThatNoWidgetHas()
+{
+    QWidget target;
+    target.setMaximumSize(2000, 2000);
+    for (const int width : { std::numeric_limits<int>::min(), std::numeric_limits<int>::max() }) {
+        target.resize(400, 300);
+        OlvResizeWidget resizer(&target, width);
+        resizer.reset();
+    }
+    const OlvResizeWidget resizer(&target, 5);
+    const Handles handles = handlesOf(target);
+    for (OlvResizeItem *handle : { handles.right, handles.bottom, handles.corner }) {
+        drag(handle, { 1, 1 }, { qInf(), qInf() });
+        drag(handle, { qInf(), -qInf() }, { -qInf(), qInf() });
+        drag(handle, { qQNaN(), qQNaN() }, { 1e18, -1e18 });
+    }
+    QVERIFY(target.width() <= 2000 && target.height() <= 2000);
+}
+
+void TestResizeWidget::survivesAResetWhileAHandleIsDestroyed()
+{
+    QWidget target;
+    target.resize(400, 300);
+    OlvResizeWidget resizer(&target, 5);
+    const Handles handles = handlesOf(target);
+    OlvResizeItem *partner = handles.corner;
+    // the slot of another's: what is left of the handle is a plain widget
+    connect(handles.right, &QObject::destroyed, this, [&] {
+        target.resize(200, 100);
+        resizer.reset();
+        partner = handles.corner->firstPartner();
+    });
+    delete handles.right;
+    QCOMPARE(partner, nullptr);
+    QCOMPARE(handles.corner->geometry(), QRect(190, 90, 10, 10));
+    QCOMPARE(handles.bottom->geometry(), QRect(0, 95, 190, 5));
 }
 
 QTEST_MAIN(TestResizeWidget)
