@@ -31,6 +31,12 @@ struct OlvShortcutEdit::Capture
     int key = 0;
     bool recording = false;
 
+    /** The key that was noted; Qt::Key_unknown, which no shortcut can have, for what is no key. */
+    Qt::Key qtKey() const
+    {
+        return key >= 0 && key < Qt::Key_unknown ? Qt::Key(key) : Qt::Key_unknown;
+    }
+
     /** The flag of a modifier; null for every other key. */
     bool *modifier(int pressed)
     {
@@ -158,7 +164,7 @@ void OlvShortcutEdit::keyReleaseEvent(QKeyEvent *event)
         *modifier = false;
     } else if (m_capture->key != Qt::Key_unknown) {
         const QPointer<OlvShortcutEdit> self(this);
-        setShortcut(new OlvShortcut(Qt::Key(m_capture->key), m_capture->ctrl, m_capture->shift,
+        setShortcut(new OlvShortcut(m_capture->qtKey(), m_capture->ctrl, m_capture->shift,
                                     m_capture->alt, m_capture->meta));
         if (!self) {
             return;
