@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dice.h"
+
+#include <functional>
+#include <memory>
+
+/**
+ * @file storm.h
+ * What the storm programs share: each makes thousands of random events an episode, out of a seed,
+ * and fails when one crashes the program, stalls it, or breaks what the documentation says.
+ */
+
+namespace Storm {
+
+/** The world of one seed. */
+class Episode
+{
+public:
+    virtual ~Episode();
+    /** One event: an action, a call, an event of Qt's. */
+    virtual void step() = 0;
+
+protected:
+    Episode() = default;
+
+private:
+    Q_DISABLE_COPY(Episode)
+};
+
+using Maker = std::function<std::unique_ptr<Episode>(Dice &dice)>;
+
+/**
+ * Runs episodes of @p family as the command line says, and returns the program's exit status: first
+ * those of the file of regressions, then one seed after the other until the time or the number of
+ * events is up.
+ */
+int run(int argc, char **argv, const char *family, const Maker &make);
+
+/** Unless @p holds, ends the program with the seed and the number of the event. */
+void check(bool holds, const char *rule);
+
+/** Moves the clock on by @p milliseconds, and has Qt handle what is due and what was posted. */
+void processEvents(int milliseconds);
+
+} // namespace Storm

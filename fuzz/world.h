@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "storm.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+class World;
+
+/** What a storm knows of one family of widgets; see World. */
+class Family
+{
+public:
+    virtual ~Family();
+
+    /** A new widget of the family in @p parent. */
+    virtual QWidget *make(World &world, QWidget *parent) = 0;
+    /** Calls one public method of @p widget, or of a helper of its, with hostile arguments. */
+    virtual void call(World &world, QWidget *widget) = 0;
+    /** The dynamic properties that the widgets keep. */
+    virtual QVector<QByteArray> properties() const = 0;
+    /** Checks what always holds for @p widget. */
+    virtual void check(World &world, QWidget *widget);
+    /** Puts a text of a megabyte into @p widget, or the ordinary one that takes its place. */
+    virtual void setText(QWidget *widget, const QString &text);
+
+protected:
+    Family() = default;
+
+private:
+    Q_DISABLE_COPY(Family)
+};
+
+/**
+ * A few windows full of widgets of one family, to which anything happens. Slots on all of their
+ * signals make more of it happen while the widget is still at work: they delete it, its parent, its
+ * helpers or its neighbours, send further events, or run the event loop.
+ */
+class World : public QObject, public Storm::Episode
+{
+    Q_OBJECT
+
+public:
+    World(Dice &dice, std::unique_ptr<Family> family);
+    ~World() override;
+
+    void step() override;
+
+    Dice &dice();
+    /** A window, or a widget in one, which may be made for this. */
+    QWidget *anyHost();
+    /** One of the widgets; null when there is none just now. */
+    QWidget *anyWidget();
+    /** A widget that no one is in the midst of, and none of @p except or around it is deleted. */
+    void deleteAny(const QWidget *except);
+    /** Adds @p widget to the world, and listens to its signals and those of its children. */
+    void adopt(QWidget *widget);
+    /** Keeps the address of what may be dead by the time it is used. */
+    void remember(const QObject *object);
+    /** A wild address, or one of what is or was alive. */
+    qulonglong anyAddress();
+
+    /**
+     * While one is alive, nothing is deleted at once, and no event loop runs: Qt itself is in the
+     * midst of the widgets.
+     */
+    class Guard
+    {
+    public:
+        explicit Guard(World &world);
+        ~Guard();
+
+    private:
+        Q_DISABLE_COPY(Guard)
+        World &m_world;
+    };
+
+    bool isGuarded() const;
+    /** Lets time pass, where that may be. */
+    void pass(int milliseconds);
+
+public Q_SLOTS:
+    /** The slot of every signal. */
+    void strike();
+
+private:
+    void act(QWidget *widget);
+    void actRarely(QWidget *widget);
+    void alter(QWidget *widget);
+    void place(QWidget *widget);
+    void move(QWidget *widget);
+    void overwriteProperty(QObject *object);
+    void setHugeText(QWidget *widget);
+    void strikeFrom(QObject *from);
+    void strikeGently(bool isDying);
+    void forget(QObject *dying);
+    void takeHelper(QWidget *widget);
+    void destroy(QObject *object);
+    QWidget *target();
+    QWidget *within(QWidget *widget);
+
+    Dice &m_dice;
+    std::unique_ptr<Family> m_family;
+    QVector<QByteArray> m_properties;
+    QVector<QPointer<QWidget>> m_hosts;
+    QVector<QPointer<QWidget>> m_widgets;
+    QVector<qulonglong> m_addresses;
+    QPointer<QWidget> m_target;
+    int m_depth = 0;
+    int m_guards = 0;
+};
+
+/** Runs the storm of a family of widgets. */
+template <typename OneFamily> int runWorlds(int argc, char **argv, const char *name)
+{
+    return Storm::run(argc, argv, name, [](Dice &dice) {
+        return std::make_unique<World>(dice, std::make_unique<OneFamily>());
+    });
+}
