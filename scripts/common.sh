@@ -22,6 +22,9 @@ test_packages=(
 # what scripts/packages needs besides
 package_packages=(qttools5-dev dpkg-dev file gzip lintian)
 
+# clang's sanitizers and libFuzzer come with the version that the package "clang" stands for
+fuzz_packages=(clang libclang-rt-14-dev)
+
 fail() {
     printf '%s: %s\n' "$(basename "$0")" "$*" >&2
     exit 1
