@@ -255,9 +255,11 @@ void OlvGridLayout::fitParent()
 
 void OlvGridLayout::arrange()
 {
-    const qint64 available = qint64(width()) - m_margin;
+    // its own copy: the grid may be gone after a move, in the midst of a step
+    const qint64 margin = m_margin;
+    const qint64 available = width() - margin;
     qint64 right = 0; // of what stands last in the row
-    qint64 top = m_margin;
+    qint64 top = margin;
     qint64 rowHeight = 0;
     // whoever hears of a move may delete another widget, or the grid
     const QPointer<OlvGridLayout> self(this);
@@ -274,20 +276,20 @@ void OlvGridLayout::arrange()
         if (!isAlive(widget)) {
             continue;
         }
-        const qint64 end = right + m_margin + widget->width();
+        const qint64 end = right + margin + widget->width();
         const bool isNewRow = end > available;
         if (isNewRow) {
-            top += rowHeight + m_margin;
+            top += rowHeight + margin;
             rowHeight = 0;
         }
-        const qint64 left = isNewRow ? m_margin : right + m_margin;
+        const qint64 left = isNewRow ? margin : right + margin;
         moveTo(widget, QPoint(toPixels(left), toPixels(top)));
         const QSize size = isAlive(widget) ? widget->size() : QSize(0, 0);
         right = isNewRow ? left + size.width() : end;
         rowHeight = qMax<qint64>(rowHeight, size.height());
     }
     if (self) {
-        resize(width(), toPixels(top + rowHeight + m_margin));
+        resize(width(), toPixels(top + rowHeight + margin));
     }
 }
 
