@@ -13,7 +13,8 @@ namespace VirtualClock {
 /** Moves the clock on. */
 void advance(std::chrono::milliseconds time);
 
-/** Moves the clock on to the next full hour, for Qt's timers look at what part of a second it is. */
+/** Moves the clock on to the next full hour, for Qt's timers look at what part of a second it is.
+ */
 void advanceToHour();
 
 /** The time that has really gone by since the program began. */

@@ -13,6 +13,14 @@ constexpr int discInset = 2;
 constexpr int ringWidth = 2;
 constexpr int fullProgress = 100;
 
+void tell(QWidget *parent, int progress)
+{
+    // asked each time: what is left of a slider that is being destroyed is no slider any more
+    if (auto *slider = dynamic_cast<OlvSlider *>(parent)) {
+        slider->setValue(progress);
+    }
+}
+
 } // namespace
 
 SliderRound::SliderRound(QWidget *slider)
@@ -38,12 +46,11 @@ void SliderRound::dragTo(int progress)
 {
     // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
     // track has a pixel for it.
-    const qint64 x = (qMax<qint64>(m_maxX, 0) * progress + fullProgress - 1) / fullProgress;
+    const qint64 x =
+        (qBound<qint64>(0, m_maxX, QWIDGETSIZE_MAX) * progress + fullProgress - 1) / fullProgress;
     move(int(x) + (m_pressed ? 0 : SliderMetrics::knobInset), y());
     m_progress = progress;
-    if (m_slider) {
-        m_slider->setValue(progress);
-    }
+    tell(m_slider, progress);
 }
 
 void SliderRound::paintEvent(QPaintEvent * /*event*/)
@@ -90,10 +97,7 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     m_progress = progress;
-    // asked each time: what is left of a slider that is being destroyed is no slider any more
-    if (auto *slider = dynamic_cast<OlvSlider *>(m_slider.data())) {
-        slider->setValue(progress);
-    }
+    tell(m_slider, progress);
 }
 
 void SliderRound::mouseReleaseEvent(QMouseEvent * /*event*/)

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void survivesItsOwnDeletion();
     void survivesTheLossOfItsBar_data();
     void survivesTheLossOfItsBar();
+    void survivesNumbersThatNoWidgetHas();
+    void survivesATileThatDeletesItWhenMoved_data();
+    void survivesATileThatDeletesItWhenMoved();
 };
 
 void TestGridSurvival::forgetsWidgetsThatDie()
@@ -232,6 +235,62 @@ void TestGridSurvival::survivesTheLossOfItsBar()
     wheel(*scene.grid, QPoint(0, -120));
     scene.grid->reUi();
     QCOMPARE(scene.grid->height(), tile->height() + 30);
+}
+
+void TestGridSurvival::survivesNumbersThatNoWidgetHas()
+{
+    Scene scene(true);
+    for (int i = 0; i < 5; ++i) {
+        scene.grid->addWidget(makeTile(scene.grid, 50, 1170));
+    }
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    for (const int margin : { least, most, most - 1 }) {
+        scene.grid->setMargin(margin);
+        QVERIFY(scene.grid->height() <= QWIDGETSIZE_MAX);
+    }
+    scene.grid->setMargin(15);
+    barOf(*scene.grid)->setValue(0);
+    // the least int turns further than any other
+    wheel(*scene.grid, QPoint(120, least));
+    QCOMPARE(barOf(*scene.grid)->value(), 20);
+    wheel(*scene.grid, QPoint(most, 0));
+    QCOMPARE(barOf(*scene.grid)->value(), 0);
+}
+
+void TestGridSurvival::survivesATileThatDeletesItWhenMoved_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("into the row") << 50;
+    QTest::newRow("into a row of its own") << 5000;
+}
+
+void TestGridSurvival::survivesATileThatDeletesItWhenMoved()
+{
+    QFETCH(int, width);
+    class Deleter : public QWidget
+    {
+    public:
+        using QWidget::QWidget;
+
+        QPointer<QWidget> deleted;
+
+    protected:
+        void moveEvent(QMoveEvent * /*event*/) override
+        {
+            delete deleted;
+        }
+    };
+    Scene scene(true);
+    const QPointer<OlvGridLayout> grid(scene.grid);
+    // beside the grid, for it goes with the grid otherwise
+    auto *tile = new Deleter(scene.viewport);
+    tile->resize(width, 50);
+    scene.window.show();
+    tile->deleted = grid;
+    grid->addWidget(QList<QWidget *>({ tile, makeTile(scene.viewport, 50) }));
+    QVERIFY(grid.isNull());
+    QCOMPARE(tile->x(), 15);
 }
 
 QTEST_MAIN(TestGridSurvival)

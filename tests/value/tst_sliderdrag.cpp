@@ -52,6 +52,10 @@ private Q_SLOTS:
     void survivesASetValueThatDeletesTheSlider();
     void knobOutsideASliderDragsAndTellsNobody();
     void knobOutlivesTheSliderItLeft();
+    void survivesPositionsThatNoPixelHas_data();
+    void survivesPositionsThatNoPixelHas();
+    void survivesAnEndThatNoSliderHas();
+    void survivesADragWhileItIsDestroyed();
 };
 
 void TestSliderDrag::pressingGrowsTheKnobAboutItsCentre_data()
@@ -262,6 +266,62 @@ void TestSliderDrag::knobOutlivesTheSliderItLeft()
     Mouse::press(knob, { 10, 10 });
     Mouse::move(knob, { 60, 10 });
     QCOMPARE(knob->pos(), QPoint(50, 0));
+}
+
+void TestSliderDrag::survivesPositionsThatNoPixelHas_data()
+{
+    QTest::addColumn<double>("place");
+    QTest::addColumn<int>("progress");
+    QTest::newRow("infinite") << qInf() << 100;
+    QTest::newRow("infinite to the left") << -qInf() << 0;
+    QTest::newRow("beyond an int") << 1e18 << 100;
+    QTest::newRow("beyond an int to the left") << -1e18 << 0;
+    QTest::newRow("no number, where the slider begins") << qQNaN() << 0;
+}
+
+void TestSliderDrag::survivesPositionsThatNoPixelHas()
+{
+    QFETCH(double, place);
+    QFETCH(int, progress);
+    OlvSlider slider;
+    SliderRound *knob = knobOf(slider);
+    Mouse::press(knob, { 10, 10 });
+    Mouse::move(knob, { place, place });
+    QCOMPARE(slider.getValue(), QVariant(progress));
+    sendMouse(knob, QEvent::MouseButtonRelease, { place, place });
+    // and pressed there, any move is one to the other side
+    sendMouse(knob, QEvent::MouseButtonPress, { place, place });
+    Mouse::move(knob, { 10, 10 });
+    QVERIFY(QRect(0, 0, 200, 30).contains(knob->geometry()));
+}
+
+void TestSliderDrag::survivesAnEndThatNoSliderHas()
+{
+    OlvSlider slider;
+    SliderRound *knob = knobOf(slider);
+    for (const int end : { std::numeric_limits<int>::min(), std::numeric_limits<int>::max() }) {
+        knob->setMaxX(end);
+        QCOMPARE(knob->maxX(), end);
+        for (int i = 0; i < 3; ++i) {
+            dragTo(slider, 50);
+        }
+        QVERIFY(qAbs(knob->x()) <= QWIDGETSIZE_MAX + 15);
+    }
+}
+
+void TestSliderDrag::survivesADragWhileItIsDestroyed()
+{
+    auto *slider = new OlvSlider;
+    SliderRound *knob = knobOf(*slider);
+    int x = 0;
+    // what is left of it is a plain widget, whose knob still lives
+    connect(slider, &QObject::destroyed, this, [&] {
+        Mouse::press(knob, { 10, 10 });
+        Mouse::move(knob, { 60, 10 });
+        x = knob->x();
+    });
+    delete slider;
+    QCOMPARE(x, 50);
 }
 
 QTEST_MAIN(TestSliderDrag)

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void survivesHostileProperties_data();
     void survivesHostileProperties();
     void survivesTheLossOfItsKnob();
+    void ignoresEventsWhileItIsDestroyed();
+    void drawsAKnobWithAnyInset();
 };
 
 void TestSwitch::startsOffWithItsDefaults()
@@ -222,6 +224,40 @@ void TestSwitch::survivesTheLossOfItsKnob()
     resizeAndTell(toggle, { 60, 20 });
     QCOMPARE(changed.count(), 1);
     QCOMPARE(toggle.property("moveWidth"), QVariant(8.0));
+}
+
+void TestSwitch::ignoresEventsWhileItIsDestroyed()
+{
+    auto *toggle = new SizedSwitch;
+    SwitchRound *knob = knobOf(*toggle);
+    int calls = 0;
+    connect(toggle, &QObject::destroyed, this, [&] {
+        // what is left of it is a plain widget, whose children still live
+        for (const QEvent::Type type :
+             { QEvent::Resize, QEvent::MouseButtonRelease, QEvent::Timer }) {
+            QEvent event(type);
+            for (QObject *watcher : knob->parent()->children()) {
+                if (watcher->eventFilter(knob, &event)) {
+                    ++calls;
+                }
+            }
+        }
+    });
+    const QSize before = knob->size();
+    connect(knob, &QObject::destroyed, this, [&] { QCOMPARE(knob->size(), before); });
+    delete toggle;
+    QCOMPARE(calls, 3); // consumed as ever, but nothing happens
+}
+
+void TestSwitch::drawsAKnobWithAnyInset()
+{
+    SwitchRound knob;
+    knob.resize(20, 20);
+    for (const int inset : { std::numeric_limits<int>::min(), std::numeric_limits<int>::max() }) {
+        knob.setInset(inset);
+        QCOMPARE(knob.inset(), inset);
+        QVERIFY(!knob.grab().isNull());
+    }
 }
 
 QTEST_MAIN(TestSwitch)
