@@ -77,8 +77,9 @@ public:
     ResizeType type() const;
     /** Where it was pressed last, in its own coordinates; (0, 0) at first. */
     QPoint pressPosition() const;
-    /** The other handles; null for one that does not exist. */
+    /** One of the other handles; null when it does not exist. */
     OlvResizeItem *firstPartner() const;
+    /** The other one of them; null when it does not exist. */
     OlvResizeItem *secondPartner() const;
     /** Sets the other handles, which stay their target's. */
     void setPartners(OlvResizeItem *first, OlvResizeItem *second);
