@@ -12,12 +12,13 @@ build_packages=(
     fonts-font-awesome fonts-wqy-zenhei fonts-dejavu-core
 )
 bench_packages=(libbenchmark-dev python3 python3-matplotlib valgrind)
+docs_packages=(doxygen qttools5-dev-tools)
 display_packages=(xvfb openbox x11-utils)
 test_packages=(
     "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev
     qtbase5-private-dev at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     qttools5-dev qttools5-dev-tools dpkg-dev
-    abigail-tools
+    abigail-tools python3 "${docs_packages[@]}"
 )
 # what scripts/packages needs besides
 package_packages=(qttools5-dev dpkg-dev file gzip lintian)

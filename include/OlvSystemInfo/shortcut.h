@@ -14,6 +14,8 @@
 /**
  * A keyboard shortcut that works on the whole desktop, whichever window has the focus.
  *
+ * @image html OlvShortcut.png
+ *
  * It describes a combination; active() registers it, destroy() and the destructor let go of it. An
  * application may derive from it to bring shortcuts of its own making to the widgets that take
  * them.

@@ -19,6 +19,8 @@
 /**
  * A flat text button in one of four colour schemes and three shapes.
  *
+ * @image html OlvButton.png
+ *
  * It keeps all of its state in dynamic properties, which style sheets and applications may read and
  * write by these names:
  *
@@ -125,6 +127,8 @@ private:
  * A tile with one glyph of an icon font above a short caption, which tells a click from a double
  * click.
  *
+ * @image html OlvIconButton.png
+ *
  * Each mouse release inside counts, of any mouse button; 400 milliseconds after the last of a burst
  * clicked() is emitted for a burst of one, dClicked() for a longer one. Each such release also
  * flips the value, a bool, and the checked flag, which shows only in a checkable button. Neither
@@ -226,6 +230,8 @@ OLVWIDGETS_EXPORT bool isChecked(OlvIconButton *button);
 /**
  * A small borderless push button whose caption is one glyph of an icon font, grey at rest and dark
  * under the pointer.
+ *
+ * @image html OlvSimpleIconButton.png
  *
  * It is checkable: every click flips its checked state. setToggle() makes the glyph follow that
  * state; the two glyphs are kept in the dynamic properties "deable" (unchecked) and "enable"

@@ -20,6 +20,8 @@ class QScrollBar;
  * A container that puts widgets into rows from the left to the right, each as large as it is, and
  * begins a new row when the next one does not fit.
  *
+ * @image html OlvGridLayout.png
+ *
  * It works in one of two modes, which its parent decides once, when the grid is made:
  *
  * - in a window (a parent that has no parent of its own, or is a window itself) the grid lies at
@@ -111,6 +113,8 @@ private:
 /**
  * A frameless, translucent, rounded panel that the user moves by dragging anywhere on it and
  * resizes by its right edge, its bottom edge and its bottom right corner.
+ *
+ * @image html OlvFlexWidget.png
  *
  * It can stay above or below other windows, become a tool window, and bear a coloured band on one
  * of its sides. It is at least 50 by 50 pixels large. Two seconds after it was last resized, all of

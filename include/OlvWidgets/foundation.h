@@ -44,6 +44,8 @@ OLVWIDGETS_EXPORT QColor OlvColorFromString(QString text);
 /**
  * An integer that wraps round within a range when it is incremented.
  *
+ * @image html OlvInt.png
+ *
  * A plain value type: the current value, the minimum taken after passing the maximum (0 at first)
  * and the maximum reached by incrementing (10 at first). Nothing is checked against the range but
  * the increment itself.
@@ -87,6 +89,8 @@ private:
 
 /**
  * A guard that runs the application's clean-up callables when it goes out of scope.
+ *
+ * @image html OlvAutoDestroy.png
  *
  * Loading the library creates one process-wide instance, #SINGLEGLOBAL; addDestroy() appends to its
  * list from anywhere. A guard of this class on the stack of main() destroys that instance when it
@@ -139,6 +143,8 @@ private:
 /**
  * Defers a callable to the event loop: constructing one of these is the whole of its use.
  *
+ * @image html OlvLastOnceFunction.png
+ *
  * @code
  * OlvLastOnceFunction([panel = QPointer<QWidget>(panel)] {
  *     if (panel) {
@@ -162,6 +168,8 @@ public:
 
 /**
  * Lets an object react to the events of others with callables, in place of a subclass.
+ *
+ * @image html OlvPluginEventFilter.png
  *
  * One filter watches one or more objects and holds at most one listener for each type of event, for
  * all of them alike: a listener is not told which object the event was meant for. An event that has
@@ -207,6 +215,8 @@ private:
 /**
  * Start-up services, the fonts that an application ships and the primary screen's measures, and the
  * fitting of text into boxes.
+ *
+ * @image html OlvGlobal.png
  *
  * Call init() once, early, after the QGuiApplication exists; it registers the font files on a
  * thread of its own. Whatever needs those fonts or measures waits for isReady():

@@ -24,6 +24,8 @@ class QPushButton;
 /**
  * Makes a widget movable by pressing the mouse in an area of it and dragging.
  *
+ * @image html OlvMoveWidget.png
+ *
  * It is a child of the widget that it moves, typically a frameless window or a floating panel:
  *
  * @code
@@ -54,6 +56,17 @@ public:
 /**
  * A handle of an OlvResizeWidget: a strip along the right or the bottom edge of the widget that is
  * resized, or a square in its bottom right corner.
+ *
+ * @image html OlvResizeItem.png
+ *
+ * @code
+ * for (QObject *child : window->children()) {
+ *     auto *handle = dynamic_cast<OlvResizeItem *>(child);
+ *     if (handle && handle->type() == OlvResizeItem::Corner) {
+ *         handle->setToolTip(tr("Drag to resize"));
+ *     }
+ * }
+ * @endcode
  */
 class OLVWIDGETS_EXPORT OlvResizeItem : public QWidget
 {
@@ -104,6 +117,8 @@ private:
 /**
  * Lets the user resize a widget by its right edge, its bottom edge and its bottom right corner.
  *
+ * @image html OlvResizeWidget.png
+ *
  * It is a child of the widget that it resizes, typically a frameless window or a floating panel,
  * and puts three handles into it; the widget's minimum and maximum sizes hold. A maximised widget
  * is not resized. Whoever resizes the widget by other means calls reset():
@@ -139,6 +154,8 @@ public:
  * The row of small buttons at the top right of a window without a frame: any number of the
  * application's own, then float, keep at the bottom, keep on top, minimise, maximise or restore,
  * and close.
+ *
+ * @image html OlvControlBar.png
  *
  * It acts on no window itself: it tells what was pressed, and its owner acts. It is 25 pixels high,
  * and so is each button wide; the buttons stand at its right end. Their glyphs are characters of
@@ -217,6 +234,13 @@ private:
 /**
  * A placeholder for a widget that is dragged from one container to another. In this version it is a
  * plain widget.
+ *
+ * @image html OlvDragWidget.png
+ *
+ * @code
+ * auto *placeholder = new OlvDragWidget(shelf, shelf, desk, tile->pos());
+ * placeholder->setGeometry(tile->geometry());
+ * @endcode
  */
 class OLVWIDGETS_EXPORT OlvDragWidget : public QWidget
 {

@@ -22,6 +22,8 @@ class QLineEdit;
  * A framed line of text with an optional glyph at its left and an optional button at its right that
  * shows and hides a password.
  *
+ * @image html OlvLineEdit.png
+ *
  * Everything is sized from the widget's height: the font is half as many points as it is pixels
  * high, and the column of the glyph, which the text begins behind even when there is none, at least
  * as wide as it is high. A click anywhere on the frame puts the caret into the text.
@@ -110,6 +112,8 @@ private:
 /**
  * A field in which the user presses a key combination, which becomes a shortcut that works on the
  * whole desktop.
+ *
+ * @image html OlvShortcutEdit.png
  *
  * While it has the focus it notes the modifiers that are held and the last other key that was
  * pressed, Escape and Backspace included; releasing a key that is no modifier makes an OlvShortcut

@@ -17,9 +17,19 @@ class OlvSlider;
 /**
  * The knob of an OlvSlider: a white disc ringed in blue that the user drags along the track.
  *
+ * @image html SliderRound.png
+ *
  * The slider creates it; an application reaches it only to look at where it stands. At rest it is
  * 20 by 20 pixels, 5 pixels in from its logical position; while any mouse button is held it is 30
  * by 30 about the same centre. Its logical x runs from 0 to maxX().
+ *
+ * @code
+ * for (QObject *child : slider->children()) {
+ *     if (auto *knob = dynamic_cast<SliderRound *>(child)) {
+ *         bubble->move(slider->pos() + QPoint(knob->x(), -bubble->height())); // above the knob
+ *     }
+ * }
+ * @endcode
  */
 class OLVWIDGETS_EXPORT SliderRound : public QWidget
 {
@@ -62,6 +72,8 @@ private:
 
 /**
  * A horizontal slider: a flat blue track with a round knob that the user drags along it.
+ *
+ * @image html OlvSlider.png
  *
  * The value is a percentage, an int from 0 to 100, kept in the dynamic property "progress" (int; 0
  * at first). It is 30 pixels high and starts 200 wide. The second dynamic property, "SliderRound"
@@ -116,7 +128,17 @@ protected:
 /**
  * The knob of an OlvSwitch: a disc that slides from one end of the track to the other.
  *
+ * @image html SwitchRound.png
+ *
  * The switch creates and moves it; an application reaches it only to look at where it stands.
+ *
+ * @code
+ * for (QObject *child : wifi->children()) {
+ *     if (auto *knob = dynamic_cast<SwitchRound *>(child)) {
+ *         mark->move(wifi->pos() + knob->geometry().center()); // in the middle of the knob
+ *     }
+ * }
+ * @endcode
  */
 class OLVWIDGETS_EXPORT SwitchRound : public QWidget
 {
@@ -145,6 +167,8 @@ private:
 /**
  * An on/off switch: a track whose colour shows the state, with a round knob that slides to the
  * other end when the user clicks it.
+ *
+ * @image html OlvSwitch.png
  *
  * The value is a bool. A click of any mouse button, or setValue(), starts an animation of five
  * steps 50 milliseconds apart: four move the knob a fifth of its travel each, the fifth brings it

@@ -15,6 +15,8 @@
 /**
  * The abstract base of every widget that holds one value which its user edits.
  *
+ * @image html OlvWidget.png
+ *
  * It gives all of them one way to read and write that value, one signal that reports a change, and
  * a bridge from the platform's input method (on-screen keyboards, composition of Chinese text) to a
  * signal. It draws nothing and handles no other event. Each subclass says what type of value it
