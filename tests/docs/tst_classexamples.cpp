@@ -2,7 +2,9 @@
 #include "pointer.h"
 #include "surroundings.h"
 
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -12,6 +14,13 @@ class TestClassExamples : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup()
+    {
+        // what a widget has put off to the event loop is no leak once that has run
+        QEventLoop loop;
+        QTimer::singleShot(5, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
     void intCounts()
     {
 #include "OlvInt.inc"
