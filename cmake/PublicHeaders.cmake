@@ -18,9 +18,7 @@ function(olv_public_headers target)
         EXPORT_FILE_NAME ${generated_dir}/${target}/${lower}_export.h)
     set(installed ${generated_dir}/${target}/${lower}_export.h)
     set(symbols ${PROJECT_SOURCE_DIR}/cmake/ExportedSymbols.map)
-    # the library's own functions are not looked up by name when it is loaded
-    target_link_options(${target} PRIVATE
-        LINKER:--version-script=${symbols} LINKER:-Bsymbolic-functions)
+    target_link_options(${target} PRIVATE LINKER:--version-script=${symbols})
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${symbols})
 
     set(umbrella "// SPDX-License-Identifier: MIT\n#pragma once\n")

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 
 /**
@@ -143,6 +144,10 @@ class OLVWIDGETS_EXPORT OlvShortcutEdit : public OlvWidget
 public:
     /** An empty field in @p parent, which owns it. */
     explicit OlvShortcutEdit(QWidget *parent = nullptr);
+    /** An empty field without a parent, where a bare nullptr could mean either of the others. */
+    explicit OlvShortcutEdit(std::nullptr_t)
+        : OlvShortcutEdit(static_cast<QWidget *>(nullptr))
+    { }
     /** A field that takes @p shortcut, as setShortcut() does it. */
     explicit OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent = nullptr);
     /** Deletes the shortcut that is held. */

@@ -41,7 +41,7 @@ void AccessibleShortcutEdit::setCursorPosition(int /*position*/) { }
 
 QString AccessibleShortcutEdit::text(int start, int end) const
 {
-    return value().toString().mid(start, end - start);
+    return value().toString().mid(start, qMax(end - start, 0));
 }
 
 int AccessibleShortcutEdit::characterCount() const

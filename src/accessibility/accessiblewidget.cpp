@@ -6,15 +6,16 @@
 
 #include "accessibility/changewatcher_p.h"
 
+#include <QPointer>
+
 #include <utility>
 
 namespace {
 
-bool isPart(const QAccessibleInterface *child)
+bool isPart(const QWidget *child)
 {
-    const QObject *object = child->object();
-    return dynamic_cast<const SwitchRound *>(object) || dynamic_cast<const SliderRound *>(object)
-        || dynamic_cast<const OlvResizeItem *>(object);
+    return dynamic_cast<const SwitchRound *>(child) || dynamic_cast<const SliderRound *>(child)
+        || dynamic_cast<const OlvResizeItem *>(child);
 }
 
 QAccessible::State difference(QAccessible::State before, QAccessible::State now)
@@ -60,18 +61,22 @@ void AccessibleWidget::tellChanges()
     const QString nameBefore = std::exchange(m_told->name, name());
     const QAccessible::State stateBefore = std::exchange(m_told->state, ownState());
     const QVariant valueBefore = std::exchange(m_told->value, value());
-
+    const QAccessible::State changed = difference(stateBefore, m_told->state);
+    const bool hasOtherValue = valueBefore != m_told->value;
     // Qt itself tells the changes of the name that the application gave
-    if (nameBefore != m_told->name && widget()->accessibleName().isEmpty()) {
+    const bool hasOtherName = nameBefore != m_told->name && widget()->accessibleName().isEmpty();
+
+    // whoever hears of a change may delete the widget, and this with it, or stop the watching
+    const QPointer<QObject> watcher(&m_told->watcher);
+    if (hasOtherName) {
         QAccessibleEvent event(widget(), QAccessible::NameChanged);
         QAccessible::updateAccessibility(&event);
     }
-    const QAccessible::State changed = difference(stateBefore, m_told->state);
-    if (!(changed == QAccessible::State())) {
+    if (watcher && !(changed == QAccessible::State())) {
         QAccessibleStateChangeEvent event(widget(), changed);
         QAccessible::updateAccessibility(&event);
     }
-    if (valueBefore != m_told->value) {
+    if (watcher && hasOtherValue) {
         tellValue(valueBefore);
     }
 }
@@ -100,35 +105,17 @@ QAccessibleInterface *AccessibleWidget::parent() const
 
 QAccessibleInterface *AccessibleWidget::child(int index) const
 {
-    const int count = isValid() ? QAccessibleWidget::childCount() : 0;
-    for (int i = 0; i < count; ++i) {
-        QAccessibleInterface *child = QAccessibleWidget::child(i);
-        if (child && !isPart(child) && index-- == 0) {
-            return child;
-        }
-    }
-    return nullptr;
+    return QAccessible::queryAccessibleInterface(children().value(index));
 }
 
 int AccessibleWidget::childCount() const
 {
-    int count = 0;
-    while (child(count)) {
-        ++count;
-    }
-    return count;
+    return children().size();
 }
 
-int AccessibleWidget::indexOfChild(const QAccessibleInterface *wanted) const
+int AccessibleWidget::indexOfChild(const QAccessibleInterface *child) const
 {
-    int index = 0;
-    while (const QAccessibleInterface *candidate = child(index)) {
-        if (candidate == wanted) {
-            return index;
-        }
-        ++index;
-    }
-    return -1;
+    return child ? children().indexOf(qobject_cast<QWidget *>(child->object())) : -1;
 }
 
 QString AccessibleWidget::text(QAccessible::Text kind) const
@@ -217,6 +204,20 @@ void AccessibleWidget::tellValue(const QVariant & /*before*/)
 {
     QAccessibleValueChangeEvent event(widget(), m_told->value);
     QAccessible::updateAccessibility(&event);
+}
+
+QWidgetList AccessibleWidget::children() const
+{
+    QWidgetList result;
+    if (isValid()) {
+        for (QObject *object : object()->children()) {
+            auto *child = qobject_cast<QWidget *>(object);
+            if (child && !child->isWindow() && !isPart(child)) {
+                result << child;
+            }
+        }
+    }
+    return result;
 }
 
 QString AccessibleWidget::name() const

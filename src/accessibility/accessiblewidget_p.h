@@ -59,6 +59,7 @@ private:
     struct Told;
 
     QString name() const;
+    QWidgetList children() const;
 
     std::unique_ptr<Told> m_told;
 };

@@ -13,14 +13,15 @@ ChangeWatcher::ChangeWatcher(QObject *widget, AccessibleWidget *accessible)
 
 bool ChangeWatcher::eventFilter(QObject *watched, QEvent *event)
 {
+    const bool consumed = QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::DynamicPropertyChange:
     case QEvent::ToolTipChange:
     case QEvent::WindowTitleChange:
-        m_accessible->tellChanges();
+        m_accessible->tellChanges(); // after which this may be gone
         break;
     default:
         break;
     }
-    return QObject::eventFilter(watched, event);
+    return consumed;
 }

@@ -255,11 +255,9 @@ void OlvGridLayout::fitParent()
 
 void OlvGridLayout::arrange()
 {
-    // its own copy: the grid may be gone after a move, in the midst of a step
-    const qint64 margin = m_margin;
-    const qint64 available = width() - margin;
+    const qint64 available = qint64(width()) - m_margin;
     qint64 right = 0; // of what stands last in the row
-    qint64 top = margin;
+    qint64 top = m_margin;
     qint64 rowHeight = 0;
     // whoever hears of a move may delete another widget, or the grid
     const QPointer<OlvGridLayout> self(this);
@@ -276,6 +274,8 @@ void OlvGridLayout::arrange()
         if (!isAlive(widget)) {
             continue;
         }
+        // a move may set another margin, and may leave no grid to ask for it in the midst of a step
+        const qint64 margin = m_margin;
         const qint64 end = right + margin + widget->width();
         const bool isNewRow = end > available;
         if (isNewRow) {
@@ -289,7 +289,7 @@ void OlvGridLayout::arrange()
         rowHeight = qMax<qint64>(rowHeight, size.height());
     }
     if (self) {
-        resize(width(), toPixels(top + rowHeight + margin));
+        resize(width(), toPixels(top + rowHeight + m_margin));
     }
 }
 

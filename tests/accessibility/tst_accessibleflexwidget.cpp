@@ -3,17 +3,28 @@
 
 #include <OlvFlexWidget>
 
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 
 class TestAccessibleFlexWidget : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void isAWindowOrAPane();
     void isCalledByItsTitle();
     void canBeMovedAndResizedUnlessMaximised();
 };
+
+void TestAccessibleFlexWidget::cleanup()
+{
+    // what a handle has put off to the event loop is no leak once that has run
+    QEventLoop loop;
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 void TestAccessibleFlexWidget::isAWindowOrAPane()
 {

@@ -4,7 +4,9 @@
 #include <OlvResizeItem>
 #include <OlvResizeWidget>
 
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 #include <QtMath>
 
 #include <limits>
@@ -54,6 +56,7 @@ class TestResizeWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void kindsHaveTheirNumbers();
     void placesThreeHandles_data();
     void placesThreeHandles();
@@ -79,6 +82,14 @@ private Q_SLOTS:
     void survivesAResetWhileAHandleIsDestroyed();
     void survivesATargetThatDeletesItsHandles();
 };
+
+void TestResizeWidget::cleanup()
+{
+    // what a handle has put off to the event loop is no leak once that has run
+    QEventLoop loop;
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 void TestResizeWidget::kindsHaveTheirNumbers()
 {
