@@ -24,6 +24,7 @@ private Q_SLOTS:
     void survivesNumbersThatNoWidgetHas();
     void survivesATileThatDeletesItWhenMoved_data();
     void survivesATileThatDeletesItWhenMoved();
+    void readsTheMarginAfreshForEachWidget();
 };
 
 void TestGridSurvival::forgetsWidgetsThatDie()
@@ -291,6 +292,21 @@ void TestGridSurvival::survivesATileThatDeletesItWhenMoved()
     grid->addWidget(QList<QWidget *>({ tile, makeTile(scene.viewport, 50) }));
     QVERIFY(grid.isNull());
     QCOMPARE(tile->x(), 15);
+}
+
+void TestGridSurvival::readsTheMarginAfreshForEachWidget()
+{
+    Scene scene(true);
+    auto *first = makeTile(scene.grid, 40);
+    auto *second = makeTile(scene.grid, 40);
+    scene.window.show();
+    const OnEvent onMove(first, QEvent::Move, [&] { scene.grid->setMargin(5); });
+    scene.grid->addWidget({ first, second });
+    QVERIFY(onMove.happened());
+    // the reflow within the move puts the first by the new margin; the one that moved it first, to
+    // 15, goes on with the second: 15 + 40 + 5
+    QCOMPARE(first->x(), 5);
+    QCOMPARE(second->x(), 60);
 }
 
 QTEST_MAIN(TestGridSurvival)
