@@ -174,8 +174,11 @@ void sendRare(Dice &dice, QWidget *receiver)
         break;
     }
     case 2: {
-        QHelpEvent event(QEvent::ToolTip, dice.point(), dice.point());
-        send(receiver, event);
+        // Qt shows a tip in a window of its own, a child of whatever the storm blows away
+        if (receiver->toolTip().isEmpty()) {
+            QHelpEvent event(QEvent::ToolTip, dice.point(), dice.point());
+            send(receiver, event);
+        }
         break;
     }
     case 3: {

@@ -90,7 +90,8 @@ private:
     {
         Dice &dice = world.dice();
         auto *grid = qobject_cast<OlvGridLayout *>(world.anyWidget());
-        auto *tile = new Tile(world, grid ? grid : parent);
+        // adding it moves others, which may delete it
+        const QPointer<QWidget> tile(new Tile(world, grid ? grid : parent));
         tile->resize(dice.side(), dice.side());
         if (grid) {
             grid->addWidget(tile);

@@ -190,6 +190,9 @@ QWidget *World::target()
     if (m_widgets.isEmpty() || (m_widgets.size() < mostWidgets && m_dice.oneIn(100))) {
         QWidget *host = anyHost();
         QWidget *made = m_family->make(*this, host);
+        if (!made) {
+            return target();
+        }
         if (made->isWindow()) {
             bound(made);
         }
