@@ -11,7 +11,12 @@ class QStackedWidget;
 class GalleryWindow : public QWidget
 {
 public:
-    explicit GalleryWindow(QWidget *parent = nullptr);
+    enum Theme {
+        Light,
+        Dark,
+    };
+
+    explicit GalleryWindow(QWidget *parent = nullptr, Theme theme = Light);
 
     QStringList pageNames() const;
     /** Shows the page of that name, whatever its case; false when there is none. */

@@ -31,7 +31,9 @@ int main(int argc, char **argv)
     const QCommandLineOption frameless(
         QStringLiteral("frameless"),
         QStringLiteral("Run in a window without a frame, of the library's own widgets."));
-    parser.addOptions({ page, screenshots, frameless });
+    const QCommandLineOption dark(QStringLiteral("dark"),
+                                  QStringLiteral("Put the widgets on a dark background."));
+    parser.addOptions({ page, screenshots, frameless, dark });
     parser.process(application);
 
     // "Font" and "fonts" lie beside the program, and the font job looks for them here; a folder
@@ -41,7 +43,8 @@ int main(int argc, char **argv)
     OlvGlobal::init();
 
     QTextStream errors(stderr);
-    auto *gallery = new GalleryWindow;
+    auto *gallery =
+        new GalleryWindow(nullptr, parser.isSet(dark) ? GalleryWindow::Dark : GalleryWindow::Light);
     const std::unique_ptr<QWidget> window(parser.isSet(frameless)
                                               ? new FramelessWindow(gallery->windowTitle(), gallery)
                                               : static_cast<QWidget *>(gallery));

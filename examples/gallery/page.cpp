@@ -30,14 +30,14 @@ Page::Page(const QString &title, const QString &about, QWidget *parent)
     m_log->setMaximumBlockCount(mostLogLines);
     m_log->setPlaceholderText(QStringLiteral("Signals appear here as they come."));
     m_log->setStyleSheet(QStringLiteral("border: 1px solid rgb(220,223,230); border-radius: 4px;"
-                                        "background: rgb(250,250,252); color: rgb(96,98,102);"));
+                                        "background: palette(base); color: palette(mid);"));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 24, 28, 20);
     layout->setSpacing(10);
     layout->addWidget(makeLabel(
-        title, QStringLiteral("font-size: 20px; font-weight: bold; color: rgb(48,49,51);")));
-    layout->addWidget(makeLabel(about, QStringLiteral("color: rgb(96,98,102);")));
+        title, QStringLiteral("font-size: 20px; font-weight: bold; color: palette(window-text);")));
+    layout->addWidget(makeLabel(about, QStringLiteral("color: palette(mid);")));
     layout->addSpacing(8);
     layout->addLayout(m_content, 1);
     layout->addWidget(m_log);

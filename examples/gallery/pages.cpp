@@ -4,6 +4,7 @@
 QVector<PageEntry> galleryPages()
 {
     return {
+        { QStringLiteral("Overview"), createOverviewPage },
         { QStringLiteral("Start-up"), createStartUpPage },
         { QStringLiteral("Buttons"), createButtonsPage },
         { QStringLiteral("Icon buttons"), createIconButtonsPage },

@@ -17,6 +17,7 @@ struct PageEntry
 /** All pages, in the order of the list. */
 QVector<PageEntry> galleryPages();
 
+Page *createOverviewPage(QWidget *parent);
 Page *createStartUpPage(QWidget *parent);
 Page *createButtonsPage(QWidget *parent);
 Page *createIconButtonsPage(QWidget *parent);

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void refusesAPageThatItDoesNotHave();
     void refusesAFolderThatItCannotWriteTo();
     void findsPagesByNameWhateverTheCase();
+    void putsTheWidgetsOnADarkBackground();
     void shipsTheIconFontUnderBothFolderNames();
 };
 
@@ -103,6 +104,23 @@ void TestGalleryOnServer::shipsTheIconFontUnderBothFolderNames()
     QTRY_VERIFY(OlvGlobal::isReady());
     QCOMPARE(QFontInfo(OlvGlobal::getFont(QStringLiteral("FontAwesome"), 12)).family(),
              QStringLiteral("FontAwesome"));
+}
+
+void TestGalleryOnServer::putsTheWidgetsOnADarkBackground()
+{
+    for (const QString &option : { QString(), QStringLiteral("--dark") }) {
+        const QTemporaryDir directory;
+        QStringList arguments{ QStringLiteral("--screenshots"), directory.path() };
+        if (!option.isEmpty()) {
+            arguments << option;
+        }
+        const Outcome outcome = runGallery(arguments);
+        QCOMPARE(outcome.code, 0);
+        const QImage picture(directory.filePath(QStringLiteral("overview.png")));
+        QVERIFY(!picture.isNull());
+        const QPoint corner(picture.width() - 2, 2);
+        QCOMPARE(qGray(picture.pixel(corner)) < 64, !option.isEmpty());
+    }
 }
 
 QTEST_MAIN(TestGalleryOnServer)
