@@ -58,7 +58,7 @@ GalleryWindow::GalleryWindow(QWidget *parent, Theme theme)
 {
     setWindowTitle(QStringLiteral("OlvWidgets gallery"));
     QApplication::setPalette(colorsOf(theme)); // style sheets take their colours from there
-    setAutoFillBackground(true); // within another window too
+    setAutoFillBackground(true);               // within another window too
     resize(windowSize);
 
     m_names->setFixedWidth(listWidth);

@@ -10,9 +10,9 @@
 namespace {
 
 constexpr int columnSpacing = 28;
-constexpr QSize buttonSize(110, 34);
+constexpr QSize buttonSize(90, 34);
 
-/** A heading above something, as one cell of the page's grid. */
+/** Something at the top of a cell of the page's grid. */
 QVBoxLayout *cell(QWidget *widget)
 {
     auto *layout = new QVBoxLayout;
@@ -44,7 +44,7 @@ QWidget *makeButtons()
 QWidget *makeTiles()
 {
     auto *viewport = new QWidget;
-    viewport->setFixedSize(380, 180);
+    viewport->setFixedSize(348, 180);
     auto *grid = new OlvGridLayout(viewport);
     grid->resize(viewport->size());
     QList<QWidget *> tiles;
@@ -107,13 +107,13 @@ QWidget *makeInput()
 QWidget *makeWindow()
 {
     auto *box = new QWidget;
-    box->setFixedSize(380, 150);
-    auto *panel = new OlvFlexWidget(360, 140, box);
+    box->setFixedSize(348, 150);
+    auto *panel = new OlvFlexWidget(340, 140, box);
     panel->setHeaderWay(OlvFlexWidget::HeaderTop, QColor(64, 158, 255));
     auto *bar =
         new OlvControlBar({ 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf013 }, panel,
                           { QStringLiteral("Settings") });
-    bar->setGeometry(8, 14, 344, 25);
+    bar->setGeometry(8, 14, 324, 25);
     return box;
 }
 
