@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "colors.h"
 #include "page.h"
 #include "pages.h"
 
@@ -18,6 +19,7 @@ OlvFlexWidget *makePanel(QWidget *parent, const QString &text, QSize size)
 {
     auto *panel = new OlvFlexWidget(size.width(), size.height(), parent);
     auto *label = new QLabel(text, panel);
+    label->setPalette(lightColors()); // the panel is light on every background
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->move(24, 24);
     return panel;

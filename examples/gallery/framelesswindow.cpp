@@ -68,7 +68,7 @@ void FramelessWindow::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setPen(QColor(207, 207, 207));
-    painter.setBrush(QColor(245, 247, 250));
+    painter.setBrush(palette().alternateBase());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -4,7 +4,6 @@
 #include "page.h"
 #include "pages.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QHBoxLayout>
@@ -20,28 +19,6 @@ constexpr QSize windowSize(1000, 700);
 /** How long a page may take to settle before its picture is taken, in milliseconds. */
 constexpr int settlingTime = 450;
 
-QPalette colorsOf(GalleryWindow::Theme theme)
-{
-    struct
-    {
-        QPalette::ColorRole role;
-        QColor light;
-        QColor dark;
-    } const colors[] = {
-        { QPalette::Window, QColor(255, 255, 255), QColor(32, 33, 36) },
-        { QPalette::WindowText, QColor(48, 49, 51), QColor(232, 234, 237) },
-        { QPalette::Base, QColor(248, 249, 251), QColor(41, 42, 46) },
-        { QPalette::Mid, QColor(96, 98, 102), QColor(174, 178, 184) },
-        { QPalette::Midlight, QColor(236, 240, 246), QColor(51, 53, 58) },
-        { QPalette::Light, QColor(236, 245, 255), QColor(38, 54, 74) },
-    };
-    QPalette palette;
-    for (const auto &color : colors) {
-        palette.setColor(color.role, theme == GalleryWindow::Dark ? color.dark : color.light);
-    }
-    return palette;
-}
-
 void settle()
 {
     QEventLoop loop;
@@ -51,23 +28,23 @@ void settle()
 
 } // namespace
 
-GalleryWindow::GalleryWindow(QWidget *parent, Theme theme)
+GalleryWindow::GalleryWindow(QWidget *parent)
     : QWidget(parent)
     , m_names(new QListWidget)
     , m_pages(new QStackedWidget)
 {
     setWindowTitle(QStringLiteral("OlvWidgets gallery"));
-    QApplication::setPalette(colorsOf(theme)); // style sheets take their colours from there
-    setAutoFillBackground(true);               // within another window too
+    setAutoFillBackground(true); // within another window too
     resize(windowSize);
 
     m_names->setFixedWidth(listWidth);
     m_names->setFrameShape(QFrame::NoFrame);
     m_names->setStyleSheet(QStringLiteral(
-        "QListWidget { background: palette(base); outline: none; padding-top: 12px; }"
-        "QListWidget::item { border: none; padding: 9px 16px; color: palette(mid); }"
-        "QListWidget::item:hover { background: palette(midlight); }"
-        "QListWidget::item:selected { background: palette(light); color: rgb(64,158,255); }"));
+        "QListWidget { background: palette(alternate-base); outline: none; padding-top: 12px; }"
+        "QListWidget::item { border: none; padding: 9px 16px; color: palette(window-text); }"
+        "QListWidget::item:hover { background: rgba(64,158,255,5%); }"
+        "QListWidget::item:selected { background: rgba(64,158,255,12%); color: rgb(64,158,255); "
+        "}"));
 
     const QVector<PageEntry> entries = galleryPages();
     for (const PageEntry &entry : entries) {

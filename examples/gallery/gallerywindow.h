@@ -11,12 +11,7 @@ class QStackedWidget;
 class GalleryWindow : public QWidget
 {
 public:
-    enum Theme {
-        Light,
-        Dark,
-    };
-
-    explicit GalleryWindow(QWidget *parent = nullptr, Theme theme = Light);
+    explicit GalleryWindow(QWidget *parent = nullptr);
 
     QStringList pageNames() const;
     /** Shows the page of that name, whatever its case; false when there is none. */

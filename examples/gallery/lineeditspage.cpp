@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "colors.h"
 #include "page.h"
 #include "pages.h"
 
@@ -7,6 +8,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace {
@@ -23,6 +25,8 @@ OlvLineEdit *addLine(Page *page, const QString &heading, const QString &name, QS
     auto *line = new OlvLineEdit;
     line->setObjectName(name);
     line->setFixedSize(size);
+    // the text is the application's colour, the line white whatever that is
+    line->findChild<QLineEdit *>()->setPalette(lightColors());
     page->content()->addWidget(line);
     return line;
 }

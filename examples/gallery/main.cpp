@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "colors.h"
 #include "framelesswindow.h"
 #include "gallerywindow.h"
 
@@ -42,9 +43,12 @@ int main(int argc, char **argv)
     QDir::setCurrent(QApplication::applicationDirPath());
     OlvGlobal::init();
 
+    // for the whole program: a palette that is set on a window does not reach style sheets within
+    // it
+    QApplication::setPalette(parser.isSet(dark) ? darkColors() : lightColors());
+
     QTextStream errors(stderr);
-    auto *gallery =
-        new GalleryWindow(nullptr, parser.isSet(dark) ? GalleryWindow::Dark : GalleryWindow::Light);
+    auto *gallery = new GalleryWindow;
     const std::unique_ptr<QWidget> window(parser.isSet(frameless)
                                               ? new FramelessWindow(gallery->windowTitle(), gallery)
                                               : static_cast<QWidget *>(gallery));

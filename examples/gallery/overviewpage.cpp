@@ -1,139 +1,252 @@
 // SPDX-License-Identifier: MIT
+#include "colors.h"
 #include "page.h"
 #include "pages.h"
 
 #include <OlvWidgets/OlvWidgets>
 
+#include <QAccessible>
 #include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int columnSpacing = 28;
-constexpr QSize buttonSize(90, 34);
+constexpr QSize buttonSize(84, 32);
+constexpr int tileSide = 76;
+constexpr QSize lineSize(340, 30);
+constexpr int barWidth = 250;
+constexpr QSize switchSize(50, 24);
+constexpr QSize gridSize(366, 126);
+constexpr QSize panelSize(176, 118);
+constexpr int pollInterval = 20; // milliseconds
+const QColor blue(64, 158, 255);
+const QColor orange(230, 162, 60);
+const QColor red(245, 108, 108);
 
-/** Something at the top of a cell of the page's grid. */
-QVBoxLayout *cell(QWidget *widget)
+QString iconFamily()
 {
-    auto *layout = new QVBoxLayout;
-    layout->addWidget(widget);
-    layout->addStretch();
-    return layout;
+    return QStringLiteral("FontAwesome");
 }
 
-QWidget *makeButtons()
+/** Widgets in a row under the names of their classes. */
+QVBoxLayout *makeCell(const QString &classes, const QList<QWidget *> &widgets)
 {
-    auto *box = new QWidget;
-    auto *grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    int row = 0;
-    for (const char *type : { "", "plain", "round" }) {
-        int column = 0;
-        for (const char *scheme : { "primary", "success", "warning", "danger" }) {
-            auto *button = new OlvButton(QLatin1String(scheme));
-            button->setOlvStyle(QLatin1String(scheme), QLatin1String(type));
-            button->setFixedSize(buttonSize);
-            grid->addWidget(button, row, column++);
-        }
-        ++row;
+    auto *caption = new QLabel(classes);
+    caption->setStyleSheet(QStringLiteral("font-size: 11px; color: rgb(144,147,153);"));
+    auto *row = new QHBoxLayout;
+    row->setSpacing(10);
+    for (QWidget *widget : widgets) {
+        row->addWidget(widget);
     }
-    grid->setColumnStretch(4, 1);
-    return box;
+    row->addStretch();
+    auto *cell = new QVBoxLayout;
+    cell->setSpacing(6);
+    cell->addWidget(caption);
+    cell->addLayout(row);
+    cell->addStretch();
+    return cell;
 }
 
-QWidget *makeTiles()
+QWidget *makeButton(Page *page, const QString &color, const QString &type)
 {
-    auto *viewport = new QWidget;
-    viewport->setFixedSize(348, 180);
+    auto *button = new OlvButton(type.isEmpty() ? color : type);
+    button->setFixedSize(buttonSize);
+    button->setOlvStyle(color, type);
+    QObject::connect(button, &OlvButton::clicked, page,
+                     [=] { page->log(QStringLiteral("OlvButton: clicked()")); });
+    return button;
+}
+
+QWidget *makeTile(Page *page, ushort glyph, const QString &text, const QColor &color, bool checked)
+{
+    auto *tile = new OlvIconButton(QChar(glyph), text, iconFamily(), nullptr, tileSide, tileSide);
+    tile->setFixedSize(tileSide, tileSide);
+    tile->setColor(color);
+    tile->setCheckable(true);
+    tile->setProperty("isChecked", checked);
+    QObject::connect(tile, &OlvIconButton::clicked, page,
+                     [=] { page->log(QStringLiteral("OlvIconButton: clicked()")); });
+    QObject::connect(tile, &OlvIconButton::dClicked, page,
+                     [=] { page->log(QStringLiteral("OlvIconButton: dClicked()")); });
+    return tile;
+}
+
+QWidget *makeStar(Page *page)
+{
+    auto *star = new OlvSimpleIconButton(QChar(0xf006), QFont(iconFamily(), 14));
+    star->setFixedSize(star->size());
+    star->setToggle(QChar(0xf005));
+    star->setToolTip(QStringLiteral("Starred"));
+    QObject::connect(star, &QPushButton::clicked, page,
+                     [=] { page->log(QStringLiteral("OlvSimpleIconButton: clicked()")); });
+    return star;
+}
+
+QWidget *makeLine(ushort glyph, const QString &text, bool isPassword)
+{
+    auto *line = new OlvLineEdit;
+    line->setFixedSize(lineSize);
+    // the text is the application's colour, the line white whatever that is
+    line->findChild<QLineEdit *>()->setPalette(lightColors());
+    line->setIcon(QChar(glyph));
+    line->setPassWord(isPassword);
+    line->setPwdIcon(QChar(0xf06e), QChar(0xf070));
+    line->setText(text);
+    return line;
+}
+
+QWidget *makeShortcut(Page *page)
+{
+    auto *edit = new OlvShortcutEdit(new OlvShortcut(Qt::Key_F8, true, true, false, false));
+    edit->setFixedSize(lineSize);
+    QObject::connect(edit, &OlvWidget::valueChanged, page, [=](const QVariant &value) {
+        page->log(QStringLiteral("OlvShortcutEdit: valueChanged(\"%1\")").arg(value.toString()));
+    });
+    return edit;
+}
+
+QWidget *makeSwitch(Page *page, const QColor &whenOn, bool on)
+{
+    auto *toggle = new OlvSwitch;
+    toggle->setFixedSize(switchSize);
+    toggle->setColorClose(whenOn);
+    toggle->setValue(on);
+    QObject::connect(toggle, &OlvSwitch::changed, page, [=](bool value) {
+        page->log(QStringLiteral("OlvSwitch: changed(%1)")
+                      .arg(value ? QStringLiteral("true") : QStringLiteral("false")));
+    });
+    return toggle;
+}
+
+/** A slider at that percentage; setValue() alone would leave its knob at the left. */
+QWidget *makeSlider(int percentage)
+{
+    auto *slider = new OlvSlider;
+    slider->setFixedSize(slider->size());
+    QAccessible::queryAccessibleInterface(slider)->valueInterface()->setCurrentValue(percentage);
+    return slider;
+}
+
+QWidget *makeBar(Page *page)
+{
+    // the six window buttons, "restore", and the application's: a cog and a question mark
+    auto *bar = new OlvControlBar(
+        { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf013, 0xf128 }, nullptr,
+        { QStringLiteral("Settings"), QStringLiteral("Help") });
+    bar->setFixedWidth(barWidth);
+    QObject::connect(bar, &OlvControlBar::changed, page,
+                     [=] { page->log(QStringLiteral("OlvControlBar: changed()")); });
+    QObject::connect(bar, &OlvControlBar::custom, page,
+                     [=] { page->log(QStringLiteral("OlvControlBar: custom()")); });
+    return bar;
+}
+
+QWidget *makeFlowGrid(Page *page)
+{
+    auto *viewport = new QWidget(page); // without a parent it would be a window to the grid
+    viewport->setFixedSize(gridSize);
     auto *grid = new OlvGridLayout(viewport);
-    grid->resize(viewport->size());
+    grid->resize(viewport->size()); // until it follows the viewport's first resize
     QList<QWidget *> tiles;
-    const struct
-    {
-        ushort glyph;
-        const char *text;
-    } entries[] = { { 0xf0e0, "Mail" },  { 0xf073, "Calendar" }, { 0xf001, "Music" },
-                    { 0xf07b, "Files" }, { 0xf120, "Terminal" }, { 0xf03d, "Videos" },
-                    { 0xf013, "Setup" }, { 0xf1ec, "Sums" } };
-    for (const auto &entry : entries) {
-        tiles << new OlvIconButton(QChar(entry.glyph), QLatin1String(entry.text),
-                                   QStringLiteral("FontAwesome"), grid, 68, 68);
+    for (int number = 1; number <= 40; ++number) {
+        auto *tile = new QLabel(QString::number(number), grid);
+        tile->resize(30 + number * 7 % 24, 24);
+        tile->setAlignment(Qt::AlignCenter);
+        tile->setStyleSheet(QStringLiteral("background: %1; color: white; border-radius: 4px;")
+                                .arg((number % 3 ? blue : orange).name()));
+        tile->show();
+        tiles.append(tile);
     }
     grid->addWidget(tiles);
     return viewport;
 }
 
-QWidget *makeValues()
+/** A panel, and a box that has its two helpers; both stay where the user drags them. */
+QWidget *makeStage()
 {
-    auto *box = new QWidget;
-    box->setFixedHeight(110);
-    for (int i = 0; i < 3; ++i) {
-        auto *toggle = new OlvSwitch(box);
-        toggle->setGeometry(i * 70, 6, 52, 26);
-        toggle->setValue(i > 0);
-        if (i == 2) {
-            toggle->setColorClose(QColor(64, 158, 255));
+    auto *stage = new QWidget;
+    stage->setFixedSize(368, gridSize.height());
+    auto *panel = new OlvFlexWidget(panelSize.width(), panelSize.height(), stage);
+    panel->setHeaderWay(OlvFlexWidget::HeaderTop, blue);
+    auto *text = new QLabel(QStringLiteral("Drag me, or drag\nmy edges"), panel);
+    text->setPalette(lightColors()); // the panel is light on every background
+    text->setAttribute(Qt::WA_TransparentForMouseEvents);
+    text->move(24, 30);
+
+    auto *box = new QLabel(QStringLiteral("Any widget can be\nmoved and resized"), stage);
+    box->setAlignment(Qt::AlignCenter);
+    box->setStyleSheet(QStringLiteral("background: rgb(236,245,255); color: rgb(64,158,255);"));
+    box->setGeometry(QRect({ 192, 0 }, panelSize));
+    auto *mover = new OlvMoveWidget(box);
+    mover->setMoveArea(QRect());
+    new OlvResizeWidget(box, 6);
+    return stage;
+}
+
+/** Shows the glyphs once the icon font, which is registered in the background, is there. */
+void repaintWithFonts(Page *page)
+{
+    auto *poll = new QTimer(page);
+    QObject::connect(poll, &QTimer::timeout, page, [=] {
+        if (OlvGlobal::isReady()) {
+            poll->stop();
+            const QList<QWidget *> widgets = page->findChildren<QWidget *>();
+            for (QWidget *widget : widgets) {
+                widget->update();
+            }
         }
-    }
-    auto *slider = new OlvSlider(box);
-    slider->setGeometry(0, 50, 300, 30);
-    return box;
-}
-
-QWidget *makeInput()
-{
-    auto *box = new QWidget;
-    box->setFixedSize(380, 130);
-    auto *name = new OlvLineEdit(box);
-    name->setGeometry(0, 0, 330, 32);
-    name->setIcon(QString(QChar(0xf007)));
-    name->setPlaceholderText(QStringLiteral("Name"));
-    auto *password = new OlvLineEdit(box);
-    password->setGeometry(0, 44, 330, 32);
-    password->setIcon(QString(QChar(0xf023)));
-    password->setPwdIcon(QString(QChar(0xf070)), QString(QChar(0xf06e)));
-    password->setPassWord(true);
-    password->setText(QStringLiteral("secret"));
-    auto *shortcut = new OlvShortcutEdit(box);
-    shortcut->setGeometry(0, 88, 200, 32);
-    auto *star =
-        new OlvSimpleIconButton(QChar(0xf006), QFont(QStringLiteral("FontAwesome"), 14), box);
-    star->setToggle(QChar(0xf005));
-    star->setToolTip(QStringLiteral("Keep"));
-    star->move(215, 88);
-    return box;
-}
-
-QWidget *makeWindow()
-{
-    auto *box = new QWidget;
-    box->setFixedSize(348, 150);
-    auto *panel = new OlvFlexWidget(340, 140, box);
-    panel->setHeaderWay(OlvFlexWidget::HeaderTop, QColor(64, 158, 255));
-    auto *bar =
-        new OlvControlBar({ 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf013 }, panel,
-                          { QStringLiteral("Settings") });
-    bar->setGeometry(8, 14, 324, 25);
-    return box;
+    });
+    poll->start(pollInterval);
 }
 
 } // namespace
 
 Page *createOverviewPage(QWidget *parent)
 {
-    auto *page = new Page(
-        QStringLiteral("Overview"),
-        QStringLiteral("Every widget of the library, as it comes. The other pages have one each."),
-        parent);
+    auto *page = new Page(QStringLiteral("Overview"),
+                          QStringLiteral("Every widget of the library, live. The other pages show "
+                                         "them one by one, with all that they can do."),
+                          parent);
+    const QColor green(19, 206, 102);
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(columnSpacing);
-    grid->setVerticalSpacing(18);
-    grid->addLayout(cell(makeButtons()), 0, 0);
-    grid->addLayout(cell(makeTiles()), 0, 1, 2, 1);
-    grid->addLayout(cell(makeValues()), 1, 0);
-    grid->addLayout(cell(makeInput()), 2, 0);
-    grid->addLayout(cell(makeWindow()), 2, 1);
+    grid->setHorizontalSpacing(40);
+    grid->setVerticalSpacing(12);
+    grid->addLayout(makeCell(QStringLiteral("OlvButton"),
+                             { makeButton(page, QStringLiteral("primary"), QString()),
+                               makeButton(page, QStringLiteral("success"), QStringLiteral("plain")),
+                               makeButton(page, QStringLiteral("warning"), QStringLiteral("round")),
+                               makeButton(page, QStringLiteral("danger"), QString()) }),
+                    0, 0);
+    grid->addLayout(makeCell(QStringLiteral("OlvControlBar"), { makeBar(page) }), 0, 1);
+    grid->addLayout(
+        makeCell(QStringLiteral("OlvIconButton, OlvSimpleIconButton"),
+                 { makeTile(page, 0xf0e0, QStringLiteral("Mail"), blue, false),
+                   makeTile(page, 0xf1eb, QStringLiteral("网络"), blue, true),
+                   makeTile(page, 0xf004, QStringLiteral("Likes"), red, true), makeStar(page) }),
+        1, 0);
+    grid->addLayout(makeCell(QStringLiteral("OlvSwitch"),
+                             { makeSwitch(page, green, false), makeSwitch(page, green, true),
+                               makeSwitch(page, blue, true), makeSwitch(page, orange, true) }),
+                    1, 1);
+    grid->addLayout(makeCell(QStringLiteral("OlvLineEdit"),
+                             { makeLine(0xf007, QStringLiteral("Li Wei"), false) }),
+                    2, 0);
+    grid->addLayout(makeCell(QStringLiteral("OlvLineEdit, with a password"),
+                             { makeLine(0xf023, QStringLiteral("correct horse"), true) }),
+                    2, 1);
+    grid->addLayout(makeCell(QStringLiteral("OlvShortcutEdit"), { makeShortcut(page) }), 3, 0);
+    grid->addLayout(makeCell(QStringLiteral("OlvSlider"), { makeSlider(60) }), 3, 1);
+    grid->addLayout(makeCell(QStringLiteral("OlvGridLayout"), { makeFlowGrid(page) }), 4, 0);
+    grid->addLayout(makeCell(QStringLiteral("OlvFlexWidget; OlvMoveWidget and OlvResizeWidget"),
+                             { makeStage() }),
+                    4, 1);
+    grid->setColumnStretch(1, 1);
     page->content()->addLayout(grid);
     page->content()->addStretch();
+    repaintWithFonts(page);
     return page;
 }

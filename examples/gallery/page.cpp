@@ -10,7 +10,7 @@ namespace {
 constexpr int logHeight = 120;
 constexpr int mostLogLines = 500;
 
-QLabel *makeLabel(const QString &text, const QString &styleSheet)
+QLabel *makeLabel(const QString &text, const QString &styleSheet = QString())
 {
     auto *label = new QLabel(text);
     label->setWordWrap(true);
@@ -29,15 +29,15 @@ Page::Page(const QString &title, const QString &about, QWidget *parent)
     m_log->setFixedHeight(logHeight);
     m_log->setMaximumBlockCount(mostLogLines);
     m_log->setPlaceholderText(QStringLiteral("Signals appear here as they come."));
-    m_log->setStyleSheet(QStringLiteral("border: 1px solid rgb(220,223,230); border-radius: 4px;"
-                                        "background: palette(base); color: palette(mid);"));
+    m_log->setStyleSheet(
+        QStringLiteral("border: 1px solid rgba(128,134,148,28%); border-radius: 4px;"
+                       "background: palette(base); color: palette(text);"));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 24, 28, 20);
     layout->setSpacing(10);
-    layout->addWidget(makeLabel(
-        title, QStringLiteral("font-size: 20px; font-weight: bold; color: palette(window-text);")));
-    layout->addWidget(makeLabel(about, QStringLiteral("color: palette(mid);")));
+    layout->addWidget(makeLabel(title, QStringLiteral("font-size: 20px; font-weight: bold;")));
+    layout->addWidget(makeLabel(about));
     layout->addSpacing(8);
     layout->addLayout(m_content, 1);
     layout->addWidget(m_log);
