@@ -65,9 +65,9 @@ protected:
     void paintEvent(QPaintEvent * /*event*/) override
     {
         QPainter painter(this);
-        painter.setPen(QColor(64, 158, 255));
-        painter.setBrush(QColor(236, 245, 255));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        // an outline would lie half outside, where scales such as 1.5 lose it
+        painter.fillRect(rect(), QColor(64, 158, 255));
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor(236, 245, 255));
         painter.setPen(QColor(48, 49, 51));
         painter.setFont(m_font);
         painter.drawText(rect(), Qt::TextWrapAnywhere | Qt::TextWordWrap, m_text);

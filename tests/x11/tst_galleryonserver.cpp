@@ -25,13 +25,29 @@ struct Outcome
     QString errors;
 };
 
-Outcome runGallery(const QStringList &arguments)
+Outcome runGallery(const QStringList &arguments, const QString &scale = QStringLiteral("1"))
 {
     QProcess gallery;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), scale);
+    gallery.setProcessEnvironment(environment);
     gallery.start(QStringLiteral(OLV_GALLERY), arguments);
     const bool finished = gallery.waitForFinished(60000);
     return { finished && gallery.exitStatus() == QProcess::NormalExit ? gallery.exitCode() : -1,
              QString::fromUtf8(gallery.readAllStandardError()) };
+}
+
+/** Where a colour comes first, going down the rows. */
+QPoint firstOf(const QImage &image, QRgb color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) == color) {
+                return { x, y };
+            }
+        }
+    }
+    return {};
 }
 
 template <typename Widget> bool shows(const QWidget &page)
@@ -68,6 +84,8 @@ private Q_SLOTS:
     void darkOptionPutsEveryPageOnADarkBackground();
     void lineEditsAreReadableOnEveryBackground_data();
     void lineEditsAreReadableOnEveryBackground();
+    void boxAroundFittedTextIsWholeAtEveryScale_data();
+    void boxAroundFittedTextIsWholeAtEveryScale();
     void shipsTheIconFontUnderBothFolderNames();
 };
 
@@ -179,6 +197,27 @@ void TestGalleryOnServer::lineEditsAreReadableOnEveryBackground()
     }
     QVERIFY2(dark > 50, qPrintable(QString::number(dark)));
     QVERIFY2(light > 1000, qPrintable(QString::number(light)));
+}
+
+void TestGalleryOnServer::boxAroundFittedTextIsWholeAtEveryScale_data()
+{
+    QTest::addColumn<QString>("scale");
+    QTest::newRow("1.5") << QStringLiteral("1.5");
+    QTest::newRow("2") << QStringLiteral("2");
+}
+
+void TestGalleryOnServer::boxAroundFittedTextIsWholeAtEveryScale()
+{
+    QFETCH(QString, scale);
+    const QTemporaryDir home;
+    const Outcome outcome = runGallery({ QStringLiteral("--screenshots"), home.path() }, scale);
+    QVERIFY2(outcome.code == 0, qPrintable(outcome.errors));
+    const QImage picture(home.filePath(QStringLiteral("text-fitting.png")));
+    QCOMPARE(picture.size(), QSize(1000, 700) * scale.toDouble());
+    const QPoint inside = firstOf(picture, qRgb(236, 245, 255));
+    const QRgb edge = qRgb(64, 158, 255);
+    QCOMPARE(picture.pixel(inside - QPoint(0, 1)), edge);
+    QCOMPARE(picture.pixel(inside - QPoint(1, 0)), edge);
 }
 
 void TestGalleryOnServer::shipsTheIconFontUnderBothFolderNames()
