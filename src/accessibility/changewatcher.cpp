@@ -4,6 +4,7 @@
 #include "accessibility/accessiblewidget_p.h"
 
 #include <QEvent>
+#include <QPointer>
 
 ChangeWatcher::ChangeWatcher(QObject *widget, AccessibleWidget *accessible)
     : m_accessible(accessible)
@@ -13,6 +14,7 @@ ChangeWatcher::ChangeWatcher(QObject *widget, AccessibleWidget *accessible)
 
 bool ChangeWatcher::eventFilter(QObject *watched, QEvent *event)
 {
+    const QPointer<QObject> widget(watched);
     const bool consumed = QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::DynamicPropertyChange:
@@ -23,5 +25,5 @@ bool ChangeWatcher::eventFilter(QObject *watched, QEvent *event)
     default:
         break;
     }
-    return consumed;
+    return consumed || !widget; // what has gone must not get the event any more
 }

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void tellsOfClicks();
     void tellsOfPropertiesThatAreOverwritten_data();
     void tellsOfPropertiesThatAreOverwritten();
+    void survivesItsDeletionByWhoeverHearsOfAChange();
 };
 
 void TestAccessibleButton::isCalledByItsCaption()
@@ -200,6 +201,22 @@ void TestAccessibleButton::tellsOfPropertiesThatAreOverwritten()
     button.show();
     button.setProperty(property.constData(), value);
     QCOMPARE(assistant.heardOf(&button), QStringList{ told });
+}
+
+void TestAccessibleButton::survivesItsDeletionByWhoeverHearsOfAChange()
+{
+    const Assistant assistant;
+    static QPointer<OlvButton> button;
+    button = new OlvButton(QStringLiteral("Save"));
+    QVERIFY(accessible(button));
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::NameChanged) {
+            delete button;
+        }
+    });
+    button->setProperty("content", QStringLiteral("Keep"));
+    QAccessible::installUpdateHandler(before);
+    QVERIFY(button.isNull());
 }
 
 QTEST_MAIN(TestAccessibleButton)
