@@ -294,8 +294,15 @@ void World::place(QWidget *widget)
             // Qt takes half a minute to draw one of the largest size
             moved->setMaximumSize(largestWindow, largestWindow);
         }
-        moved->resize(m_dice.side(), m_dice.side());
+        moved->resize(sideOf(moved), sideOf(moved));
     }
+}
+
+int World::sideOf(const QWidget *widget)
+{
+    // of a grid the storm checks that its own layout keeps to the largest size
+    const int most = widget->inherits("OlvGridLayout") ? QWIDGETSIZE_MAX : 2 * QWIDGETSIZE_MAX;
+    return qMin(m_dice.side(), most);
 }
 
 void World::alter(QWidget *widget)

@@ -91,6 +91,7 @@ private:
     void actRarely(QWidget *widget);
     void alter(QWidget *widget);
     void place(QWidget *widget);
+    int sideOf(const QWidget *widget);
     void move(QWidget *widget);
     void overwriteProperty(QObject *object);
     void setHugeText(QWidget *widget);
