@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
-#include <OlvWidgets/foundation.h>
 
 #include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
+#include "foundation/caption_p.h"
 #include "foundation/shape_p.h"
 
 #include <QPainter>
@@ -189,21 +189,19 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
     const int radius =
         height() / (look.type == QLatin1String("round") ? roundRadiusDivisor : radiusDivisor);
     const Shape body = Shape::roundedRect(rect(), radius);
-    body.fill(painter, fillColor(look, palette));
+    const QColor fill = fillColor(look, palette);
+    body.fill(painter, fill);
     if (look.hasBorder()) {
         // not drawn further in for the border: half of it is clipped, which makes it look thin
         body.stroke(painter, palette[ButtonPalette::RestingPlainBorder], borderWidth);
     }
 
     const QString content = property(contentProperty).toString();
-    if (content.isEmpty()) {
-        return;
+    if (!content.isEmpty()) {
+        const Caption caption{ content, captionColor(look, palette), QStringLiteral("宋体"),
+                               captionPointSize };
+        caption.draw(painter, { body, fill, look.hasBorder() ? borderWidth : 0 });
     }
-    painter.setPen(captionColor(look, palette));
-    QFont font(QStringLiteral("宋体"), captionPointSize);
-    font.setPointSize(OlvGlobal::adaptDocumentToPointSize(content, size(), font));
-    painter.setFont(font);
-    painter.drawText(rect(), Qt::AlignCenter, content);
 }
 
 void OlvButton::setState(const QString &state)

@@ -1,63 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/shape_p.h"
 
-#include <QCache>
+#include "foundation/copytarget_p.h"
+#include "foundation/keptpixels_p.h"
+
 #include <QImage>
-#include <QPaintEngine>
 #include <QPainter>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
 constexpr int bytesOfAll = 1024 * 1024;
-/** Larger ones gain little, and a few of them would drive out all others. */
-constexpr int bytesOfOne = bytesOfAll / 8;
-constexpr int bytesOfPixel = 4;
 constexpr int opaque = 255;
-/** How far from the origin of the device positions are certain to be exact. */
-constexpr qreal farthest = 16384.0;
 constexpr int smallestDiameter = 4;
-constexpr size_t rememberedRequests = 256;
 
 /** The outline's outer half, and a pixel that it may touch. */
 int marginOf(int lineWidth)
 {
     return lineWidth > 0 ? (lineWidth + 1) / 2 + 1 : 0;
-}
-
-bool isSmall(QSize size)
-{
-    return qint64(size.width()) * size.height() <= bytesOfOne / bytesOfPixel;
-}
-
-bool isWhole(qreal position)
-{
-    return qAbs(position) <= farthest && position == qRound(position);
-}
-
-bool isProven(QImage::Format format)
-{
-    switch (format) {
-    case QImage::Format_RGB32:
-    case QImage::Format_ARGB32_Premultiplied:
-    case QImage::Format_RGB888:
-    case QImage::Format_RGBA8888_Premultiplied:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool isProven(const QPaintEngine *engine)
-{
-    if (!engine || engine->type() != QPaintEngine::Raster) {
-        return false;
-    }
-    const QPaintDevice *device = engine->paintDevice();
-    return device && device->devType() == QInternal::Image
-        && isProven(static_cast<const QImage *>(device)->format());
 }
 
 /**
@@ -71,17 +34,6 @@ bool isProven(QSize size, int radius, int lineWidth)
 {
     const int diameter = qMin(2 * radius, qMin(size.width(), size.height()));
     return lineWidth != 1 && diameter >= lineWidth + smallestDiameter;
-}
-
-/** Whether copying pixels gives what drawing the shape itself gives. */
-bool isProven(const QPainter &painter)
-{
-    const QTransform &transform = painter.deviceTransform();
-    return isProven(painter.paintEngine()) && transform.type() <= QTransform::TxTranslate
-        && isWhole(transform.dx()) && isWhole(transform.dy())
-        && painter.testRenderHint(QPainter::Antialiasing) && painter.opacity() >= 1.0
-        && painter.compositionMode() == QPainter::CompositionMode_SourceOver
-        && !painter.hasClipping();
 }
 
 } // namespace
@@ -141,45 +93,6 @@ private:
     QImage m_bottom;
 };
 
-/** The layers that are kept. */
-class Shape::Layers
-{
-public:
-    static Layers &instance()
-    {
-        static Layers layers;
-        return layers;
-    }
-
-    /**
-     * The pixels of @p layer; null at the first request: a size that comes only once, as many do
-     * while a window is resized, is drawn directly and drives out nothing.
-     */
-    const Pixels *find(const Layer &layer)
-    {
-        if (const Pixels *kept = m_kept.object(layer)) {
-            return kept;
-        }
-        const uint hash = qHash(layer, 0);
-        uint &requested = m_requested[hash % rememberedRequests];
-        if (requested != hash) {
-            requested = hash;
-            return nullptr;
-        }
-        requested = 0; // what has been driven out since is to come twice again
-        auto *pixels = new Pixels(rasterised(layer));
-        m_kept.insert(layer, pixels, pixels->bytes());
-        return pixels;
-    }
-
-private:
-    static QImage rasterised(const Layer &layer);
-
-    QCache<Layer, Pixels> m_kept{ bytesOfAll };
-    /** The hashes of requests that came once. */
-    std::array<uint, rememberedRequests> m_requested{};
-};
-
 Shape::Pixels::Pixels(const QImage &image)
     : m_all(image)
 {
@@ -210,7 +123,7 @@ QImage Shape::Pixels::rows(int first, int end, QImage::Format format) const
                        : QImage();
 }
 
-QImage Shape::Layers::rasterised(const Layer &layer)
+QImage Shape::rasterised(const Layer &layer)
 {
     const int margin = marginOf(layer.lineWidth);
     QImage image(layer.size + QSize(2 * margin, 2 * margin), QImage::Format_ARGB32_Premultiplied);
@@ -245,6 +158,11 @@ Shape Shape::ellipse(const QRect &rect)
     return Shape(Ellipse, rect, qMax(rect.width(), rect.height()));
 }
 
+QRect Shape::rect() const
+{
+    return m_rect;
+}
+
 void Shape::fill(QPainter &painter, const QColor &color) const
 {
     if (!drawFromLayer(painter, { m_kind, m_rect.size(), m_radius, 0, color.rgba64() })) {
@@ -265,16 +183,40 @@ void Shape::stroke(QPainter &painter, const QColor &color, int width) const
 
 bool Shape::drawFromLayer(QPainter &painter, const Layer &layer) const
 {
+    static KeptPixels<Layer, Pixels> layers(bytesOfAll);
     const int margin = marginOf(layer.lineWidth);
-    if (!isSmall(m_rect.size() + QSize(2 * margin, 2 * margin))
-        || !isProven(m_rect.size(), m_radius, layer.lineWidth) || !isProven(painter)) {
+    if (!layers.isSmall(m_rect.size() + QSize(2 * margin, 2 * margin))
+        || !isProven(m_rect.size(), m_radius, layer.lineWidth) || !copyTarget(painter)
+        || !painter.testRenderHint(QPainter::Antialiasing)) {
         return false;
     }
-    const Pixels *pixels = Layers::instance().find(layer);
+    const Pixels *pixels = layers.find(layer, [&] { return new Pixels(rasterised(layer)); });
     if (pixels) {
         pixels->draw(painter, m_rect.topLeft() - QPoint(margin, margin));
     }
     return pixels;
+}
+
+bool Shape::isPlain(const QRect &part, int lineWidth) const
+{
+    // a straight side lies between pixels, and the fill reaches up to it in full
+    const int margin = marginOf(lineWidth);
+    const QRect inner = m_rect.adjusted(margin, margin, -margin, -margin);
+    // a rectangle turned inside out contains what lies in between, too
+    if (!inner.isValid() || !inner.contains(part)) {
+        return false;
+    }
+    // how far the part reaches into a corner, from where its arc begins
+    const double across = qMin<double>(m_radius, m_rect.width() / 2.0);
+    const double down = qMin<double>(m_radius, m_rect.height() / 2.0);
+    const double x = across - qMin(part.left() - m_rect.left(), m_rect.right() - part.right());
+    const double y = down - qMin(part.top() - m_rect.top(), m_rect.bottom() - part.bottom());
+    if (x <= 0 || y <= 0) {
+        return true;
+    }
+    const double innerAcross = across - margin - 1;
+    const double innerDown = down - margin - 1;
+    return innerAcross > 0 && innerDown > 0 && std::hypot(x / innerAcross, y / innerDown) <= 1.0;
 }
 
 void Shape::draw(QPainter &painter) const

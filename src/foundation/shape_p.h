@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QRect>
 
+class QImage;
 class QPainter;
 
 /**
@@ -35,6 +36,18 @@ public:
      */
     void stroke(QPainter &painter, const QColor &color, int width) const;
 
+    QRect rect() const;
+    /**
+     * Whether @p part has the one colour that the shape is filled with, all over: it is clear of
+     * the edge, and of an outline of @p lineWidth pixels.
+     */
+    bool isPlain(const QRect &part, int lineWidth) const;
+
+    friend bool operator==(const Shape &a, const Shape &b)
+    {
+        return a.m_rect == b.m_rect && a.m_radius == b.m_radius && a.m_kind == b.m_kind;
+    }
+
 private:
     enum Kind {
         RoundedRect,
@@ -43,10 +56,10 @@ private:
 
     struct Layer;
     class Pixels;
-    class Layers;
 
     Shape(Kind kind, const QRect &rect, int radius);
 
+    static QImage rasterised(const Layer &layer);
     bool drawFromLayer(QPainter &painter, const Layer &layer) const;
     void draw(QPainter &painter) const;
 

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/shape_p.h"
+
+#include <QColor>
+#include <QImage>
+#include <QString>
+
+class QPainter;
+
+/** What a caption is written on. */
+struct CaptionGround
+{
+    Shape shape;
+    QColor color;  ///< that the shape is filled with
+    int lineWidth; ///< of its outline, in pixels; 0 without one
+};
+
+/**
+ * A text in the middle of a filled shape, in the largest font that fits, down from a given one.
+ *
+ * Laying out and blending a short text costs more than all else of a small widget. So, like the
+ * shapes, a caption that has been written before is kept as pixels: those that it changed, copied
+ * from then on. Only captions are kept that stand where their ground has one opaque colour, and
+ * whatever their pixels depend on is compared, so that they are exactly those that QPainter draws.
+ */
+struct Caption
+{
+    QString text;
+    QColor color;
+    QString family;
+    int pointSize; ///< the largest
+
+    /**
+     * Draws the caption on @p ground, which has been drawn and is all that @p painter may draw on.
+     * The painter has the font of its widget; its font and its pen are arbitrary afterwards.
+     */
+    void draw(QPainter &painter, const CaptionGround &ground) const;
+
+private:
+    struct Key;
+    class Pixels;
+    class Store;
+
+    Key keyOf(const QPainter &painter, const CaptionGround &ground, QImage::Format format) const;
+    Pixels *writeAndKeep(QPainter &painter, const CaptionGround &ground, const QImage &target,
+                         const Key &key) const;
+    void write(QPainter &painter, const CaptionGround &ground) const;
+};
