@@ -129,6 +129,17 @@ void paintPrepared(benchmark::State &state, const ButtonCase &look)
     measurePainting(state, *floor);
 }
 
+void paintNothing(benchmark::State &state)
+{
+    QWidget window;
+    const OlvButton button;
+    auto *undrawn =
+        new UndrawnWidget(button, { "color", "state", "type", "isChecked", "content" }, &window);
+    undrawn->setGeometry(QRect(QPoint(10, 10), buttonSize));
+    showAndWait(window);
+    measurePainting(state, *undrawn);
+}
+
 void paintStyleSheet(benchmark::State &state, const ButtonCase &look)
 {
     QWidget window;
@@ -167,6 +178,7 @@ void addButtons()
     const QString plain = QStringLiteral("plain");
     const QString round = QStringLiteral("round");
     addButton({ "button-empty", {}, {}, State::Resting });
+    addBenchmark("button-empty/undrawn", paintNothing);
     addButton({ "button-rest", eleven, {}, State::Resting });
     addButton({ "button-hover", eleven, {}, State::Hovered });
     addButton({ "button-pressed", eleven, {}, State::Pressed });

@@ -201,10 +201,14 @@ void addFlowGrid()
         addSized("grid-all-move/library", count, moveAll<LibraryGrid>);
         addSized("grid-all-move/moves", count, moveAllBare);
         addSized("grid-all-move/flow-layout", count, moveAll<ScrolledFlowLayout>);
+        addSized("grid-all-move/remembering", count, moveAll<RememberingFlowLayout>);
         addSized("grid-none-moves/library", count, moveNone<LibraryGrid>);
         addSized("grid-none-moves/flow-layout", count, moveNone<ScrolledFlowLayout>);
+        addSized("grid-none-moves/remembering", count, moveNone<RememberingFlowLayout>);
         addSized("grid-add-list/library", count, addList<LibraryGrid>);
+        addSized("grid-add-list/moves", count, addList<MovedTiles>);
         addSized("grid-add-list/flow-layout", count, addList<ScrolledFlowLayout>);
+        addSized("grid-add-list/remembering", count, addList<RememberingFlowLayout>);
         addScrolling("grid-scroll-step", count, makeEmptyTile);
         addScrolling("grid-scroll-step-drawn", count, makeDrawnTile);
         addSized("grid-add-each/library", count, [](benchmark::State &state, int tiles) {

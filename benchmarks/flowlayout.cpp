@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "flowlayout.h"
 
-FlowLayout::FlowLayout(QWidget *parent)
+FlowLayout::FlowLayout(QWidget *parent, Sizes sizes)
     : QLayout(parent)
+    , m_sizes(sizes)
 {
     setContentsMargins(0, 0, 0, 0);
 }
@@ -50,7 +51,7 @@ bool FlowLayout::hasHeightForWidth() const
 
 int FlowLayout::heightForWidth(int width) const
 {
-    if (width != m_knownWidth) {
+    if (m_sizes == Sizes::WorkedOutEachTime || width != m_knownWidth) {
         m_knownHeight = place(QRect(0, 0, width, 0), Placing::TestOnly);
         m_knownWidth = width;
     }
@@ -59,7 +60,7 @@ int FlowLayout::heightForWidth(int width) const
 
 QSize FlowLayout::minimumSize() const
 {
-    if (!m_minimumSize.isValid()) {
+    if (m_sizes == Sizes::WorkedOutEachTime || !m_minimumSize.isValid()) {
         QSize size(0, 0);
         for (const QLayoutItem *item : m_items) {
             size = size.expandedTo(item->minimumSize());

@@ -6,13 +6,15 @@
 
 /**
  * The layout that one writes on stock Qt to put widgets into rows: each item as large as its size
- * hint, a new row where the next one does not fit. As Qt's own layouts do, it remembers the height
- * for a width until something changes.
+ * hint, a new row where the next one does not fit.
  */
 class FlowLayout : public QLayout
 {
 public:
-    explicit FlowLayout(QWidget *parent);
+    /** As the example in Qt's documentation has it, or with the one care that Qt's own layouts
+     * take. */
+    enum class Sizes { WorkedOutEachTime, Remembered };
+    FlowLayout(QWidget *parent, Sizes sizes);
     ~FlowLayout() override;
 
     /** The margin around and the gap between the items. */
@@ -35,6 +37,7 @@ private:
     enum class Placing { TestOnly, Apply };
     int place(const QRect &rect, Placing placing) const;
 
+    const Sizes m_sizes;
     QList<QLayoutItem *> m_items;
     int m_gap = 15; // pixels
     mutable int m_knownWidth = -1;

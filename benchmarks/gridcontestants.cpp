@@ -101,10 +101,10 @@ void LibraryGrid::reflow()
     content->reUi();
 }
 
-ScrolledFlowLayout::ScrolledFlowLayout()
+ScrolledFlowLayout::ScrolledFlowLayout(FlowLayout::Sizes sizes)
     : area(&window)
     , content(new QWidget)
-    , layout(new FlowLayout(content))
+    , layout(new FlowLayout(content, sizes))
 {
     area.setFrameShape(QFrame::NoFrame);
     area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -134,11 +134,23 @@ void ScrolledFlowLayout::reflow()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
+RememberingFlowLayout::RememberingFlowLayout()
+    : ScrolledFlowLayout(FlowLayout::Sizes::Remembered)
+{ }
+
 BareTiles::BareTiles()
     : content(new QWidget(&window))
 {
     window.resize(viewSize);
     content->resize(viewSize);
+}
+
+void MovedTiles::add(const Tiles &tiles)
+{
+    Flow flow(content->width(), defaultGap);
+    for (QWidget *tile : tiles) {
+        tile->move(flow.next(tile->size()));
+    }
 }
 
 void NaiveGrid::add(QWidget *tile)

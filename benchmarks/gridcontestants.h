@@ -36,7 +36,7 @@ struct LibraryGrid
 /** The same on stock Qt: a scroll area whose widget has a flow layout. */
 struct ScrolledFlowLayout
 {
-    ScrolledFlowLayout();
+    explicit ScrolledFlowLayout(FlowLayout::Sizes sizes = FlowLayout::Sizes::WorkedOutEachTime);
 
     void add(const Tiles &tiles);
     void setGap(int gap);
@@ -48,6 +48,11 @@ struct ScrolledFlowLayout
     FlowLayout *layout;
 };
 
+struct RememberingFlowLayout : ScrolledFlowLayout
+{
+    RememberingFlowLayout();
+};
+
 /** Tiles in a window that the case moves by itself. */
 struct BareTiles
 {
@@ -55,6 +60,12 @@ struct BareTiles
 
     QWidget window;
     QWidget *content;
+};
+
+/** Nothing but a move to each tile's place. */
+struct MovedTiles : BareTiles
+{
+    void add(const Tiles &tiles);
 };
 
 /** The grid in its simplest form: all is placed anew at each addition. */

@@ -96,15 +96,16 @@ def measured(results, target):
     if isinstance(target, Counter):
         return results.median(target.case, target.contestant, None, target.counter)
     counter = COUNTED_CASES.get(target.case)
-    library = results.median(target.case, "library", target.size, counter)
+    compared = results.median(target.case, target.compared, target.size, counter)
     other = results.median(target.case, target.contestant, target.size, counter)
-    return library / other if library is not None and other else None
+    return compared / other if compared is not None and other else None
 
 
 def row(target, value):
     case = target.case
     if isinstance(target, Ratio):
         case = f"{case}, {target.size:,}" if target.size else case
+        case = f"{case}: {target.compared}" if target.compared != "library" else case
         against, form = target.contestant, "{:.3f}" if value < 1 else "{:.2f}"
     elif isinstance(target, Slope):
         against, form = "slope", "{:.2f}"

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QEnterEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QWindow>
 
 #include <atomic>
@@ -89,6 +90,25 @@ void measurePainting(benchmark::State &state, QWidget &widget)
     target.fill(Qt::white);
     while (state.KeepRunning()) {
         widget.render(&target, {}, {}, QWidget::DrawChildren);
+    }
+}
+
+UndrawnWidget::UndrawnWidget(const QWidget &other, QVector<const char *> read, QWidget *parent)
+    : QWidget(parent)
+    , m_read(std::move(read))
+{
+    const QList<QByteArray> names = other.dynamicPropertyNames();
+    for (const QByteArray &name : names) {
+        setProperty(name.constData(), other.property(name.constData()));
+    }
+}
+
+void UndrawnWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const char *name : qAsConst(m_read)) {
+        benchmark::DoNotOptimize(property(name));
     }
 }
 

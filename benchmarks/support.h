@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QImage>
 #include <QPointF>
+#include <QVector>
 #include <QWidget>
 
 #include <functional>
@@ -33,6 +34,22 @@ void paintUpdates(QWidget &window);
 QImage pictureOf(QWidget &widget);
 /** The timed loop of all painting: @p widget drawn over and over into one image. */
 void measurePainting(benchmark::State &state, QWidget &widget);
+
+/**
+ * Opens its painter, reads properties, and draws nothing. It has copies of the properties of
+ * another widget, and reads some of them.
+ */
+class UndrawnWidget : public QWidget
+{
+public:
+    UndrawnWidget(const QWidget &other, QVector<const char *> read, QWidget *parent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QVector<const char *> m_read;
+};
 
 /** Tells @p widget that the pointer came in, and moved, at @p place. */
 void enter(QWidget &widget, QPointF place);

@@ -81,6 +81,17 @@ QWidget *preparedSlider(QWidget *parent)
     return preparedPair(track, knob, QRect(5, 5, 20, 20), parent);
 }
 
+void paintUndrawnSwitch(benchmark::State &state)
+{
+    QWidget window;
+    const OlvSwitch library;
+    auto *undrawn = new UndrawnWidget(library, { "switch", "openColor" }, &window);
+    undrawn->setGeometry(switchGeometry);
+    auto *knob = new UndrawnWidget(QWidget(), {}, undrawn);
+    knob->setGeometry(0, 0, switchGeometry.height(), switchGeometry.height());
+    measureShown(state, window, *undrawn);
+}
+
 template <typename Library>
 void paintPrepared(benchmark::State &state, QWidget *(*prepare)(QWidget *), const QRect &geometry)
 {
@@ -105,6 +116,7 @@ void addSwitchAndSlider()
     addBenchmark("switch/floor", [](benchmark::State &state) {
         paintPrepared<OlvSwitch>(state, preparedSwitch, switchGeometry);
     });
+    addBenchmark("switch/undrawn", paintUndrawnSwitch);
     addBenchmark("slider/library", paintSlider);
     addBenchmark("slider/floor", [](benchmark::State &state) {
         paintPrepared<OlvSlider>(state, preparedSlider, sliderGeometry);

@@ -8,12 +8,13 @@ from typing import NamedTuple, Optional
 
 
 class Ratio(NamedTuple):
-    """The library's median is at most `limit` times the contestant's."""
+    """The library's median, or another's, is at most `limit` times the contestant's."""
 
     case: str
     contestant: str
     limit: Optional[float]
     size: Optional[int] = None
+    compared: str = "library"
 
 
 class Slope(NamedTuple):
@@ -37,6 +38,8 @@ TARGETS = [
     Ratio("button-empty", "floor", 0.40),
     Ratio("button-empty", "sheet", 0.25),
     Ratio("button-empty", "fusion", 1.0),
+    Ratio("button-empty", "floor", None, compared="undrawn"),
+    Ratio("button-empty", "sheet", None, compared="undrawn"),
     *(
         target
         for state in ("rest", "hover", "pressed", "round")
@@ -48,6 +51,7 @@ TARGETS = [
     Ratio("button-plain", "floor", 0.37),
     Ratio("button-shrunk", "floor", 1.05),
     Ratio("switch", "floor", 0.22),
+    Ratio("switch", "floor", None, compared="undrawn"),
     Ratio("slider", "floor", 0.22),
     Ratio("slider", "fusion", 1.05),
     Ratio("slider", "sheet", None),
@@ -86,11 +90,25 @@ TARGETS = [
         for target in (
             Ratio("grid-all-move", "moves", 1.1, size),
             Ratio("grid-all-move", "flow-layout", 0.7, size),
+            Ratio("grid-all-move", "remembering", None, size),
+            Ratio("grid-all-move", "flow-layout", None, size, compared="moves"),
         )
     ),
-    *(Ratio("grid-none-moves", "flow-layout", 0.35, size) for size in (1000, 3000, 10000)),
-    Ratio("grid-add-list", "flow-layout", 1.2, 1000),
-    Ratio("grid-add-list", "flow-layout", 1.2, 10000),
+    *(
+        Ratio("grid-none-moves", contestant, limit, size)
+        for size in (1000, 3000, 10000)
+        for contestant, limit in (("flow-layout", 0.35), ("remembering", None))
+    ),
+    *(
+        target
+        for size in (1000, 10000)
+        for target in (
+            Ratio("grid-add-list", "flow-layout", 1.2, size),
+            Ratio("grid-add-list", "remembering", None, size),
+            Ratio("grid-add-list", "moves", None, size),
+            Ratio("grid-add-list", "flow-layout", None, size, compared="moves"),
+        )
+    ),
     Ratio("grid-scroll-step", "scroll-area", 1.4, 1000),
     Ratio("grid-scroll-step", "scroll-area", 1.2, 10000),
     *(Ratio("grid-scroll-step-drawn", "scroll-area", None, size) for size in (1000, 10000)),
