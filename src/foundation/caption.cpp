@@ -21,7 +21,7 @@ constexpr int largestPixelSize = 48;
 constexpr int pointsPerInch = 72;
 
 /** The formats that a window's pixels have. */
-bool isWindows(QImage::Format format)
+bool isWindowFormat(QImage::Format format)
 {
     return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied;
 }
@@ -173,7 +173,7 @@ void Caption::draw(QPainter &painter, const CaptionGround &ground) const
 {
     const QImage *target = copyTarget(painter);
     KeptPixels<Key, Pixels> &kept = Store::instance().pixels;
-    if (!target || !isWindows(target->format()) || !ground.color.rgba64().isOpaque()
+    if (!target || !isWindowFormat(target->format()) || !ground.color.rgba64().isOpaque()
         || !kept.isSmall(ground.shape.rect().size())) {
         write(painter, ground);
         return;
@@ -219,8 +219,7 @@ Caption::Pixels *Caption::writeAndKeep(QPainter &painter, const CaptionGround &g
         write(painter, ground);
         return nullptr;
     }
-    // Taken from where Qt has written it: into an image apart it does not write as into a window,
-    // where it smooths the edges of glyphs by the parts of a pixel that a screen may have.
+    // taken from where Qt has written it: into an image apart it would smooth the glyphs otherwise
     const QImage before = target.copy(area);
     write(painter, ground);
     return new Pixels(before, target.copy(area), key);

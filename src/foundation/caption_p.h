@@ -34,7 +34,7 @@ struct Caption
 
     /**
      * Draws the caption on @p ground, which has been drawn and is all that @p painter may draw on.
-     * The painter has the font of its widget; its font and its pen are arbitrary afterwards.
+     * The painter is a widget's, and has its font; its font and its pen are arbitrary afterwards.
      */
     void draw(QPainter &painter, const CaptionGround &ground) const;
 

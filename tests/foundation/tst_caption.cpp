@@ -84,6 +84,7 @@ struct Target
     QRegion region = {};
     Prepare prepare = [](QWidget & /*widget*/) {
     };
+    bool isPainted = false; ///< drawn by a painter that somebody else has opened on the image
 };
 
 QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &paint)
@@ -93,8 +94,13 @@ QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &pain
     QImage image(size + QSize(60, 60), target.format);
     image.fill(QColor(200, 180, 30));
     const QRegion region = target.region.isEmpty() ? QRegion(widget.rect()) : target.region;
-    widget.render(&image, QPoint(20, 25) + target.offset + region.boundingRect().topLeft(), region,
-                  QWidget::RenderFlags());
+    const QPoint place = QPoint(20, 25) + target.offset + region.boundingRect().topLeft();
+    if (target.isPainted) {
+        QPainter painter(&image);
+        widget.render(&painter, place, region, QWidget::RenderFlags());
+    } else {
+        widget.render(&image, place, region, QWidget::RenderFlags());
+    }
     return image;
 }
 
@@ -182,6 +188,8 @@ void TestCaption::writesTheVeryPixels_data()
             QTest::addRow("format %d, %d, %d further", int(format), offset.x(), offset.y())
                 << Target{ format, offset };
         }
+        QTest::addRow("format %d, by another painter", int(format))
+            << Target{ format, {}, {}, [](QWidget & /*widget*/) {}, true };
         QTest::addRow("format %d, two parts", int(format))
             << Target{ format, {}, QRegion(0, 0, 41, 36) | QRegion(57, 12, 40, 9) };
     }
@@ -214,7 +222,7 @@ void TestCaption::writesTheVeryPixelsInEverySize()
 {
     QRandomGenerator random(7);
     int copies = 0;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 1000; ++i) {
         const QSize size(random.bounded(1, 130), random.bounded(1, 50));
         Scene scene = sceneOf(texts().at(random.bounded(texts().size())), size);
         scene.radius = random.bounded(40);
@@ -223,7 +231,7 @@ void TestCaption::writesTheVeryPixelsInEverySize()
         comparePictures(scene, { QImage::Format_RGB32 }, &wasCopied);
         copies += wasCopied;
     }
-    QVERIFY2(copies > 1000, QByteArray::number(copies).constData());
+    QVERIFY2(copies > 300, QByteArray::number(copies).constData());
 }
 
 void TestCaption::writesTheVeryPixelsInTheWidgetsFont_data()
@@ -282,7 +290,7 @@ void TestCaption::copiesWhatIsPlainAlone()
 {
     QRandomGenerator random(11);
     int plain = 0;
-    for (int i = 0; i < 30000; ++i) {
+    for (int i = 0; i < 10000; ++i) {
         const QRect rect(2, 2, random.bounded(1, 60), random.bounded(1, 40));
         const int radius = random.bounded(30);
         const int lineWidth = random.bounded(4);
