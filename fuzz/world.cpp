@@ -3,41 +3,15 @@
 
 #include "events.h"
 
-#include <QApplication>
 #include <QMetaMethod>
-#include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int mostHosts = 5;
 constexpr int mostWidgets = 20;
 constexpr int mostAddresses = 64;
-constexpr int deepest = 3;
-/** What a window may grow to: the platform keeps its pixels. */
-constexpr int largestWindow = 1200;
-
-constexpr int farthest = 1 << 24;
-
-/** A window's pixels are real: it must not follow a hostile size. */
-void bound(QWidget *window)
-{
-    window->setMaximumSize(largestWindow, largestWindow);
-}
-
-/** Qt's own widgets stand being deleted in few of their signals; the library's in all. */
-bool standsDeletion(const QMetaMethod &signal)
-{
-    const QByteArray className = signal.enclosingMetaObject()->className();
-    return className.startsWith("Olv")
-        || (className == "QAbstractButton" && signal.name() == "clicked");
-}
-
-/** Whether it is what a widget is made of, as Qt's own are; the library's helpers are not. */
-bool isPart(const QObject *object)
-{
-    return object->inherits("QLayout") || object->inherits("QLabel")
-        || (object->parent() && object->parent()->inherits("OlvLineEdit"));
-}
 
 template <typename Object> void prune(QVector<QPointer<Object>> &objects)
 {
@@ -275,156 +249,6 @@ void World::actRarely(QWidget *widget)
     }
 }
 
-void World::place(QWidget *widget)
-{
-    const Guard guard(*this);
-    QWidget *moved = m_dice.oneIn(4) ? within(widget) : widget;
-    switch (m_dice.below(6)) {
-    case 0:
-        // further off, the right edge is beyond an int, and Qt does not look
-        moved->move(qBound(-farthest, m_dice.number(), farthest), m_dice.between(-50, 50));
-        break;
-    case 1:
-        if (m_dice.oneIn(8)) {
-            anyHost()->resize(m_dice.side(), m_dice.side());
-        }
-        break;
-    default:
-        if (moved->inherits("QPushButton")) {
-            // Qt takes half a minute to draw one of the largest size
-            moved->setMaximumSize(largestWindow, largestWindow);
-        }
-        moved->resize(sideOf(moved), sideOf(moved));
-    }
-}
-
-int World::sideOf(const QWidget *widget)
-{
-    // of a grid the storm checks that its own layout keeps to the largest size
-    const int most = widget->inherits("OlvGridLayout") ? QWIDGETSIZE_MAX : 2 * QWIDGETSIZE_MAX;
-    return qMin(m_dice.side(), most);
-}
-
-void World::alter(QWidget *widget)
-{
-    const Guard guard(*this);
-    switch (m_dice.below(14)) {
-    case 0:
-    case 1:
-        anyHost()->show();
-        break;
-    case 2:
-        anyHost()->hide();
-        break;
-    case 3:
-    case 4:
-        widget->setVisible(m_dice.coin());
-        break;
-    case 5:
-        within(widget)->setFocus(Qt::FocusReason(m_dice.below(Qt::NoFocusReason)));
-        break;
-    case 6:
-        widget->setEnabled(m_dice.coin());
-        break;
-    case 7:
-        widget->close();
-        break;
-    case 8:
-        widget->setFont(m_dice.font());
-        break;
-    case 9:
-        widget->setPalette(m_dice.palette());
-        break;
-    case 10:
-        widget->setStyleSheet(m_dice.styleSheet());
-        break;
-    case 11:
-        widget->setLayoutDirection(m_dice.coin() ? Qt::RightToLeft : Qt::LeftToRight);
-        break;
-    case 12:
-        widget->setAttribute(Qt::WA_InputMethodEnabled, m_dice.coin());
-        break;
-    default:
-        if (m_dice.coin()) {
-            widget->raise();
-        } else {
-            widget->lower();
-        }
-    }
-}
-
-void World::move(QWidget *widget)
-{
-    const Guard guard(*this);
-    // where a hidden child had taken the focus over, Qt leaves the old one with the window for good
-    QWidget *focused = widget->window()->focusWidget();
-    if (focused && widget->isAncestorOf(focused)) {
-        focused->clearFocus();
-    }
-    if (m_dice.oneIn(8)) {
-        bound(widget);
-        widget->setParent(nullptr);
-        return;
-    }
-    QWidget *host = anyHost();
-    if (host != widget && !widget->isAncestorOf(host)) {
-        widget->setParent(host);
-    }
-}
-
-void World::overwriteProperty(QObject *object)
-{
-    const QByteArray name = m_properties.isEmpty() ? QByteArray("x") : m_dice.pick(m_properties);
-    QVariant value;
-    switch (m_dice.below(4)) {
-    case 0:
-        value = anyAddress();
-        break;
-    case 1: {
-        // of another widget, or of the wrong one of its own
-        const QObjectList &children = object->children();
-        if (!children.isEmpty()) {
-            value = reinterpret_cast<qulonglong>(m_dice.pick(children));
-        }
-        break;
-    }
-    case 2:
-        value = object->property(name.constData());
-        break;
-    default:
-        value = m_dice.variant();
-    }
-    object->setProperty(name.constData(), value);
-}
-
-void World::setHugeText(QWidget *widget)
-{
-    const QPointer<QWidget> alive(widget);
-    m_family->setText(widget, m_dice.megabyte());
-    if (alive) {
-        Events::paint(m_dice, widget);
-    }
-    if (alive) {
-        m_family->setText(widget, m_dice.text());
-    }
-}
-
-void World::takeHelper(QWidget *widget)
-{
-    if (widget->children().isEmpty()) {
-        return;
-    }
-    QObject *helper = m_dice.pick(widget->children());
-    if (isPart(helper)) {
-        return;
-    }
-    if (m_dice.oneIn(3) && !helper->isWidgetType()) {
-        helper->setParent(m_dice.coin() ? static_cast<QObject *>(anyHost()) : this);
-    } else {
-        destroy(helper);
-    }
-}
-
 void World::destroy(QObject *object)
 {
     if (m_guards > 0) {
@@ -439,87 +263,5 @@ void World::pass(int milliseconds)
     // what is half destroyed has events waiting that Qt does not look through
     if (m_guards == 0) {
         Storm::processEvents(milliseconds);
-    }
-}
-
-void World::strike()
-{
-    if (m_depth >= deepest || !m_dice.oneIn(6)) {
-        return;
-    }
-    ++m_depth;
-    const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
-    if (standsDeletion(signal)) {
-        strikeFrom(sender());
-    } else {
-        const Guard guard(*this);
-        strikeGently(signal.name() == "destroyed");
-    }
-    --m_depth;
-}
-
-void World::strikeGently(bool isDying)
-{
-    QWidget *other = anyWidget();
-    if (!other) {
-        return;
-    }
-    switch (m_dice.below(8)) {
-    case 0:
-        destroy(other);
-        break;
-    case 1:
-        overwriteProperty(other);
-        break;
-    case 2:
-        m_family->call(*this, other);
-        break;
-    case 3:
-        // a parent would be drawn, or shown, with what is left of its child
-        if (!isDying) {
-            step();
-        }
-        break;
-    default:
-        if (isDying) {
-            Events::click(m_dice, other);
-        } else {
-            Events::sendAny(m_dice, other);
-        }
-    }
-}
-
-void World::strikeFrom(QObject *from)
-{
-    switch (m_dice.below(8)) {
-    case 0:
-    case 1:
-        if (!isPart(from)) {
-            destroy(from);
-        }
-        break;
-    case 2:
-        if (from->parent() && m_dice.oneIn(4)) {
-            destroy(from->parent());
-        }
-        break;
-    case 3:
-        if (QWidget *other = anyWidget()) {
-            destroy(other);
-        }
-        break;
-    case 4:
-        pass(m_dice.between(0, 500));
-        break;
-    case 5:
-        overwriteProperty(from);
-        break;
-    case 6:
-        if (from->isWidgetType()) {
-            takeHelper(static_cast<QWidget *>(from));
-        }
-        break;
-    default:
-        step();
     }
 }

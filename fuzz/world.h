@@ -87,21 +87,29 @@ public Q_SLOTS:
     void strike();
 
 private:
+    // world.cpp: what there is, and what happens next
     void act(QWidget *widget);
     void actRarely(QWidget *widget);
+    void forget(QObject *dying);
+    void destroy(QObject *object);
+    QWidget *target();
+    QWidget *within(QWidget *widget);
+    // worldalterations.cpp: what a program does to its widgets
+    /** A window's pixels are real: it must not follow a hostile size. */
+    static void bound(QWidget *window);
     void alter(QWidget *widget);
     void place(QWidget *widget);
     int sideOf(const QWidget *widget);
     void move(QWidget *widget);
     void overwriteProperty(QObject *object);
     void setHugeText(QWidget *widget);
+    // worldslots.cpp: what its slots do
     void strikeFrom(QObject *from);
     void strikeGently(bool isDying);
-    void forget(QObject *dying);
     void takeHelper(QWidget *widget);
-    void destroy(QObject *object);
-    QWidget *target();
-    QWidget *within(QWidget *widget);
+
+    /** How many slots may be at work within one another. */
+    static constexpr int deepest = 3;
 
     Dice &m_dice;
     std::unique_ptr<Family> m_family;

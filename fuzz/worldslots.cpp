@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "world.h"
+
+#include "events.h"
+
+#include <QMetaMethod>
+
+namespace {
+
+/** Qt's own widgets stand being deleted in few of their signals; the library's in all. */
+bool standsDeletion(const QMetaMethod &signal)
+{
+    const QByteArray className = signal.enclosingMetaObject()->className();
+    return className.startsWith("Olv")
+        || (className == "QAbstractButton" && signal.name() == "clicked");
+}
+
+/** Whether it is what a widget is made of, as Qt's own are; the library's helpers are not. */
+bool isPart(const QObject *object)
+{
+    return object->inherits("QLayout") || object->inherits("QLabel")
+        || (object->parent() && object->parent()->inherits("OlvLineEdit"));
+}
+
+} // namespace
+
+void World::strike()
+{
+    if (m_depth >= deepest || !m_dice.oneIn(6)) {
+        return;
+    }
+    ++m_depth;
+    const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
+    if (standsDeletion(signal)) {
+        strikeFrom(sender());
+    } else {
+        const Guard guard(*this);
+        strikeGently(signal.name() == "destroyed");
+    }
+    --m_depth;
+}
+
+void World::strikeGently(bool isDying)
+{
+    QWidget *other = anyWidget();
+    if (!other) {
+        return;
+    }
+    switch (m_dice.below(8)) {
+    case 0:
+        destroy(other);
+        break;
+    case 1:
+        overwriteProperty(other);
+        break;
+    case 2:
+        m_family->call(*this, other);
+        break;
+    case 3:
+        // a parent would be drawn, or shown, with what is left of its child
+        if (!isDying) {
+            step();
+        }
+        break;
+    default:
+        if (isDying) {
+            Events::click(m_dice, other);
+        } else {
+            Events::sendAny(m_dice, other);
+        }
+    }
+}
+
+void World::strikeFrom(QObject *from)
+{
+    switch (m_dice.below(8)) {
+    case 0:
+    case 1:
+        if (!isPart(from)) {
+            destroy(from);
+        }
+        break;
+    case 2:
+        if (from->parent() && m_dice.oneIn(4)) {
+            destroy(from->parent());
+        }
+        break;
+    case 3:
+        if (QWidget *other = anyWidget()) {
+            destroy(other);
+        }
+        break;
+    case 4:
+        pass(m_dice.between(0, 500));
+        break;
+    case 5:
+        overwriteProperty(from);
+        break;
+    case 6:
+        if (from->isWidgetType()) {
+            takeHelper(static_cast<QWidget *>(from));
+        }
+        break;
+    default:
+        step();
+    }
+}
+
+void World::takeHelper(QWidget *widget)
+{
+    if (widget->children().isEmpty()) {
+        return;
+    }
+    QObject *helper = m_dice.pick(widget->children());
+    if (isPart(helper)) {
+        return;
+    }
+    if (m_dice.oneIn(3) && !helper->isWidgetType()) {
+        helper->setParent(m_dice.coin() ? static_cast<QObject *>(anyHost()) : this);
+    } else {
+        destroy(helper);
+    }
+}
