@@ -174,10 +174,9 @@ void sendRare(Dice &dice, QWidget *receiver)
         break;
     }
     case 2: {
-        // Qt shows a tip in a window of its own, a child of whatever the storm blows away
+        // showing a tip takes more care; see World::showTip()
         if (receiver->toolTip().isEmpty()) {
-            QHelpEvent event(QEvent::ToolTip, dice.point(), dice.point());
-            send(receiver, event);
+            Events::askForTip(dice, receiver);
         }
         break;
     }
@@ -289,6 +288,12 @@ void Events::click(Dice &dice, QWidget *receiver)
                             Qt::NoModifier);
         send(receiver, release);
     }
+}
+
+void Events::askForTip(Dice &dice, QWidget *receiver)
+{
+    QHelpEvent event(QEvent::ToolTip, dice.point(), dice.point());
+    send(receiver, event);
 }
 
 void Events::sendTimer(Dice &dice, QObject *receiver)

@@ -203,7 +203,9 @@ void World::step()
 void World::act(QWidget *widget)
 {
     const int choice = m_dice.below(1000);
-    if (choice < 700) {
+    if (choice < 5) {
+        showTip(within(widget));
+    } else if (choice < 700) {
         Events::sendAny(m_dice, within(widget));
     } else if (choice < 880) {
         m_family->call(*this, widget);

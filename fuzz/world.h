@@ -103,6 +103,7 @@ private:
     void move(QWidget *widget);
     void overwriteProperty(QObject *object);
     void setHugeText(QWidget *widget);
+    void showTip(QWidget *widget);
     // worldslots.cpp: what its slots do
     void strikeFrom(QObject *from);
     void strikeGently(bool isDying);
@@ -120,6 +121,7 @@ private:
     QPointer<QWidget> m_target;
     int m_depth = 0;
     int m_guards = 0;
+    bool m_isShowingTip = false;
 };
 
 /** Runs the storm of a family of widgets. */

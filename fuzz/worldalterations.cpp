@@ -150,3 +150,18 @@ void World::setHugeText(QWidget *widget)
         m_family->setText(widget, m_dice.text());
     }
 }
+
+void World::showTip(QWidget *widget)
+{
+    // When Qt makes the tip's window, the offscreen platform first handles what has been waiting: a
+    // window is activated, a line in another loses the focus, and its slots run. If they delete the
+    // tip, which is a child of the widget, or ask for another, which takes its place, then Qt goes
+    // on with what is gone, as it does in a program of Qt's own widgets alone.
+    if (m_isShowingTip) {
+        return;
+    }
+    const Guard guard(*this);
+    m_isShowingTip = true;
+    Events::askForTip(m_dice, widget);
+    m_isShowingTip = false;
+}
