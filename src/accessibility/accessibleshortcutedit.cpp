@@ -3,6 +3,19 @@
 
 #include <OlvWidgets/input.h>
 
+#include <QTextBoundaryFinder>
+
+namespace {
+
+/** Whether a word or a sentence begins or ends here. */
+bool isEdge(const QTextBoundaryFinder &finder)
+{
+    return finder.boundaryReasons()
+        & (QTextBoundaryFinder::StartOfItem | QTextBoundaryFinder::EndOfItem);
+}
+
+} // namespace
+
 AccessibleShortcutEdit::AccessibleShortcutEdit(QWidget *editor)
     : AccessibleWidget(editor, QAccessible::HotkeyField)
 { }
@@ -41,7 +54,38 @@ void AccessibleShortcutEdit::setCursorPosition(int /*position*/) { }
 
 QString AccessibleShortcutEdit::text(int start, int end) const
 {
-    return value().toString().mid(start, qMax(end - start, 0));
+    const QString whole = value().toString();
+    const int first = qMax(start, 0);
+    return whole.mid(first, qMax(qMin(end, whole.size()) - first, 0));
+}
+
+QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBoundaryType boundary,
+                                             int *start, int *end) const
+{
+    if (boundary != QAccessible::WordBoundary && boundary != QAccessible::SentenceBoundary) {
+        return QAccessibleTextInterface::textAtOffset(offset, boundary, start, end);
+    }
+    // as Qt does it, which at the end of the text looks for the end of the word for ever
+    const QString whole = value().toString();
+    const int place = offset == -1 ? whole.size() : offset;
+    *start = *end = -1;
+    if (whole.isEmpty() || place < 0 || place > whole.size()) {
+        return QString();
+    }
+    QTextBoundaryFinder finder(boundary == QAccessible::WordBoundary
+                                   ? QTextBoundaryFinder::Word
+                                   : QTextBoundaryFinder::Sentence,
+                               whole);
+    finder.setPosition(place);
+    while (finder.position() > 0 && !isEdge(finder)) {
+        finder.toPreviousBoundary();
+    }
+    *start = finder.position();
+    do {
+        finder.toNextBoundary();
+    } while (finder.position() >= 0 && !isEdge(finder));
+    *end = finder.position() < 0 ? whole.size() : finder.position();
+    return whole.mid(*start, *end - *start);
 }
 
 int AccessibleShortcutEdit::characterCount() const

@@ -20,6 +20,8 @@ public:
     int cursorPosition() const override;
     void setCursorPosition(int position) override;
     QString text(int start, int end) const override;
+    QString textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
+                         int *end) const override;
     int characterCount() const override;
     QRect characterRect(int offset) const override;
     int offsetAtPoint(const QPoint &point) const override;

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+#include <limits>
+
 namespace {
 
 /** A shortcut that can always be had. */
@@ -18,6 +20,23 @@ public:
     {
         return true;
     }
+};
+
+/** One with a text that no keys would give it. */
+class NamedShortcut : public FreeShortcut
+{
+public:
+    explicit NamedShortcut(const QString &name)
+        : FreeShortcut(Qt::Key_F5)
+        , m_name(name)
+    { }
+    QString toString() override
+    {
+        return m_name;
+    }
+
+private:
+    QString m_name;
 };
 
 QString valueOf(OlvShortcutEdit &edit)
@@ -35,6 +54,8 @@ private Q_SLOTS:
     void isCalledByItsHintUnlessItHasAName();
     void itsValueIsTheShortcut();
     void isReadAsAText();
+    void isReadByTheWord_data();
+    void isReadByTheWord();
     void takesTheFocus();
     void tellsOfEveryChange();
 };
@@ -69,6 +90,9 @@ void TestAccessibleShortcutEdit::isReadAsAText()
     QCOMPARE(text->characterCount(), 7);
     QCOMPARE(text->text(0, 7), QStringLiteral("Ctrl+F5"));
     QCOMPARE(text->text(5, 7), QStringLiteral("F5"));
+    QCOMPARE(text->text(5, 4), QString());
+    QCOMPARE(text->text(-1, std::numeric_limits<int>::max()), QStringLiteral("Ctrl+F5"));
+    QCOMPARE(text->text(std::numeric_limits<int>::max(), -2), QString());
     QCOMPARE(text->characterRect(0), accessible(&edit)->rect());
     QCOMPARE(text->selectionCount(), 0);
     int start = -1;
@@ -79,6 +103,50 @@ void TestAccessibleShortcutEdit::isReadAsAText()
     QCOMPARE(text->textAtOffset(6, QAccessible::LineBoundary, &start, &end),
              QStringLiteral("Ctrl+F5"));
     QVERIFY(!accessible(&edit)->editableTextInterface());
+}
+
+void TestAccessibleShortcutEdit::isReadByTheWord_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("boundary");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QString>("read");
+    QTest::addColumn<int>("start");
+    const QString keys = QStringLiteral("Ctrl+F5");
+    const QString blanks = QStringLiteral(" F5 ");
+    const auto word = int(QAccessible::WordBoundary);
+    const auto sentence = int(QAccessible::SentenceBoundary);
+    QTest::newRow("first word") << keys << word << 0 << QStringLiteral("Ctrl") << 0;
+    QTest::newRow("within the first word") << keys << word << 3 << QStringLiteral("Ctrl") << 0;
+    QTest::newRow("between the words") << keys << word << 4 << QStringLiteral("+") << 4;
+    QTest::newRow("last word") << keys << word << 6 << QStringLiteral("F5") << 5;
+    QTest::newRow("behind the last word") << keys << word << 7 << QString() << 7;
+    QTest::newRow("the end, however long") << keys << word << -1 << QString() << 7;
+    QTest::newRow("beyond the end") << keys << word << 8 << QString() << -1;
+    QTest::newRow("before the beginning") << keys << word << -2 << QString() << -1;
+    QTest::newRow("no word") << QString() << word << 0 << QString() << -1;
+    QTest::newRow("blank before a word") << blanks << word << 0 << QStringLiteral(" ") << 0;
+    QTest::newRow("blank behind a word") << blanks << word << 4 << QStringLiteral(" ") << 3;
+    QTest::newRow("sentence") << keys << sentence << 3 << keys << 0;
+    QTest::newRow("behind the sentence") << keys << sentence << 7 << QString() << 7;
+    QTest::newRow("line") << keys << int(QAccessible::LineBoundary) << 7 << keys << 0;
+}
+
+void TestAccessibleShortcutEdit::isReadByTheWord()
+{
+    QFETCH(QString, name);
+    QFETCH(int, boundary);
+    QFETCH(int, offset);
+    QFETCH(QString, read);
+    QFETCH(int, start);
+    OlvShortcutEdit edit(new NamedShortcut(name));
+    int first = 0;
+    int last = 0;
+    QCOMPARE(accessible(&edit)->textInterface()->textAtOffset(
+                 offset, QAccessible::TextBoundaryType(boundary), &first, &last),
+             read);
+    QCOMPARE(first, start);
+    QCOMPARE(last, start + read.size());
 }
 
 void TestAccessibleShortcutEdit::takesTheFocus()
