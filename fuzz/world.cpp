@@ -43,6 +43,7 @@ World::World(Dice &dice, std::unique_ptr<Family> family)
     : m_dice(dice)
     , m_family(std::move(family))
     , m_properties(m_family->properties())
+    , m_assistant(dice, [this](const QAccessibleEvent &update) { hear(update); })
 { }
 
 World::~World()
@@ -205,6 +206,8 @@ void World::act(QWidget *widget)
     const int choice = m_dice.below(1000);
     if (choice < 5) {
         showTip(within(widget));
+    } else if (choice < 35) {
+        m_assistant.ask(within(widget));
     } else if (choice < 700) {
         Events::sendAny(m_dice, within(widget));
     } else if (choice < 880) {

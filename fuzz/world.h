@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "assistant.h"
 #include "storm.h"
 
 #include <QObject>
@@ -108,6 +109,7 @@ private:
     void strikeFrom(QObject *from);
     void strikeGently(bool isDying);
     void takeHelper(QWidget *widget);
+    void hear(const QAccessibleEvent &update);
 
     /** How many slots may be at work within one another. */
     static constexpr int deepest = 3;
@@ -122,6 +124,8 @@ private:
     int m_depth = 0;
     int m_guards = 0;
     bool m_isShowingTip = false;
+    bool m_isOverwriting = false;
+    Assistant m_assistant;
 };
 
 /** Runs the storm of a family of widgets. */

@@ -22,6 +22,28 @@ bool isPart(const QObject *object)
         || (object->parent() && object->parent()->inherits("OlvLineEdit"));
 }
 
+/** Whether the library tells of it; Qt tells in the midst of what it does to a widget. */
+bool isOwn(const QAccessibleEvent &update)
+{
+    const QObject *object = update.object();
+    if (!object || qstrncmp(object->metaObject()->className(), "Olv", 3) != 0) {
+        return false;
+    }
+    switch (update.type()) {
+    case QAccessible::NameChanged:
+    case QAccessible::ValueChanged:
+    case QAccessible::TextUpdated:
+        return true;
+    case QAccessible::StateChanged: {
+        const auto &event = static_cast<const QAccessibleStateChangeEvent &>(update);
+        const QAccessible::State changed = event.changedStates();
+        return changed.checkable || changed.checked || changed.pressed;
+    }
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 void World::strike()
@@ -36,6 +58,34 @@ void World::strike()
     } else {
         const Guard guard(*this);
         strikeGently(signal.name() == "destroyed");
+    }
+    --m_depth;
+}
+
+void World::hear(const QAccessibleEvent &update)
+{
+    if (m_depth >= deepest || !m_dice.oneIn(6)) {
+        return;
+    }
+    ++m_depth;
+    if (m_dice.oneIn(8)) {
+        Assistant::setActive(m_dice.coin());
+    } else if (isOwn(update) && m_isOverwriting) {
+        // out of the event of a property that the storm has just written: no one is at work in it
+        m_isOverwriting = false;
+        strikeFrom(update.object());
+    } else {
+        const Guard guard(*this);
+        if (isOwn(update)) {
+            strikeGently(false);
+        } else if (QWidget *other = anyWidget()) {
+            // where Qt is about to move it elsewhere, it must not get the focus, nor a parent
+            if (m_dice.coin()) {
+                overwriteProperty(other);
+            } else {
+                destroy(other);
+            }
+        }
     }
     --m_depth;
 }
