@@ -3,10 +3,46 @@
 
 #include <OlvWidgets/frame.h>
 
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QVariant>
 
 namespace {
+
+/** Knows what it was made with. */
+class OwnItem : public OlvResizeItem
+{
+public:
+    OwnItem(QWidget *target, QObject *filter, ResizeType type, int width)
+        : OlvResizeItem(target, filter, type, width, nullptr, nullptr)
+        , m_target(target)
+        , m_type(type)
+        , m_width(qBound(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX))
+    { }
+
+    ResizeType givenType() const
+    {
+        return m_type;
+    }
+
+    void checkPlace() const
+    {
+        // a platform has its own mind about where windows are
+        if (!m_target || isWindow()) {
+            return;
+        }
+        const QPoint corner(m_target->width() - 2 * m_width, m_target->height() - 2 * m_width);
+        const QPoint places[] = { { m_target->width() - m_width, 0 },
+                                  { 0, m_target->height() - m_width },
+                                  corner };
+        Storm::check(pos() == places[m_type], "a handle lies along its edge");
+    }
+
+private:
+    QPointer<QWidget> m_target;
+    ResizeType m_type;
+    int m_width;
+};
 
 class FrameFamily : public Family
 {
@@ -22,7 +58,9 @@ public:
         case 2: {
             const auto type = OlvResizeItem::ResizeType(dice.between(0, 2));
             QObject *filter = dice.coin() ? world.anyWidget() : nullptr;
-            return new OlvResizeItem(parent, filter, type, dice.number(), nullptr, nullptr);
+            auto *item = new OwnItem(parent, filter, type, dice.number());
+            item->checkPlace();
+            return item;
         }
         default:
             return makeTarget(world, parent);
@@ -63,10 +101,8 @@ public:
 
     void check(World & /*world*/, QWidget *widget) override
     {
-        if (auto *item = dynamic_cast<OlvResizeItem *>(widget)) {
-            Storm::check(item->type() >= OlvResizeItem::RightEdge
-                             && item->type() <= OlvResizeItem::Corner,
-                         "a handle keeps its place");
+        if (auto *item = dynamic_cast<OwnItem *>(widget)) {
+            Storm::check(item->type() == item->givenType(), "a handle stays of its type");
         } else if (qobject_cast<OlvControlBar *>(widget)) {
             Storm::check(widget->minimumHeight() == 25, "a bar is 25 pixels high");
         }
@@ -101,11 +137,15 @@ private:
 
     static void callMover(Dice &dice, OlvMoveWidget *mover)
     {
-        if (dice.coin()) {
-            mover->setMoveArea(dice.rect());
-        } else {
-            mover->setMoveArea(QRect(0, 0, dice.between(-9, 200), dice.between(-9, 200)));
-        }
+        const QRect area =
+            dice.coin() ? dice.rect() : QRect(0, 0, dice.between(-9, 200), dice.between(-9, 200));
+        const QVariant before = mover->property("MoveArea");
+        mover->setMoveArea(area);
+        const auto *target = qobject_cast<QWidget *>(mover->parent());
+        const bool hasNoWidth = qint64(area.right()) - area.left() == -1;
+        const QVariant expected = !target ? before : hasNoWidth ? target->rect() : area;
+        Storm::check(mover->property("MoveArea") == expected,
+                     "a helper has the area it was given, or the whole widget");
     }
 
     static void callItem(World &world, OlvResizeItem *item)
@@ -114,9 +154,13 @@ private:
         switch (dice.below(5)) {
         case 0:
             item->place();
+            checkPlace(item);
             break;
         case 1:
             item->placeAll();
+            checkPlace(item);
+            checkPlace(item->firstPartner());
+            checkPlace(item->secondPartner());
             break;
         case 2: {
             auto *first = dynamic_cast<OlvResizeItem *>(world.anyWidget());
@@ -127,8 +171,26 @@ private:
             break;
         }
         default:
-            item->pressPosition();
+            press(world, item);
         }
+    }
+
+    static void checkPlace(const OlvResizeItem *item)
+    {
+        if (const auto *own = dynamic_cast<const OwnItem *>(item)) {
+            own->checkPlace();
+        }
+    }
+
+    static void press(World &world, OlvResizeItem *item)
+    {
+        const QPoint place = world.dice().pixel(item->size());
+        QMouseEvent event(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        const bool isHeard = item->isEnabled();
+        QCoreApplication::sendEvent(item, &event);
+        Storm::check(!isHeard || !world.isUndisturbed() || item->pressPosition() == place,
+                     "a handle notes where it was pressed");
     }
 };
 

@@ -144,6 +144,11 @@ bool World::isGuarded() const
     return m_guards > 0;
 }
 
+bool World::isUndisturbed() const
+{
+    return m_strikes == 0;
+}
+
 void World::remember(const QObject *object)
 {
     const auto address = reinterpret_cast<qulonglong>(object);
@@ -194,6 +199,9 @@ QWidget *World::within(QWidget *widget)
 
 void World::step()
 {
+    if (m_depth == 0) {
+        m_strikes = 0;
+    }
     QWidget *widget = target();
     act(widget);
     if (m_target && m_dice.oneIn(16)) {

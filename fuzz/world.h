@@ -80,6 +80,8 @@ public:
     };
 
     bool isGuarded() const;
+    /** Whether no slot has done anything since this event began: what was just set still stands. */
+    bool isUndisturbed() const;
     /** Lets time pass, where that may be. */
     void pass(int milliseconds);
 
@@ -123,6 +125,7 @@ private:
     QPointer<QWidget> m_target;
     int m_depth = 0;
     int m_guards = 0;
+    int m_strikes = 0;
     bool m_isShowingTip = false;
     bool m_isOverwriting = false;
     Assistant m_assistant;

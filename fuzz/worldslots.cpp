@@ -52,6 +52,7 @@ void World::strike()
         return;
     }
     ++m_depth;
+    ++m_strikes;
     const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
     if (standsDeletion(signal)) {
         strikeFrom(sender());
@@ -68,6 +69,7 @@ void World::hear(const QAccessibleEvent &update)
         return;
     }
     ++m_depth;
+    ++m_strikes;
     if (m_dice.oneIn(8)) {
         Assistant::setActive(m_dice.coin());
     } else if (isOwn(update) && m_isOverwriting) {
