@@ -70,21 +70,22 @@ public:
     void call(World &world, QWidget *widget) override
     {
         Dice &dice = world.dice();
+        const QObjectList children = widget->children();
         if (auto *item = dynamic_cast<OlvResizeItem *>(widget)) {
             callItem(world, item);
             return;
         }
-        if (qobject_cast<OlvControlBar *>(widget)) {
-            const QList<QPushButton *> buttons = widget->findChildren<QPushButton *>();
+        if (auto *bar = qobject_cast<OlvControlBar *>(widget)) {
+            const QList<QPushButton *> buttons = bar->findChildren<QPushButton *>();
             if (!buttons.isEmpty()) {
                 dice.pick(buttons)->click();
             }
             return;
         }
-        if (widget->children().isEmpty()) {
+        if (children.isEmpty()) {
             return;
         }
-        QObject *helper = dice.pick(widget->children());
+        QObject *helper = dice.pick(children);
         if (auto *mover = dynamic_cast<OlvMoveWidget *>(helper)) {
             callMover(dice, mover);
         } else if (auto *resizer = dynamic_cast<OlvResizeWidget *>(helper)) {
@@ -103,8 +104,8 @@ public:
     {
         if (auto *item = dynamic_cast<OwnItem *>(widget)) {
             Storm::check(item->type() == item->givenType(), "a handle stays of its type");
-        } else if (qobject_cast<OlvControlBar *>(widget)) {
-            Storm::check(widget->minimumHeight() == 25, "a bar is 25 pixels high");
+        } else if (auto *bar = qobject_cast<OlvControlBar *>(widget)) {
+            Storm::check(bar->minimumHeight() == 25, "a bar is 25 pixels high");
         }
     }
 
