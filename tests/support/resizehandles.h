@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "mouse.h"
+
+#include <OlvResizeItem>
+
+#include <QEventLoop>
+#include <QTimer>
+
+/** The handles of a widget that can be resized; null for those that it has not. */
+struct Handles
+{
+    OlvResizeItem *right = nullptr;
+    OlvResizeItem *bottom = nullptr;
+    OlvResizeItem *corner = nullptr;
+};
+
+inline Handles handlesOf(const QWidget &target)
+{
+    Handles handles;
+    for (QObject *child : target.children()) {
+        auto *handle = dynamic_cast<OlvResizeItem *>(child);
+        if (!handle) {
+            continue;
+        }
+        switch (handle->type()) {
+        case OlvResizeItem::RightEdge:
+            handles.right = handle;
+            break;
+        case OlvResizeItem::BottomEdge:
+            handles.bottom = handle;
+            break;
+        case OlvResizeItem::Corner:
+            handles.corner = handle;
+            break;
+        }
+    }
+    return handles;
+}
+
+inline void drag(OlvResizeItem *handle, QPointF from, QPointF to)
+{
+    Mouse::press(handle, from);
+    Mouse::move(handle, to);
+}
+
+/** What a handle has put off to the event loop is no leak once that has run. */
+inline void runDeferred()
+{
+    QEventLoop loop;
+    QTimer::singleShot(5, &loop, &QEventLoop::quit);
+    loop.exec();
+}
