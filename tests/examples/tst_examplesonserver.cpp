@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "pixels.h"
 #include "realinput.h"
 
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -36,17 +36,6 @@ quintptr activeWindow()
     query.start(QStringLiteral("xdotool"), { QStringLiteral("getactivewindow") });
     query.waitForFinished(patience);
     return query.readAllStandardOutput().trimmed().toULongLong();
-}
-
-int colorCount(const QImage &image)
-{
-    QSet<QRgb> colors;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            colors.insert(image.pixel(x, y));
-        }
-    }
-    return colors.size();
 }
 
 } // namespace

@@ -80,6 +80,17 @@ void letTimePass(int time)
     loop.exec();
 }
 
+/** Shows @p window with a widget in it, which it returns; null when the window does not come. */
+QWidget *showWithin(QWidget &window, const Make &make)
+{
+    window.resize(300, 200);
+    QWidget *widget = make(&window);
+    widget->setGeometry(10, 10, 150, 120);
+    window.show();
+    widget->show();
+    return QTest::qWaitForWindowExposed(&window) ? widget : nullptr;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Make)
@@ -154,12 +165,7 @@ void TestIdle::restsOnceItIsShown()
 {
     QFETCH(Make, make);
     QWidget window;
-    window.resize(300, 200);
-    QWidget *widget = make(&window);
-    widget->setGeometry(10, 10, 150, 120);
-    window.show();
-    widget->show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(showWithin(window, make));
     letTimePass(deferredTime);
     QTRY_COMPARE_WITH_TIMEOUT(runningTimers(&window), QStringList(), settlingTime);
     QCoreApplication::processEvents();
@@ -179,12 +185,8 @@ void TestIdle::restsAgainAfterUse()
 {
     QFETCH(Make, make);
     QWidget window;
-    window.resize(300, 200);
-    QWidget *widget = make(&window);
-    widget->setGeometry(10, 10, 150, 120);
-    window.show();
-    widget->show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QWidget *widget = showWithin(window, make);
+    QVERIFY(widget);
 
     const QPoint centre = widget->rect().center();
     QWidget *hit = widget->childAt(centre) ? widget->childAt(centre) : widget;

@@ -2,6 +2,7 @@
 #include "pixels.h"
 
 #include <QPainter>
+#include <QSet>
 
 #include <utility>
 
@@ -52,4 +53,15 @@ QByteArray difference(const QImage &actual, const QImage &expected)
     return count == 0
         ? QByteArray()
         : QStringLiteral("%1 pixels differ, the first %2").arg(count).arg(first).toUtf8();
+}
+
+int colorCount(const QImage &image)
+{
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            colors.insert(image.pixel(x, y));
+        }
+    }
+    return colors.size();
 }

@@ -33,6 +33,9 @@ QImage pictureOf(QWidget &widget, qreal devicePixelRatio = 1.0);
 /** Where two pictures differ, in words; empty when they are the same pixel by pixel. */
 QByteArray difference(const QImage &actual, const QImage &expected);
 
+/** How many colours a picture has. */
+int colorCount(const QImage &image);
+
 /** Fails the test function unless both pictures are the same pixel by pixel. */
 #define COMPARE_PICTURES(actual, expected)                                                         \
     do {                                                                                           \

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "colors.h"
 #include "gallerywindow.h"
+#include "pixels.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -10,7 +11,6 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QProcess>
-#include <QSet>
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -56,17 +56,6 @@ template <typename Widget> bool shows(const QWidget &page)
     return std::any_of(widgets.cbegin(), widgets.cend(), [](const Widget *widget) {
         return widget->isVisible() && !widget->visibleRegion().isEmpty();
     });
-}
-
-int colorCount(const QImage &image)
-{
-    QSet<QRgb> colors;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            colors.insert(image.pixel(x, y));
-        }
-    }
-    return colors.size();
 }
 
 } // namespace
