@@ -54,9 +54,9 @@ void AccessibleShortcutEdit::setCursorPosition(int /*position*/) { }
 
 QString AccessibleShortcutEdit::text(int start, int end) const
 {
-    const QString whole = value().toString();
-    const int first = qMax(start, 0);
-    return whole.mid(first, qMax(qMin(end, whole.size()) - first, 0));
+    const QString all = value().toString();
+    const int first = qBound(0, start, all.size());
+    return all.mid(first, qBound(first, end, all.size()) - first);
 }
 
 QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBoundaryType boundary,

@@ -56,6 +56,8 @@ private Q_SLOTS:
     void isReadAsAText();
     void isReadByTheWord_data();
     void isReadByTheWord();
+    void standsEveryPartOfTheText_data();
+    void standsEveryPartOfTheText();
     void takesTheFocus();
     void tellsOfEveryChange();
 };
@@ -147,6 +149,39 @@ void TestAccessibleShortcutEdit::isReadByTheWord()
              read);
     QCOMPARE(first, start);
     QCOMPARE(last, start + read.size());
+}
+
+void TestAccessibleShortcutEdit::standsEveryPartOfTheText_data()
+{
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("end");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("nothing") << 3 << 3 << QString();
+    QTest::newRow("end before start") << 5 << 2 << QString();
+    QTest::newRow("end far before start") << most << least << QString();
+    QTest::newRow("from before the text") << -3 << 4 << QStringLiteral("Ctrl");
+    QTest::newRow("from far before the text") << least << 4 << QStringLiteral("Ctrl");
+    QTest::newRow("before the text") << -3 << -1 << QString();
+    QTest::newRow("far before the text") << least << least + 1 << QString();
+    QTest::newRow("beyond the text") << 5 << 8 << QStringLiteral("F5");
+    QTest::newRow("far beyond the text") << 5 << most << QStringLiteral("F5");
+    QTest::newRow("behind the text") << 7 << 9 << QString();
+    QTest::newRow("far behind the text") << most - 1 << most << QString();
+    QTest::newRow("everything there is") << least << most << QStringLiteral("Ctrl+F5");
+}
+
+void TestAccessibleShortcutEdit::standsEveryPartOfTheText()
+{
+    QFETCH(int, start);
+    QFETCH(int, end);
+    QFETCH(QString, part);
+    OlvShortcutEdit edit(new FreeShortcut(Qt::Key_F5));
+    QAccessibleTextInterface *text = accessible(&edit)->textInterface();
+    QCOMPARE(text->text(start, end), part);
+    edit.clear();
+    QCOMPARE(text->text(start, end), QString());
 }
 
 void TestAccessibleShortcutEdit::takesTheFocus()
