@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <limits>
+
 class TestShortcutCapture : public QObject
 {
     Q_OBJECT
@@ -13,6 +15,8 @@ class TestShortcutCapture : public QObject
 private Q_SLOTS:
     void notesKeys_data();
     void notesKeys();
+    void standsANumberThatIsNoKey_data();
+    void standsANumberThatIsNoKey();
     void takesKeyEventsForItself();
     void repaintsForEveryCombinationThatIsTried_data();
     void repaintsForEveryCombinationThatIsTried();
@@ -64,6 +68,35 @@ void TestShortcutCapture::notesKeys()
     // without an X server no combination can be had
     QCOMPARE(changed.count(), 0);
     QCOMPARE(edit.shortcut(), nullptr);
+}
+
+void TestShortcutCapture::standsANumberThatIsNoKey_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("negative") << -1;
+    QTest::newRow("far below") << std::numeric_limits<int>::min();
+    QTest::newRow("far below, odd") << int(0xdbffff67);
+    QTest::newRow("the first behind the last key") << int(Qt::Key_unknown) + 1;
+    QTest::newRow("far behind") << std::numeric_limits<int>::max();
+}
+
+void TestShortcutCapture::standsANumberThatIsNoKey()
+{
+    QFETCH(int, number);
+    OlvShortcutEdit edit;
+    QSignalSpy changed(&edit, &OlvShortcutEdit::shortcutChanged);
+    play(edit, QStringLiteral("+ctrl"));
+    for (const QEvent::Type type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+        QKeyEvent event(type, number, Qt::ControlModifier);
+        QCoreApplication::sendEvent(&edit, &event);
+        QVERIFY(event.isAccepted());
+        QCOMPARE(textOf(captureOf(edit)), QStringLiteral("c %1 recording").arg(number));
+    }
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(edit.shortcut(), nullptr);
+    QCOMPARE(edit.getValue(), QVariant(QStringLiteral("nullptr")));
+    play(edit, QStringLiteral("+a"));
+    QCOMPARE(textOf(captureOf(edit)), QStringLiteral("c %1 recording").arg(int('A')));
 }
 
 void TestShortcutCapture::takesKeyEventsForItself()
