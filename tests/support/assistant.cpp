@@ -81,7 +81,7 @@ Assistant::Assistant()
 
 Assistant::~Assistant()
 {
-    setActive(false);
+    leave();
     QAccessible::installUpdateHandler(m_before);
 }
 
@@ -91,6 +91,11 @@ QStringList Assistant::heardOf(const QObject *object)
     std::reverse(lines.begin(), lines.end());
     heard().remove(object);
     return lines;
+}
+
+void Assistant::leave()
+{
+    setActive(false);
 }
 
 QAccessibleInterface *accessible(QObject *object)
