@@ -81,6 +81,7 @@ private Q_SLOTS:
     void tellsOnlyWhileSomebodyLooks();
     void tellsOfWidgetsMadeWhileSomebodyLooks();
     void tellsNothingTwice();
+    void tellsNothingOfAWidgetThatGoes();
     void groupsThePartsOfALineEdit();
 };
 
@@ -341,6 +342,26 @@ void TestAccessibility::tellsNothingTwice()
     button.setAccessibleName(QStringLiteral("Save the document"));
     button.setText(QStringLiteral("Store"));
     QCOMPARE(assistant.heardOf(&button), QStringList{ QStringLiteral("name Save the document") });
+}
+
+void TestAccessibility::tellsNothingOfAWidgetThatGoes()
+{
+    Assistant assistant;
+    auto *button = new OlvButton(QStringLiteral("Save"));
+    // connected before Qt connects: the end has begun, and the interface is still there
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(accessible(button)));
+    button->disconnect();
+    bool isWritten = false;
+    connect(button, &QObject::destroyed, this, [&](QObject *object) {
+        assistant.heardOf(object);
+        object->setProperty("content", QStringLiteral("Store"));
+        isWritten = true;
+    });
+    QVERIFY(accessible(button));
+    const QObject *address = button;
+    delete button;
+    QVERIFY(isWritten);
+    QCOMPARE(assistant.heardOf(address), QStringList());
 }
 
 void TestAccessibility::groupsThePartsOfALineEdit()

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void togglesWhenCheckable();
     void disabledIsNotPressed();
     void survivesDeletionDuringThePress();
+    void survivesDeletionByThePointersComing();
     void tellsOfChanges();
 };
 
@@ -140,6 +141,23 @@ protected:
         delete this;
     }
 };
+
+/** Goes as soon as the pointer comes. */
+class ShyTile : public OlvIconButton
+{
+protected:
+    void enterEvent(QEvent * /*event*/) override
+    {
+        delete this;
+    }
+};
+
+void TestAccessibleIconButton::survivesDeletionByThePointersComing()
+{
+    const QPointer<OlvIconButton> tile(new ShyTile);
+    QVERIFY(act(tile, doubleClick()));
+    QVERIFY(!tile);
+}
 
 void TestAccessibleIconButton::survivesDeletionDuringThePress()
 {

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void survivesItsOwnDeletion();
     void survivesTheLossOfItsBar_data();
     void survivesTheLossOfItsBar();
+    void survivesTheLossOfItsLabel();
     void survivesNumbersThatNoWidgetHas();
     void survivesATileThatDeletesItWhenMoved_data();
     void survivesATileThatDeletesItWhenMoved();
@@ -147,7 +148,7 @@ void TestGridSurvival::survivesItsOwnDeletion_data()
     QTest::addColumn<QString>("moment");
     for (const char *moment :
          { "a widget moves", "the last widget moves", "the bar scrolls", "the bar is shown",
-           "the bar is placed", "the window is resized" }) {
+           "the bar is placed", "the view has settled", "the window is resized" }) {
         QTest::newRow(moment) << QString::fromLatin1(moment);
     }
 }
@@ -185,6 +186,11 @@ void TestGridSurvival::survivesItsOwnDeletion()
     } else if (moment == QLatin1String("the bar is shown")) {
         event = when(barOf(*scene.grid), QEvent::Show);
     } else if (moment == QLatin1String("the bar is placed")) {
+        event = when(barOf(*scene.grid), QEvent::Resize);
+        scene.viewport->resize(310, 220);
+    } else if (moment == QLatin1String("the view has settled")) {
+        // the bar is shown already, so that it hears of its new place at once
+        scene.grid->addWidget(tiles);
         event = when(barOf(*scene.grid), QEvent::Resize);
         scene.viewport->resize(310, 220);
     } else if (moment == QLatin1String("the window is resized")) {
@@ -236,6 +242,18 @@ void TestGridSurvival::survivesTheLossOfItsBar()
     wheel(*scene.grid, QPoint(0, -120));
     scene.grid->reUi();
     QCOMPARE(scene.grid->height(), tile->height() + 30);
+}
+
+void TestGridSurvival::survivesTheLossOfItsLabel()
+{
+    Scene scene(true);
+    delete labelOf(*scene.grid);
+    scene.grid->reUi();
+    QCOMPARE(scene.grid->height(), 200);
+    QWidget *tile = makeTile(scene.grid, 50);
+    scene.grid->addWidget(tile);
+    QCOMPARE(tile->pos(), QPoint(15, 15));
+    QCOMPARE(scene.grid->height(), 50);
 }
 
 void TestGridSurvival::survivesNumbersThatNoWidgetHas()

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void survivesSlotsThatDoAnything_data();
     void survivesSlotsThatDoAnything();
     void survivesShortcutsThatDeleteIt();
+    void survivesAClearThatDeletesIt();
+    void keepsItsShortcutThatIsRefusedNow();
     void survivesTheLossOfItsShortcut();
     void hostilePropertiesNameNoShortcut_data();
     void hostilePropertiesNameNoShortcut();
@@ -106,6 +108,27 @@ void TestShortcutEditMisuse::survivesShortcutsThatDeleteIt()
     QCOMPARE(record,
              QStringList({ QStringLiteral("one deleted"), QStringLiteral("one destroyed"),
                            QStringLiteral("two active"), QStringLiteral("two deleted") }));
+}
+
+void TestShortcutEditMisuse::survivesAClearThatDeletesIt()
+{
+    const QPointer<OlvShortcutEdit> edit(
+        new OlvShortcutEdit(new FakeShortcut(QStringLiteral("one"))));
+    connect(edit->shortcut(), &QObject::destroyed, this, [=] { delete edit; });
+    edit->clear();
+    QVERIFY(edit.isNull());
+    QCOMPARE(takeRecord().count(QStringLiteral("one deleted")), 1);
+}
+
+void TestShortcutEditMisuse::keepsItsShortcutThatIsRefusedNow()
+{
+    auto *shortcut = new FakeShortcut(QStringLiteral("one"));
+    OlvShortcutEdit edit(shortcut);
+    shortcut->grantable = false;
+    takeRecord();
+    QVERIFY(!edit.setShortcut(shortcut));
+    QCOMPARE(takeRecord(), QStringList({ QStringLiteral("one active") }));
+    QCOMPARE(edit.shortcut(), shortcut);
 }
 
 void TestShortcutEditMisuse::survivesTheLossOfItsShortcut()

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void staysSilentForOtherModifiers();
     void followsTheLayout();
     void comesBackWithTheLayoutThatHasTheKey();
+    void waitsWhereALayoutMovesItToAKeyThatIsTaken();
+    void ofTwoThatALayoutMovesToOneKeyOneIsActive();
     void slotMayDeleteShortcuts();
     void anotherMayTakeOverInASlot();
 
@@ -242,6 +244,53 @@ void TestShortcutOnServer::comesBackWithTheLayoutThatHasTheKey()
     pressWithControl(*m_input, 0x7a);
     QTRY_COMPARE(activated.count(), 1);
     QCOMPARE(cyrillicActivated.count(), 1);
+}
+
+void TestShortcutOnServer::waitsWhereALayoutMovesItToAKeyThatIsTaken()
+{
+    const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_A));
+    QSignalSpy activated(shortcut.get(), &OlvShortcut::activated);
+    QVERIFY(shortcut->active());
+    OtherProgram other(
+        { QStringLiteral("hold"), QStringLiteral("0x71"), QString::number(maskControl) });
+    QTRY_COMPARE(other.lines(), QStringList({ QStringLiteral("held") }));
+
+    // a and q change places; the input still means the places of the layout before
+    setLayout("fr");
+    QTest::qWait(200);
+    QVERIFY(!shortcut->active());
+    pressWithControl(*m_input, 0x71);
+    pressWithControl(*m_input, 0x61);
+    QTest::qWait(100);
+    QCOMPARE(activated.count(), 0);
+
+    other.kill();
+    QTRY_VERIFY(shortcut->active());
+    pressWithControl(*m_input, 0x71);
+    QTRY_COMPARE(activated.count(), 1);
+}
+
+void TestShortcutOnServer::ofTwoThatALayoutMovesToOneKeyOneIsActive()
+{
+    // here two keys, there the same with Shift: one is its character, the other stands above it
+    OlvShortcut ampersand(Qt::Key_Ampersand, true, true, false, false);
+    OlvShortcut one(Qt::Key_1, true, false, false, false);
+    // the layout of the test before may not have gone yet
+    QTRY_VERIFY(ampersand.active() && one.active());
+    QSignalSpy firstActivated(&ampersand, &OlvShortcut::activated);
+    QSignalSpy secondActivated(&one, &OlvShortcut::activated);
+
+    setLayout("fr");
+    QTest::qWait(200);
+    QCOMPARE(int(ampersand.active()) + int(one.active()), 1);
+    m_input->pressKey(symbolShift);
+    pressWithControl(*m_input, 0x31);
+    m_input->releaseKey(symbolShift);
+    QTRY_COMPARE(firstActivated.count() + secondActivated.count(), 1);
+    QCOMPARE(secondActivated.count(), int(one.active()));
+
+    setLayout("us");
+    QTRY_VERIFY(ampersand.active() && one.active());
 }
 
 void TestShortcutOnServer::slotMayDeleteShortcuts()
