@@ -78,9 +78,9 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
 
     auto *timer = new QTimer(this);
     timer->setInterval(settlingTime);
-    connect(timer, &QTimer::timeout, this, [this, timer] {
+    // a resize of the bar may bring about the end of the grid
+    connect(timer, &QTimer::timeout, this, [this, timer, self = QPointer<OlvGridLayout>(this)] {
         timer->stop();
-        const QPointer<OlvGridLayout> self(this);
         fitParent();
         if (self) {
             reUi();
