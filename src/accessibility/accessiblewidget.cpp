@@ -32,6 +32,13 @@ QAccessible::State difference(QAccessible::State before, QAccessible::State now)
 /** What was told last, and who hears of changes: nobody pays for it whom nobody looks at. */
 struct AccessibleWidget::Told
 {
+    explicit Told(AccessibleWidget *accessible)
+        : name(accessible->name())
+        , state(accessible->ownState())
+        , value(accessible->value())
+        , watcher(accessible->widget(), accessible)
+    { }
+
     QString name;
     QAccessible::State state;
     QVariant value;
@@ -49,7 +56,7 @@ void AccessibleWidget::setWatching(bool watching)
     if (!watching || !isValid()) {
         m_told.reset();
     } else if (!m_told) {
-        m_told.reset(new Told{ name(), ownState(), value(), { widget(), this } });
+        m_told = std::make_unique<Told>(this);
     }
 }
 
