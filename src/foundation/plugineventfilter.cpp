@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/foundation.h>
 
-#include <utility>
-
 OlvPluginEventFilter::OlvPluginEventFilter(QObject *parent)
     : QObject(parent)
 {
@@ -14,7 +12,8 @@ OlvPluginEventFilter::~OlvPluginEventFilter()
     // What listeners hold may send events when it goes, and add further listeners. Until then the
     // filter watches: it must have a table to look into, an empty one.
     while (!m_listeners.isEmpty()) {
-        const auto listeners = std::exchange(m_listeners, {});
+        decltype(m_listeners) going;
+        m_listeners.swap(going);
     }
 }
 
