@@ -95,6 +95,7 @@ void TestAccessibleShortcutEdit::isReadAsAText()
     QCOMPARE(text->text(5, 4), QString());
     QCOMPARE(text->text(-1, std::numeric_limits<int>::max()), QStringLiteral("Ctrl+F5"));
     QCOMPARE(text->text(std::numeric_limits<int>::max(), -2), QString());
+    QCOMPARE(text->text(3, std::numeric_limits<int>::min()), QString());
     QCOMPARE(text->characterRect(0), accessible(&edit)->rect());
     QCOMPARE(text->selectionCount(), 0);
     int start = -1;
