@@ -109,7 +109,7 @@ private:
     void showTip(QWidget *widget);
     // worldslots.cpp: what its slots do
     void strikeFrom(QObject *from);
-    void strikeGently(bool isDying);
+    void strikeGently();
     void takeHelper(QWidget *widget);
     void hear(const QAccessibleEvent &update);
 
@@ -126,6 +126,7 @@ private:
     int m_depth = 0;
     int m_guards = 0;
     int m_strikes = 0;
+    bool m_isDying = false; // a widget is, further up
     bool m_isShowingTip = false;
     bool m_isOverwriting = false;
     Assistant m_assistant;

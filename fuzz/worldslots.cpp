@@ -5,6 +5,8 @@
 
 #include <QMetaMethod>
 
+#include <utility>
+
 namespace {
 
 /** Qt's own widgets stand being deleted in few of their signals; the library's in all. */
@@ -54,12 +56,14 @@ void World::strike()
     ++m_depth;
     ++m_strikes;
     const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
-    if (standsDeletion(signal)) {
+    const bool wasDying = std::exchange(m_isDying, m_isDying || signal.name() == "destroyed");
+    if (standsDeletion(signal) && !m_isDying) {
         strikeFrom(sender());
     } else {
         const Guard guard(*this);
-        strikeGently(signal.name() == "destroyed");
+        strikeGently();
     }
+    m_isDying = wasDying;
     --m_depth;
 }
 
@@ -72,14 +76,14 @@ void World::hear(const QAccessibleEvent &update)
     ++m_strikes;
     if (m_dice.oneIn(8)) {
         Assistant::setActive(m_dice.coin());
-    } else if (isOwn(update) && m_isOverwriting) {
+    } else if (isOwn(update) && m_isOverwriting && !m_isDying) {
         // out of the event of a property that the storm has just written: no one is at work in it
         m_isOverwriting = false;
         strikeFrom(update.object());
     } else {
         const Guard guard(*this);
         if (isOwn(update)) {
-            strikeGently(false);
+            strikeGently();
         } else if (QWidget *other = anyWidget()) {
             // where Qt is about to move it elsewhere, it must not get the focus, nor a parent
             if (m_dice.coin()) {
@@ -92,7 +96,7 @@ void World::hear(const QAccessibleEvent &update)
     --m_depth;
 }
 
-void World::strikeGently(bool isDying)
+void World::strikeGently()
 {
     QWidget *other = anyWidget();
     if (!other) {
@@ -110,12 +114,12 @@ void World::strikeGently(bool isDying)
         break;
     case 3:
         // a parent would be drawn, or shown, with what is left of its child
-        if (!isDying) {
+        if (!m_isDying) {
             step();
         }
         break;
     default:
-        if (isDying) {
+        if (m_isDying) {
             Events::click(m_dice, other);
         } else {
             Events::sendAny(m_dice, other);
