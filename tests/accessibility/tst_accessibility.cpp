@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 
@@ -347,7 +348,7 @@ void TestAccessibility::tellsNothingTwice()
 void TestAccessibility::tellsNothingOfAWidgetThatGoes()
 {
     Assistant assistant;
-    auto *button = new OlvButton(QStringLiteral("Save"));
+    const QPointer<OlvButton> button(new OlvButton(QStringLiteral("Save")));
     // connected before Qt connects: the end has begun, and the interface is still there
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(accessible(button)));
     button->disconnect();

@@ -98,7 +98,8 @@ void TestAccessibilitySwitchedOff::tellsNoMore_data()
     QTest::addColumn<Changing>("changing");
     QTest::addColumn<int>("updates");
     QTest::addColumn<SwitchOff>("way");
-    for (const Changing &changing : changings()) {
+    const QVector<Changing> all = changings();
+    for (const Changing &changing : all) {
         for (const int updates : { 1, 2 }) {
             QTest::addRow("%s, after update %d, by the program", changing.name, updates)
                 << changing << updates << SwitchOff(tellTheObservers);

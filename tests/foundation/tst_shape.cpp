@@ -82,7 +82,8 @@ void TestShape::drawsTheVeryPixels()
             antialias(painter);
             painter.translate(offset);
         };
-        for (const Drawing &drawing : drawings(rect)) {
+        const QList<Drawing> all = drawings(rect);
+        for (const Drawing &drawing : all) {
             bool wasCopied = false;
             const QImage actual = drawnAgain(drawing, background, prepare, &wasCopied);
             QVERIFY(wasCopied || !isWorthCopying(drawing, rect.size()));
@@ -146,7 +147,8 @@ void TestShape::drawsTheVeryPixelsWithinAWidget()
                       QWidget::RenderFlags());
         return image;
     };
-    for (const Drawing &drawing : drawings(QRect(0, 0, 120, 36))) {
+    const QList<Drawing> all = drawings(QRect(0, 0, 120, 36));
+    for (const Drawing &drawing : all) {
         QImage actual;
         bool wasCopied = false;
         for (int round = 0; round < 3; ++round) {
