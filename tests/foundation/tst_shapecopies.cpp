@@ -14,7 +14,7 @@ namespace {
 /** Draws a small shape often enough that its pixels are kept. */
 Drawing keptDrawing()
 {
-    const Drawing drawing = roundedRect(QRect(3, 4, 30, 20), 5, QColor(10, 20, 30, 200), 2);
+    Drawing drawing = roundedRect(QRect(3, 4, 30, 20), 5, QColor(10, 20, 30, 200), 2);
     bool isKept = false;
     drawnAgain(drawing, noise(QSize(50, 40), QImage::Format_RGB32), antialias, &isKept);
     return drawing;
