@@ -61,7 +61,8 @@ QStringList runningTimers(QObject *object)
 {
     QStringList result;
     const auto *dispatcher = QAbstractEventDispatcher::instance();
-    for (const auto &timer : dispatcher->registeredTimers(object)) {
+    const auto timers = dispatcher->registeredTimers(object);
+    for (const auto &timer : timers) {
         result << QStringLiteral("%1 ms of %2")
                       .arg(timer.interval)
                       .arg(QString::fromLatin1(object->metaObject()->className()));
