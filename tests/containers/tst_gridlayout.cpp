@@ -271,6 +271,10 @@ void TestGridLayout::insertsInFrontOfAnother()
     QCOMPARE(first->x(), 15);
     QCOMPARE(inserted->x(), 80);
     QCOMPARE(second->x(), 145);
+    auto *atTheFront = makeTile(scene.grid, 50);
+    QVERIFY(scene.grid->insWidget(atTheFront, first));
+    QCOMPARE(atTheFront->x(), 15);
+    QCOMPARE(first->x(), 80);
 }
 
 void TestGridLayout::deletesAndRemoves()
