@@ -34,6 +34,8 @@ private Q_SLOTS:
     void drawsDirectlyInOtherFormats();
     void drawsIntoWhatIsNoImage();
     void drawsAShapeThatComesOnceDirectly();
+    void drawsTheSmallestShapesDirectly_data();
+    void drawsTheSmallestShapesDirectly();
     void drawsALargeShapeDirectly();
     void forgetsWhatIsOldest();
 };
@@ -135,6 +137,28 @@ void TestShapeCopies::drawsAShapeThatComesOnceDirectly()
     painter.setBrush(untouched());
     shape.fill(painter, Qt::darkCyan);
     QVERIFY(painter.brush() != untouched());
+}
+
+void TestShapeCopies::drawsTheSmallestShapesDirectly_data()
+{
+    QTest::addColumn<int>("lineWidth");
+    QTest::addColumn<int>("smallestCopied");
+    QTest::newRow("filled") << 0 << 4;
+    QTest::newRow("line of two") << 2 << 6;
+    QTest::newRow("line of three") << 3 << 7;
+}
+
+void TestShapeCopies::drawsTheSmallestShapesDirectly()
+{
+    QFETCH(int, lineWidth);
+    QFETCH(int, smallestCopied);
+    for (const int diameter : { smallestCopied - 1, smallestCopied }) {
+        const QRect rect(5, 6, diameter, diameter + 20);
+        bool wasCopied = false;
+        drawnAgain(roundedRect(rect, 30, QColor(90, 80, 70), lineWidth),
+                   noise(QSize(50, 40), QImage::Format_RGB32), antialias, &wasCopied);
+        QCOMPARE(wasCopied, diameter == smallestCopied);
+    }
 }
 
 void TestShapeCopies::drawsALargeShapeDirectly()

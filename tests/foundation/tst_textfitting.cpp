@@ -304,6 +304,8 @@ void TestTextFitting::endsForFontsSizedInPixels()
     QVERIFY(shrunk < QFontInfo(font).pointSize());
     font.setPointSize(shrunk);
     QVERIFY(OlvGlobal::adaptDocumentHeight(QStringLiteral("abcdef"), 60, font) <= 20);
+    font.setPointSize(shrunk + 1);
+    QVERIFY(OlvGlobal::adaptDocumentHeight(QStringLiteral("abcdef"), 60, font) > 20);
 }
 
 void TestTextFitting::handlesAMegabyteOfText()
