@@ -13,12 +13,19 @@
 #include <QPointer>
 #include <QScreen>
 
+#include <array>
+#include <atomic>
+
 namespace {
 
 constexpr int bytesOfAll = 1024 * 1024;
 /** Above it Qt draws glyphs as outlines, whose pixels may depend on where they are. */
 constexpr int largestPixelSize = 48;
 constexpr int pointsPerInch = 72;
+/** Longer ones do not fit between the edges of a button, and would take room for nothing. */
+constexpr int longestText = 256;
+constexpr int bytesOfCharacter = 2;
+constexpr int bytesOfFont = 256;
 
 /** The formats that a window's pixels have. */
 bool isWindowFormat(QImage::Format format)
@@ -38,6 +45,21 @@ bool isExposed(const QPainter &painter, const QRect &area, const QImage &target)
 {
     const QRegion clip = painter.paintEngine()->systemClip();
     return target.rect().contains(area) && (clip.isEmpty() || (QRegion(area) - clip).isEmpty());
+}
+
+/** What Qt looks for in place of @p family, and of those that a widget's font names besides. */
+QVector<QStringList> substitutesFor(const QString &family, const QFont &widgetFont)
+{
+    QVector<QStringList> substitutes{ QFont::substitutes(family) };
+#if QT_VERSION >= QT_VERSION_CHECK(5, 13, 0)
+    const QStringList others = widgetFont.families();
+    for (const QString &other : others) {
+        substitutes.append(QFont::substitutes(other));
+    }
+#else
+    Q_UNUSED(widgetFont)
+#endif
+    return substitutes;
 }
 
 /** The rectangle around all in which two pictures differ. */
@@ -63,7 +85,7 @@ struct Caption::Key
 {
     QString text;
     QString family;
-    QStringList substitutes;
+    QVector<QStringList> substitutes;
     QFont widgetFont;
     Shape ground;
     int lineWidth;
@@ -100,9 +122,13 @@ struct Caption::Key
 class Caption::Pixels
 {
 public:
-    /** @p before and @p after are those of the box of @p key. */
-    Pixels(const QImage &before, const QImage &after, const Key &key)
+    /** @p before and @p after are those of the box of @p key; @p fonts were asked for in between.
+     */
+    Pixels(const QImage &before, const QImage &after, const Key &key, const QVector<QFont> &fonts)
         : m_rect(changeBetween(before, after))
+        , m_fonts(fonts)
+        , m_bytes(int(sizeof(Key)) + bytesOfCharacter * key.text.size()
+                  + bytesOfFont * fonts.size())
     {
         const QRect inBox = m_rect;
         m_rect.translate(key.ground.rect().topLeft());
@@ -117,7 +143,7 @@ public:
 
     int bytes() const
     {
-        return int(sizeof(Key)) + int(m_image.sizeInBytes());
+        return m_bytes + int(m_image.sizeInBytes());
     }
 
     bool draw(QPainter &painter) const
@@ -132,6 +158,9 @@ private:
     QRect m_rect;
     bool m_isUsable;
     QImage m_image;
+    /** As long as there is a font that has it, Qt goes on drawing with what it found for it. */
+    QVector<QFont> m_fonts;
+    int m_bytes;
 };
 
 /** The captions that are kept, as long as the program's fonts stay the same. */
@@ -143,6 +172,9 @@ public:
         static Store store;
         if (store.m_application != qApp) {
             store.follow(qApp);
+        }
+        if (store.m_isOutdated.exchange(false)) {
+            store.pixels.clear();
         }
         return store;
     }
@@ -161,10 +193,13 @@ private:
     {
         pixels.clear();
         m_application = application;
-        m_connection = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
-                                        [this] { pixels.clear(); });
+        // a font may be registered in any thread
+        m_connection = QObject::connect(
+            qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
+            [this] { m_isOutdated = true; }, Qt::DirectConnection);
     }
 
+    std::atomic<bool> m_isOutdated{ false };
     QPointer<QCoreApplication> m_application;
     QMetaObject::Connection m_connection;
 };
@@ -172,15 +207,15 @@ private:
 void Caption::draw(QPainter &painter, const CaptionGround &ground) const
 {
     const QImage *target = copyTarget(painter);
-    KeptPixels<Key, Pixels> &kept = Store::instance().pixels;
-    if (!target || !isWindowFormat(target->format()) || !ground.color.rgba64().isOpaque()
-        || !kept.isSmall(ground.shape.rect().size())) {
+    if (!target || !mayBeKept(ground, *target)) {
         write(painter, ground);
         return;
     }
     const Key key = keyOf(painter, ground, target->format());
     bool isWritten = false;
-    const Pixels *pixels = kept.find(key, [&] {
+    const Pixels *pixels = Store::instance().pixels.find(key, [&](Key &kept) {
+        // a constant of a plugin's, which may be unloaded
+        kept.text.detach();
         isWritten = true;
         return writeAndKeep(painter, ground, *target, key);
     });
@@ -189,12 +224,19 @@ void Caption::draw(QPainter &painter, const CaptionGround &ground) const
     }
 }
 
+bool Caption::mayBeKept(const CaptionGround &ground, const QImage &target) const
+{
+    return isWindowFormat(target.format()) && ground.color.rgba64().isOpaque()
+        && text.size() <= longestText
+        && Store::instance().pixels.isSmall(ground.shape.rect().size());
+}
+
 Caption::Key Caption::keyOf(const QPainter &painter, const CaptionGround &ground,
                             QImage::Format format) const
 {
     return { text,
              family,
-             QFont::substitutes(family),
+             substitutesFor(family, painter.font()),
              painter.font(),
              ground.shape,
              ground.lineWidth,
@@ -221,11 +263,17 @@ Caption::Pixels *Caption::writeAndKeep(QPainter &painter, const CaptionGround &g
     }
     // taken from where Qt has written it: into an image apart it would smooth the glyphs otherwise
     const QImage before = target.copy(area);
-    write(painter, ground);
-    return new Pixels(before, target.copy(area), key);
+    const int fittingSize = write(painter, ground);
+    QVector<QFont> fonts{ painter.font() };
+    for (int size = fittingSize; size <= pointSize; ++size) {
+        const QFont tried(family, size);
+        QFontMetrics(tried).height(); // finds it, as measuring did
+        fonts.append(tried);
+    }
+    return new Pixels(before, target.copy(area), key, fonts);
 }
 
-void Caption::write(QPainter &painter, const CaptionGround &ground) const
+int Caption::write(QPainter &painter, const CaptionGround &ground) const
 {
     const QRect box = ground.shape.rect();
     QFont font(family, pointSize);
@@ -233,4 +281,5 @@ void Caption::write(QPainter &painter, const CaptionGround &ground) const
     painter.setPen(color);
     painter.setFont(font);
     painter.drawText(box, Qt::AlignCenter, text);
+    return font.pointSize();
 }

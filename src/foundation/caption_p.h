@@ -43,8 +43,10 @@ private:
     class Pixels;
     class Store;
 
+    bool mayBeKept(const CaptionGround &ground, const QImage &target) const;
     Key keyOf(const QPainter &painter, const CaptionGround &ground, QImage::Format format) const;
     Pixels *writeAndKeep(QPainter &painter, const CaptionGround &ground, const QImage &target,
                          const Key &key) const;
-    void write(QPainter &painter, const CaptionGround &ground) const;
+    /** Returns the point size that fits. */
+    int write(QPainter &painter, const CaptionGround &ground) const;
 };

@@ -41,11 +41,10 @@ public:
             return nullptr;
         }
         requested = 0; // what has been driven out since is to come twice again
-        Pixels *pixels = make();
-        if (pixels) {
-            m_kept.insert(key, pixels, pixels->bytes());
-        }
-        return pixels;
+        Key kept = key;
+        Pixels *pixels = make(kept);
+        // one that is larger than all that may be kept is gone at once
+        return pixels && m_kept.insert(kept, pixels, pixels->bytes()) ? pixels : nullptr;
     }
 
     void clear()

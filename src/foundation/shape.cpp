@@ -190,7 +190,8 @@ bool Shape::drawFromLayer(QPainter &painter, const Layer &layer) const
         || !painter.testRenderHint(QPainter::Antialiasing)) {
         return false;
     }
-    const Pixels *pixels = layers.find(layer, [&] { return new Pixels(rasterised(layer)); });
+    const Pixels *pixels =
+        layers.find(layer, [&](Layer & /*kept*/) { return new Pixels(rasterised(layer)); });
     if (pixels) {
         pixels->draw(painter, m_rect.topLeft() - QPoint(margin, margin));
     }

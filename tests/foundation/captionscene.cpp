@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "captionscene.h"
+
+#include <OlvWidgets/foundation.h>
+
+#include <QPainter>
+
+namespace {
+
+/** A pen that no caption is written with: while the painter has it, the caption was copied. */
+const QPen untouched(QColor(1, 2, 3), 7, Qt::DotLine);
+const QColor blue(64, 158, 255);
+
+void drawGround(const Scene &scene, QPainter &painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    scene.shape().fill(painter, scene.fill);
+    if (scene.lineWidth > 0) {
+        scene.shape().stroke(painter, QColor(179, 216, 255), scene.lineWidth);
+    }
+}
+
+} // namespace
+
+Shape Scene::shape() const
+{
+    return Shape::roundedRect(rect, radius);
+}
+
+Scene sceneOf(const QString &text, QSize size)
+{
+    return { { text, Qt::white, QStringLiteral("宋体"), 9 },
+             QRect(QPoint(), size),
+             size.height() / 5,
+             blue,
+             0 };
+}
+
+bool draw(const Scene &scene, QPainter &painter)
+{
+    drawGround(scene, painter);
+    painter.setPen(untouched);
+    scene.caption.draw(painter, { scene.shape(), scene.fill, scene.lineWidth });
+    return painter.pen() == untouched;
+}
+
+void drawReference(const Scene &scene, QPainter &painter)
+{
+    drawGround(scene, painter);
+    const Caption &caption = scene.caption;
+    QFont font(caption.family, caption.pointSize);
+    font.setPointSize(OlvGlobal::adaptDocumentToPointSize(caption.text, scene.rect.size(), font));
+    painter.setFont(font);
+    painter.setPen(caption.color);
+    painter.drawText(scene.rect, Qt::AlignCenter, caption.text);
+}
+
+QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &paint)
+{
+    DrawnWidget widget(size, paint);
+    if (target.prepare) {
+        target.prepare(widget);
+    }
+    QImage image(size + QSize(60, 60), target.format);
+    image.fill(QColor(200, 180, 30));
+    const QRegion region = target.region.isEmpty() ? QRegion(widget.rect()) : target.region;
+    const QPoint place = QPoint(20, 25) + target.offset + region.boundingRect().topLeft();
+    if (target.isPainted) {
+        QPainter painter(&image);
+        widget.render(&painter, place, region, QWidget::RenderFlags());
+    } else {
+        widget.render(&image, place, region, QWidget::RenderFlags());
+    }
+    return image;
+}
+
+int copiesIn(const Scene &scene, const Target &target, int pictures)
+{
+    int copies = 0;
+    for (int i = 0; i < pictures; ++i) {
+        pictureOn(target, scene.rect.size(),
+                  [&](QPainter &painter) { copies += draw(scene, painter); });
+    }
+    return copies;
+}
+
+void comparePictures(const Scene &scene, const Target &target, bool *wasCopied)
+{
+    QImage actual;
+    const QSize size = scene.rect.size();
+    for (int round = 0; round < 3; ++round) {
+        actual =
+            pictureOn(target, size, [&](QPainter &painter) { *wasCopied = draw(scene, painter); });
+    }
+    const QImage expected =
+        pictureOn(target, size, [&](QPainter &painter) { drawReference(scene, painter); });
+    COMPARE_PICTURES(actual, expected);
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/caption_p.h"
+#include "foundation/shape_p.h"
+#include "pixels.h"
+
+#include <functional>
+
+/** A button's look: what is drawn, and how the same is drawn by QPainter alone. */
+struct Scene
+{
+    Caption caption;
+    QRect rect;
+    int radius;
+    QColor fill;
+    int lineWidth;
+
+    Shape shape() const;
+};
+
+constexpr QSize buttonSize(120, 36);
+
+/** The scene of a button of that size with @p text. */
+Scene sceneOf(const QString &text, QSize size = buttonSize);
+
+/** Draws @p scene as a button does; returns whether the caption was copied. */
+bool draw(const Scene &scene, QPainter &painter);
+/** Draws the same, and always writes the caption. */
+void drawReference(const Scene &scene, QPainter &painter);
+
+/** Where and how a widget is drawn. */
+struct Target
+{
+    using Prepare = std::function<void(QWidget &)>;
+
+    QImage::Format format = QImage::Format_ARGB32_Premultiplied;
+    QPoint offset = QPoint(0, 0);
+    QRegion region = {};
+    Prepare prepare = nullptr;
+    bool isPainted = false; ///< drawn by a painter that somebody else has opened on the image
+};
+
+QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &paint);
+
+/** How often the caption has been copied in @p pictures, which follow each other. */
+int copiesIn(const Scene &scene, const Target &target, int pictures);
+
+/** Draws @p scene until it may have been kept; compares the last picture, and tells whether the
+ * caption was copied there. */
+void comparePictures(const Scene &scene, const Target &target, bool *wasCopied);

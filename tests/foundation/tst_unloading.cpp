@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include <QGuiApplication>
+#include <QLibrary>
+#include <QTest>
+
+class TestUnloading : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aPluginOfWidgetsMayBeUnloaded();
+};
+
+void TestUnloading::aPluginOfWidgetsMayBeUnloaded()
+{
+    QLibrary plugin(QStringLiteral(OLV_BUTTON_PLUGIN));
+    QVERIFY2(plugin.load(), qUtf8Printable(plugin.errorString()));
+    const auto paint = reinterpret_cast<int (*)()>(plugin.resolve("paintButton"));
+    QVERIFY(paint);
+    QVERIFY(paint() > 2);
+    QVERIFY(plugin.unload());
+    // whoever listened to it is in the library; what Qt keeps of it is looked at when the program
+    // ends
+    Q_EMIT qGuiApp->fontDatabaseChanged();
+    QCoreApplication::processEvents();
+    QVERIFY(plugin.load());
+    const auto paintAgain = reinterpret_cast<int (*)()>(plugin.resolve("paintButton"));
+    QVERIFY(paintAgain() > 2);
+    QVERIFY(plugin.unload());
+}
+
+QTEST_MAIN(TestUnloading)
+#include "tst_unloading.moc"
