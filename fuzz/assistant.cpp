@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
@@ -247,9 +249,9 @@ void Assistant::read(QAccessibleTextInterface *text, bool isOwn)
 
 void Assistant::edit(QAccessibleEditableTextInterface *text)
 {
-    // Qt's, which fills a line with blanks up to any offset, for as long as there is memory
-    const int one = m_dice.between(-300, 300);
-    const int two = m_dice.between(-300, 300);
+    // Qt's, which fills a line with blanks up to any offset, for as long as there is memory, and
+    // reads beyond its text where the end lies before the start
+    const auto [one, two] = std::minmax({ m_dice.below(300), m_dice.below(300) });
     switch (m_dice.below(3)) {
     case 0:
         text->deleteText(one, two);
