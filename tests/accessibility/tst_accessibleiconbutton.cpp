@@ -100,6 +100,9 @@ void TestAccessibleIconButton::isDoubleClicked()
 {
     Tile tile;
     QVERIFY(act(&tile, doubleClick()));
+    // by two clicks, each of which flips the value
+    QCOMPARE(tile.property("clickNumber"), QVariant(2));
+    QCOMPARE(tile.getValue(), QVariant(false));
     QTRY_COMPARE_WITH_TIMEOUT(tile.twice.count(), 1, 20000);
     QCOMPARE(tile.single.count(), 0);
 }
