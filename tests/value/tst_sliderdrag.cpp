@@ -311,7 +311,7 @@ void TestSliderDrag::survivesAnEndThatNoSliderHas()
 
 void TestSliderDrag::survivesADragWhileItIsDestroyed()
 {
-    auto *slider = new OlvSlider;
+    const QPointer<OlvSlider> slider(new OlvSlider);
     SliderRound *knob = knobOf(*slider);
     int x = 0;
     // what is left of it is a plain widget, whose knob still lives

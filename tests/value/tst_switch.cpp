@@ -228,7 +228,7 @@ void TestSwitch::survivesTheLossOfItsKnob()
 
 void TestSwitch::ignoresEventsWhileItIsDestroyed()
 {
-    auto *toggle = new SizedSwitch;
+    const QPointer<SizedSwitch> toggle(new SizedSwitch);
     SwitchRound *knob = knobOf(*toggle);
     int calls = 0;
     connect(toggle, &QObject::destroyed, this, [&] {
@@ -244,7 +244,7 @@ void TestSwitch::ignoresEventsWhileItIsDestroyed()
         }
     });
     const QSize before = knob->size();
-    connect(knob, &QObject::destroyed, this, [&] { QCOMPARE(knob->size(), before); });
+    connect(knob, &QObject::destroyed, this, [=] { QCOMPARE(knob->size(), before); });
     delete toggle;
     QCOMPARE(calls, 3); // consumed as ever, but nothing happens
 }
