@@ -12,6 +12,7 @@ namespace {
 
 constexpr QSize buttonSize(120, 36);
 constexpr int captionPointSize = 9;
+constexpr int newCaptions = 20000;
 
 enum class State { Resting, Hovered, Pressed };
 
@@ -129,6 +130,25 @@ void paintPrepared(benchmark::State &state, const ButtonCase &look)
     measurePainting(state, *floor);
 }
 
+/** Each caption is drawn once in a long while, and so is new to whatever remembers captions. */
+template <typename Button> void paintNewCaptions(benchmark::State &state, const QString &styleSheet)
+{
+    QWidget window;
+    auto *button = new Button(&window);
+    button->setStyleSheet(styleSheet);
+    button->setGeometry(QRect(QPoint(10, 10), buttonSize));
+    showAndWait(window);
+    QStringList captions;
+    for (int i = 0; i < newCaptions; ++i) {
+        captions << QStringLiteral("Page %1").arg(i, 6, 10, QLatin1Char('0'));
+    }
+    int next = 0;
+    measurePainting(state, *button, [&] {
+        button->setText(captions[next]);
+        next = (next + 1) % newCaptions;
+    });
+}
+
 void paintNothing(benchmark::State &state)
 {
     QWidget window;
@@ -179,6 +199,11 @@ void addButtons()
     const QString round = QStringLiteral("round");
     addButton({ "button-empty", {}, {}, State::Resting });
     addBenchmark("button-empty/undrawn", paintNothing);
+    addBenchmark("button-new-caption/library",
+                 [](benchmark::State &state) { paintNewCaptions<OlvButton>(state, QString()); });
+    addBenchmark("button-new-caption/sheet", [](benchmark::State &state) {
+        paintNewCaptions<QPushButton>(state, styleSheetOf({ "", {}, {}, State::Resting }));
+    });
     addButton({ "button-rest", eleven, {}, State::Resting });
     addButton({ "button-hover", eleven, {}, State::Hovered });
     addButton({ "button-pressed", eleven, {}, State::Pressed });

@@ -108,6 +108,11 @@ template <typename Contestant> void addList(benchmark::State &state, int count)
             state.ResumeTiming();
             contestant.add(tiles);
             state.PauseTiming();
+            if (positionsOf(tiles)
+                != flowPositions(tiles, contestant.content->width(), defaultGap)) {
+                state.SkipWithError("not every tile is in its place");
+                return;
+            }
         }
         settle();
         state.ResumeTiming();

@@ -7,7 +7,6 @@
 namespace {
 
 constexpr QSize viewSize(960, 640);
-constexpr int defaultGap = 15;
 
 /** Puts one tile behind the other and a new row below the last. */
 class Flow
@@ -119,6 +118,8 @@ void ScrolledFlowLayout::add(const Tiles &tiles)
     for (QWidget *tile : tiles) {
         layout->addWidget(tile);
     }
+    // adding a widget that is shown already asks for nothing
+    layout->invalidate();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
@@ -151,6 +152,7 @@ void MovedTiles::add(const Tiles &tiles)
     for (QWidget *tile : tiles) {
         tile->move(flow.next(tile->size()));
     }
+    content->resize(content->width(), flow.height());
 }
 
 void NaiveGrid::add(QWidget *tile)

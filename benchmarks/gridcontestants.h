@@ -16,6 +16,9 @@ using Tiles = QList<QWidget *>;
 QWidget *makeEmptyTile(QWidget *parent);
 /** @p count tiles of several sizes in @p parent, shown as soon as it is. */
 Tiles makeTiles(int count, QWidget *parent, QWidget *(*makeTile)(QWidget *parent) = makeEmptyTile);
+/** The gap that the library's grid begins with, and the others with it. */
+constexpr int defaultGap = 15;
+
 /** Where a flow of @p tiles in @p width pixels puts each of them. */
 QVector<QPoint> flowPositions(const Tiles &tiles, int width, int gap);
 

@@ -84,11 +84,14 @@ QImage pictureOf(QWidget &widget)
     return picture;
 }
 
-void measurePainting(benchmark::State &state, QWidget &widget)
+void measurePainting(benchmark::State &state, QWidget &widget, const std::function<void()> &change)
 {
     QImage target(widget.size(), QImage::Format_ARGB32_Premultiplied);
     target.fill(Qt::white);
     while (state.KeepRunning()) {
+        if (change) {
+            change();
+        }
         widget.render(&target, {}, {}, QWidget::DrawChildren);
     }
 }

@@ -32,8 +32,12 @@ void paintUpdates(QWidget &window);
 
 /** What @p widget and its children draw, on nothing. */
 QImage pictureOf(QWidget &widget);
-/** The timed loop of all painting: @p widget drawn over and over into one image. */
-void measurePainting(benchmark::State &state, QWidget &widget);
+/**
+ * The timed loop of all painting: @p widget drawn over and over into one image, with a @p change
+ * before each time if there is one.
+ */
+void measurePainting(benchmark::State &state, QWidget &widget,
+                     const std::function<void()> &change = nullptr);
 
 /**
  * Opens its painter, reads properties, and draws nothing. It has copies of the properties of

@@ -48,6 +48,7 @@ TARGETS = [
             Ratio(f"button-{state}", "sheet", 0.55),
         )
     ),
+    Ratio("button-new-caption", "sheet", None),
     Ratio("button-plain", "floor", 0.37),
     Ratio("button-shrunk", "floor", 1.05),
     Ratio("switch", "floor", 0.22),
