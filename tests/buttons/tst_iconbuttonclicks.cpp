@@ -13,9 +13,9 @@ namespace {
 class PropertyRecord : public QObject
 {
 public:
-    explicit PropertyRecord(QObject &object)
+    explicit PropertyRecord(QObject *object)
     {
-        object.installEventFilter(this); // clazy:exclude=install-event-filter
+        object->installEventFilter(this); // clazy:exclude=install-event-filter
     }
     bool eventFilter(QObject *watched, QEvent *event) override
     {
@@ -102,7 +102,7 @@ void TestIconButtonClicks::changesItsPropertiesInOrder()
     Tile tile;
     Pointer::enter(tile);
     Pointer::press(tile);
-    PropertyRecord record(tile);
+    PropertyRecord record(&tile);
     Pointer::release(tile);
     QCOMPARE(record.lines,
              QStringList({ QStringLiteral("state hover"), QStringLiteral("clickNumber 1"),
