@@ -111,7 +111,7 @@ void TestCaption::writesTheVeryPixelsInTheWidgetsFont_data()
                                           widget.setFont(font);
                                       } };
     };
-    addFont("as it is", [](QFont & /*font*/) { });
+    addFont("as it is", [](QFont & /*font*/) {});
     addFont("bold", [](QFont &font) { font.setBold(true); });
     addFont("italic", [](QFont &font) { font.setItalic(true); });
     addFont("underlined", [](QFont &font) { font.setUnderline(true); });
