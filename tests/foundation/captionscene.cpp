@@ -8,8 +8,10 @@
 namespace {
 
 /** A pen that no caption is written with: while the painter has it, the caption was copied. */
-const QPen untouched(QColor(1, 2, 3), 7, Qt::DotLine);
-const QColor blue(64, 158, 255);
+QPen untouched()
+{
+    return QPen(QColor(1, 2, 3), 7, Qt::DotLine);
+}
 
 void drawGround(const Scene &scene, QPainter &painter)
 {
@@ -32,16 +34,16 @@ Scene sceneOf(const QString &text, QSize size)
     return { { text, Qt::white, QStringLiteral("宋体"), 9 },
              QRect(QPoint(), size),
              size.height() / 5,
-             blue,
+             QColor(64, 158, 255),
              0 };
 }
 
 bool draw(const Scene &scene, QPainter &painter)
 {
     drawGround(scene, painter);
-    painter.setPen(untouched);
+    painter.setPen(untouched());
     scene.caption.draw(painter, { scene.shape(), scene.fill, scene.lineWidth });
-    return painter.pen() == untouched;
+    return painter.pen() == untouched();
 }
 
 void drawReference(const Scene &scene, QPainter &painter)
@@ -65,8 +67,9 @@ QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &pain
     image.fill(QColor(200, 180, 30));
     const QRegion region = target.region.isEmpty() ? QRegion(widget.rect()) : target.region;
     const QPoint place = QPoint(20, 25) + target.offset + region.boundingRect().topLeft();
-    if (target.isPainted) {
+    if (target.open) {
         QPainter painter(&image);
+        target.open(painter);
         widget.render(&painter, place, region, QWidget::RenderFlags());
     } else {
         widget.render(&image, place, region, QWidget::RenderFlags());

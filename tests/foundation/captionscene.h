@@ -38,7 +38,8 @@ struct Target
     QPoint offset = QPoint(0, 0);
     QRegion region = {};
     Prepare prepare = nullptr;
-    bool isPainted = false; ///< drawn by a painter that somebody else has opened on the image
+    /** Set for a widget that is drawn by another's painter: what is done with that before. */
+    std::function<void(QPainter &)> open = nullptr;
 };
 
 QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &paint);

@@ -11,10 +11,12 @@
 namespace {
 
 using Change = std::function<void(QPainter &, Scene &)>;
+using Open = std::function<void(QPainter &)>;
 
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(Open)
 
 class TestCaptionCopies : public QObject
 {
@@ -29,6 +31,8 @@ private Q_SLOTS:
     void noticesFontsOfAnyThread();
     void noticesASubstitute();
     void noticesASubstituteOfTheWidgetsFamily();
+    void noticesTheStateOfAnotherPainter_data();
+    void noticesTheStateOfAnotherPainter();
     void keepsNoLongText();
     void forgetsWhatIsOldest();
 };
@@ -151,6 +155,34 @@ void TestCaptionCopies::noticesASubstituteOfTheWidgetsFamily()
     QVERIFY(wasCopied);
     QFont::removeSubstitutions(missing);
     comparePictures(scene, target, &wasCopied);
+    QVERIFY(wasCopied);
+}
+
+void TestCaptionCopies::noticesTheStateOfAnotherPainter_data()
+{
+    QTest::addColumn<Open>("change");
+    // read from the right, the mark stands on the left
+    QTest::newRow("direction") << Open(
+        [](QPainter &painter) { painter.setLayoutDirection(Qt::RightToLeft); });
+    QTest::newRow("hints") << Open(
+        [](QPainter &painter) { painter.setRenderHint(QPainter::TextAntialiasing, false); });
+}
+
+void TestCaptionCopies::noticesTheStateOfAnotherPainter()
+{
+    QFETCH(Open, change);
+    Target before;
+    before.open = [](QPainter & /*painter*/) {
+    };
+    Target after;
+    after.open = change;
+    const Scene scene = sceneOf(QString::fromUtf8(QTest::currentDataTag()) + QLatin1Char('!'));
+    QCOMPARE(copiesIn(scene, before, 3), 1);
+    QCOMPARE(copiesIn(scene, after, 1), 0);
+    bool wasCopied = false;
+    comparePictures(scene, after, &wasCopied);
+    QVERIFY(wasCopied);
+    comparePictures(scene, before, &wasCopied);
     QVERIFY(wasCopied);
 }
 
