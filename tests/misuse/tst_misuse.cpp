@@ -44,9 +44,9 @@ void TestMisuse::widgetsWithoutAParentAreWindows()
     OlvDragWidget drag(nullptr, nullptr, nullptr, QPoint());
     OlvGridLayout grid;
     OlvFlexWidget panel(0, 0, nullptr);
-    for (QWidget *widget :
-         QList<QWidget *>({ &button, &tile, &star, &line, &field, &toggle, &slider, &disc, &knob,
-                            &bar, &drag, &grid, &panel })) {
+    const QList<QWidget *> widgets{ &button, &tile, &star, &line, &field, &toggle, &slider,
+                                    &disc,   &knob, &bar,  &drag, &grid,  &panel };
+    for (QWidget *widget : widgets) {
         QVERIFY(widget->isWindow());
         widget->resize(70, 30);
         QVERIFY(!widget->grab().isNull());

@@ -133,7 +133,7 @@ void TestShortcutEditOnServer::clearingAndDestroyingReleaseIt()
         const auto said = [&] {
             return !other.lines().value(0).isEmpty();
         };
-        return QTest::qWaitFor(said) && other.lines().first() == QLatin1String("held");
+        return QTest::qWaitFor(said) && other.lines().value(0) == QLatin1String("held");
     };
     const auto makeShortcut = [] {
         return new OlvShortcut(Qt::Key_F5, true, false, false, false);
