@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <utility>
+
 namespace {
 
 /** A pen that no caption is written with: while the painter has it, the caption was copied. */
@@ -21,6 +23,26 @@ void drawGround(const Scene &scene, QPainter &painter)
         scene.shape().stroke(painter, QColor(179, 216, 255), scene.lineWidth);
     }
 }
+
+/** A widget on a screen of its own scale. */
+class ScaledWidget : public DrawnWidget
+{
+public:
+    ScaledWidget(QSize size, Draw draw, int dotsPerInch)
+        : DrawnWidget(size, std::move(draw))
+        , m_dotsPerInch(dotsPerInch)
+    { }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        const bool isScale = metric == PdmDpiX || metric == PdmDpiY;
+        return isScale && m_dotsPerInch > 0 ? m_dotsPerInch : DrawnWidget::metric(metric);
+    }
+
+private:
+    int m_dotsPerInch;
+};
 
 } // namespace
 
@@ -59,7 +81,7 @@ void drawReference(const Scene &scene, QPainter &painter)
 
 QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &paint)
 {
-    DrawnWidget widget(size, paint);
+    ScaledWidget widget(size, paint, target.dotsPerInch);
     if (target.prepare) {
         target.prepare(widget);
     }

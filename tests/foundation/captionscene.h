@@ -40,6 +40,7 @@ struct Target
     Prepare prepare = nullptr;
     /** Set for a widget that is drawn by another's painter: what is done with that before. */
     std::function<void(QPainter &)> open = nullptr;
+    int dotsPerInch = 0; ///< of the widget's screen; 0 for the one there is
 };
 
 QImage pictureOn(const Target &target, QSize size, const DrawnWidget::Draw &paint);

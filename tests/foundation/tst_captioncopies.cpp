@@ -33,6 +33,7 @@ private Q_SLOTS:
     void noticesASubstituteOfTheWidgetsFamily();
     void noticesTheStateOfAnotherPainter_data();
     void noticesTheStateOfAnotherPainter();
+    void noticesTheScaleOfAnotherScreen();
     void keepsNoLongText();
     void forgetsWhatIsOldest();
 };
@@ -184,6 +185,23 @@ void TestCaptionCopies::noticesTheStateOfAnotherPainter()
     QVERIFY(wasCopied);
     comparePictures(scene, before, &wasCopied);
     QVERIFY(wasCopied);
+}
+
+void TestCaptionCopies::noticesTheScaleOfAnotherScreen()
+{
+    Target larger;
+    larger.dotsPerInch = 144;
+    const Scene scene = sceneOf(QStringLiteral("Scale"));
+    QCOMPARE(copiesIn(scene, {}, 3), 1);
+    QCOMPARE(copiesIn(scene, larger, 1), 0);
+    bool wasCopied = false;
+    comparePictures(scene, larger, &wasCopied);
+    QVERIFY(wasCopied);
+    comparePictures(scene, {}, &wasCopied);
+    QVERIFY(wasCopied);
+    // glyphs of more than 48 pixels are outlines
+    larger.dotsPerInch = 400;
+    QCOMPARE(copiesIn(scene, larger, 4), 0);
 }
 
 void TestCaptionCopies::keepsNoLongText()
