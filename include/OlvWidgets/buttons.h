@@ -44,8 +44,9 @@
  * off on both sides.
  *
  * Accessibility: a button, or a check box while it is checkable, called by its accessible name,
- * else by its caption. The actions "Press" and, while it is checkable, "Toggle" both do what a
- * click does.
+ * else by its caption, else (a glyph of an icon font says nothing) by its tool tip. The actions
+ * "Press" and, while it is checkable, "Toggle" are both a click of the mouse. The keyboard does not
+ * press it.
  *
  * @code
  * auto *save = new OlvButton(tr("Save"), this);
@@ -160,8 +161,9 @@ private:
  * grey.
  *
  * Accessibility: a button, or a check box while it is checkable, called by its accessible name,
- * else by its caption. The actions "Press" and, while it is checkable, "Toggle" are both a click of
- * the mouse, which counts like any other; "doubleClick" is two of them at once.
+ * else by its caption, else by its tool tip. The actions "Press" and, while it is checkable,
+ * "Toggle" are both a click of the mouse, which counts like any other; "doubleClick" is two of them
+ * at once. The keyboard does not press it.
  *
  * @code
  * auto *mail = new OlvIconButton(QChar(0xf0e0), tr("Mail"), "FontAwesome", this, 80, 80);
@@ -238,8 +240,10 @@ OLVWIDGETS_EXPORT bool isChecked(OlvIconButton *button);
  * (checked), both strings, which are read at each click. Its look comes from its style sheet alone.
  *
  * Accessibility: a check box called by its accessible name, else by its tool tip: give it one of
- * the two, since a glyph of an icon font says nothing when it is read out. The actions "Toggle" and
- * "Press" both click it.
+ * the two, since a glyph of an icon font says nothing when it is read out; a caption that does is
+ * the name otherwise. The actions "Toggle" and "Press" both click it. One of several exclusive ones
+ * is a radio button, and one with a menu has the action "ShowMenu" instead, as with any
+ * QPushButton.
  *
  * @code
  * auto *star = new OlvSimpleIconButton(QChar(0xf006), QFont("FontAwesome", 12), this);

@@ -41,9 +41,10 @@ class QLineEdit;
  * | "Invisible" | string | "※"      | its glyph once clicked, while the text is shown |
  * | "state"     | string | "normal" | "edit" while the text has the focus             |
  *
- * Accessibility: a group, called by its accessible name, of the text, which is a QLineEdit, and the
- * password button, a check box called "显示密码" unless it is given an accessible name or a tool
- * tip.
+ * Accessibility: a group, called by its accessible name, else by a label whose buddy it is, else by
+ * its tool tip. It has two parts: the text, a QLineEdit, which is called as the group is unless it
+ * is given an accessible name of its own, and the password button, a check box called "显示密码"
+ * unless it is given an accessible name or a tool tip. The action "SetFocus" leads to the text.
  *
  * @code
  * auto *password = new OlvLineEdit(this);

@@ -100,7 +100,7 @@ private:
  * Accessibility: a slider, called by its accessible name, else by a label whose buddy it is, with a
  * value from 0 to 100 in steps of 1. Setting that value is a drag to it: the knob moves to where a
  * drag would give the same percentage, or to the next pixel on a track with fewer pixels than
- * percentages, and setValue() is called once.
+ * percentages, and setValue() is called once. The keyboard does not move it.
  */
 class OLVWIDGETS_EXPORT OlvSlider : public OlvWidget
 {
@@ -196,7 +196,7 @@ private:
  *
  * Accessibility: a check box, called by its accessible name, else by a label whose buddy it is. The
  * actions "Toggle" and "Press" both do what a click does, and nothing until the animation under way
- * has ended; it is told to be checked or not once it stands so.
+ * has ended; it is told to be checked or not once it stands so. The keyboard does not switch it.
  *
  * @code
  * auto *wifi = new OlvSwitch(this);

@@ -7,6 +7,7 @@
 #include "accessibility/accessibleflexwidget_p.h"
 #include "accessibility/accessibleglyphbutton_p.h"
 #include "accessibility/accessibleiconbutton_p.h"
+#include "accessibility/accessiblelineedit_p.h"
 #include "accessibility/accessibleshortcutedit_p.h"
 #include "accessibility/accessibleslider_p.h"
 #include "accessibility/accessibleswitch_p.h"
@@ -36,41 +37,54 @@ constexpr Maker makers[] = {
     { "OlvControlBar", makePlain<QAccessible::ToolBar> },
     { "OlvFlexWidget", make<AccessibleFlexWidget> },
     { "OlvIconButton", make<AccessibleIconButton> },
-    { "OlvLineEdit", makePlain<QAccessible::Grouping> },
+    { "OlvLineEdit", make<AccessibleLineEdit> },
     { "OlvShortcutEdit", make<AccessibleShortcutEdit> },
     { "OlvSimpleIconButton", make<AccessibleGlyphButton> },
     { "OlvSlider", make<AccessibleSlider> },
     { "OlvSwitch", make<AccessibleSwitch> },
 };
 
-AccessibleWidget *makeFor(const QString &className, QWidget *widget)
+/** Qt makes interfaces for every widget that is shown, whether or not anybody looks at them. */
+AccessibleWidget *watched(AccessibleWidget *accessible)
 {
-    if (className == QLatin1String("QPushButton")) {
-        return qobject_cast<OlvControlBar *>(widget->parentWidget())
-            ? new AccessibleGlyphButton(widget)
-            : nullptr;
+    if (QAccessible::isActive()) {
+        accessible->setWatching(true);
     }
-    if (!className.startsWith(QLatin1String("Olv"))) {
+    return accessible;
+}
+
+/** The factory for the library's classes. */
+QAccessibleInterface *makeForClass(const QString &className, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (!widget || !className.startsWith(QLatin1String("Olv"))) {
         return nullptr;
     }
     for (const Maker &maker : makers) {
         if (className == QLatin1String(maker.className)) {
-            return maker.make(widget);
+            return watched(maker.make(widget));
         }
     }
     return nullptr;
 }
 
-QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+/** The factory for the buttons that a control bar made: those have an index. */
+QAccessibleInterface *makeForButtonOfBar(const QString &className, QObject *object)
 {
-    auto *widget = qobject_cast<QWidget *>(object);
-    AccessibleWidget *made = widget ? makeFor(className, widget) : nullptr;
-    // Qt makes interfaces for every widget that is shown, whether or not anybody looks at them
-    if (made && QAccessible::isActive()) {
-        made->setWatching(true);
-    }
-    return made;
+    auto *button =
+        className == QLatin1String("QPushButton") ? qobject_cast<QWidget *>(object) : nullptr;
+    return button && qobject_cast<OlvControlBar *>(button->parentWidget())
+            && button->property("index").isValid()
+        ? watched(new AccessibleGlyphButton(button))
+        : nullptr;
 }
+
+/** Qt asks the factory that came last first: one of the application's comes after this one. */
+void installForClasses()
+{
+    QAccessible::installFactory(makeForClass);
+}
+Q_COREAPP_STARTUP_FUNCTION(installForClasses)
 
 /** Watches the widgets that were there before somebody looked. */
 class Activation : public QAccessible::ActivationObserver
@@ -100,7 +114,8 @@ struct Installation
     ~Installation()
     {
         QAccessible::removeActivationObserver(&activation);
-        QAccessible::removeFactory(makeInterface);
+        QAccessible::removeFactory(makeForButtonOfBar);
+        QAccessible::removeFactory(makeForClass);
     }
     Q_DISABLE_COPY(Installation)
 
@@ -108,7 +123,7 @@ struct Installation
     void install()
     {
         QAccessible::installActivationObserver(&activation);
-        QAccessible::installFactory(makeInterface);
+        QAccessible::installFactory(makeForButtonOfBar); // after Qt's own, which takes any button
     }
 };
 

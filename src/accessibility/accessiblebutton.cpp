@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "accessibility/accessiblebutton_p.h"
 
-#include <OlvWidgets/buttons.h>
-
 #include "buttons/buttonstate_p.h"
 
 AccessibleButton::AccessibleButton(QWidget *button)
@@ -25,7 +23,5 @@ QAccessible::State AccessibleButton::ownState() const
 
 void AccessibleButton::click()
 {
-    if (auto *button = qobject_cast<OlvButton *>(object())) {
-        button->click(!button->isChecked());
-    }
+    clickWithTheMouse();
 }

@@ -20,4 +20,7 @@ public:
 protected:
     /** Clicks the widget, which is there and enabled; a slot may delete it, and this with it. */
     virtual void click() = 0;
+    /** For buttons that only the mouse clicks: sends what it sends, so that subclasses get it too.
+     */
+    void clickWithTheMouse();
 };

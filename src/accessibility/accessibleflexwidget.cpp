@@ -10,6 +10,12 @@ QAccessible::Role AccessibleFlexWidget::role() const
     return isValid() && widget()->isWindow() ? QAccessible::Window : AccessibleWidget::role();
 }
 
+QString AccessibleFlexWidget::ownName() const
+{
+    // Qt says it only of windows, and without the mark of a modified one
+    return widget()->isWindow() ? QString() : widget()->windowTitle();
+}
+
 QAccessible::State AccessibleFlexWidget::state() const
 {
     QAccessible::State state = AccessibleWidget::state();

@@ -11,4 +11,7 @@ public:
 
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
+
+protected:
+    QString ownName() const override;
 };

@@ -3,52 +3,110 @@
 
 #include <OlvWidgets/input.h>
 
-#include <QAbstractButton>
+#include "accessibility/spokentext_p.h"
 
-#include <algorithm>
+#include <QButtonGroup>
+#include <QPushButton>
 
 namespace {
 
-/** Whether a text means something to whom it is read out: icon fonts use the private characters. */
-bool isReadable(const QString &text)
+bool isOneOfSeveral(const QAbstractButton &button)
 {
-    return std::any_of(text.cbegin(), text.cend(), [](QChar character) {
-        return character.category() != QChar::Other_PrivateUse;
-    });
+    return button.isCheckable()
+        && (button.group() ? button.group()->exclusive() : button.autoExclusive());
+}
+
+/** A caption without the mark before the letter that is its key. */
+QString withoutMnemonic(QString caption)
+{
+    const QString mark = QStringLiteral("&");
+    const QString kept(QChar::Null); // stands for a mark that is written twice, and is shown
+    return caption.replace(mark + mark, kept).remove(mark).replace(kept, mark);
 }
 
 } // namespace
 
-AccessibleGlyphButton::AccessibleGlyphButton(QWidget *button)
-    : AccessibleClickable(button)
+AccessibleGlyphButton::AccessibleGlyphButton(QWidget *widget)
+    : AccessibleClickable(widget)
 { }
+
+QAccessible::Role AccessibleGlyphButton::role() const
+{
+    if (hasMenu()) {
+        return QAccessible::ButtonMenu;
+    }
+    return button() && isOneOfSeveral(*button()) ? QAccessible::RadioButton
+                                                 : AccessibleClickable::role();
+}
 
 QAccessible::State AccessibleGlyphButton::state() const
 {
     QAccessible::State state = AccessibleClickable::state();
-    if (const auto *button = qobject_cast<QAbstractButton *>(object())) {
-        state.checkable = button->isCheckable();
-        state.checked = button->isChecked();
-        state.pressed = button->isDown();
+    if (button()) {
+        state.checkable = button()->isCheckable();
+        state.checked = button()->isChecked();
+        state.pressed = button()->isDown();
+        state.hasPopup = hasMenu();
     }
     return state;
 }
 
+QString AccessibleGlyphButton::text(QAccessible::Text kind) const
+{
+    return kind == QAccessible::Accelerator && button()
+        ? button()->shortcut().toString(QKeySequence::NativeText)
+        : AccessibleClickable::text(kind);
+}
+
+QStringList AccessibleGlyphButton::actionNames() const
+{
+    if (!hasMenu()) {
+        return AccessibleClickable::actionNames();
+    }
+    return (button()->isEnabled() ? QStringList{ showMenuAction() } : QStringList())
+        + AccessibleWidget::actionNames();
+}
+
+void AccessibleGlyphButton::doAction(const QString &name)
+{
+    if (name == showMenuAction() && actionNames().contains(name)) {
+        button()->showMenu();
+    } else {
+        AccessibleClickable::doAction(name);
+    }
+}
+
+QStringList AccessibleGlyphButton::keyBindingsForAction(const QString &name) const
+{
+    return name == pressAction() && button() && !button()->shortcut().isEmpty()
+        ? QStringList{ button()->shortcut().toString() }
+        : QStringList();
+}
+
 QString AccessibleGlyphButton::ownName() const
 {
-    const auto *button = qobject_cast<QAbstractButton *>(object());
-    if (!button || !button->toolTip().isEmpty()) {
-        return button ? button->toolTip() : QString();
+    const QPushButton *own = button();
+    if (!own || !own->toolTip().isEmpty()) {
+        return own ? SpokenText::plain(own->toolTip()) : QString();
     }
-    if (qobject_cast<OlvLineEdit *>(button->parentWidget())) {
-        return QStringLiteral("显示密码");
-    }
-    return isReadable(button->text()) ? button->text() : QString();
+    return qobject_cast<OlvLineEdit *>(own->parentWidget()) ? QStringLiteral("显示密码")
+                                                            : withoutMnemonic(own->text());
 }
 
 void AccessibleGlyphButton::click()
 {
-    if (auto *button = qobject_cast<QAbstractButton *>(object())) {
-        button->click();
+    if (button()) {
+        button()->click();
     }
+}
+
+/** Null once only a part of it is left. */
+QPushButton *AccessibleGlyphButton::button() const
+{
+    return isValid() ? qobject_cast<QPushButton *>(object()) : nullptr;
+}
+
+bool AccessibleGlyphButton::hasMenu() const
+{
+    return button() && button()->menu();
 }

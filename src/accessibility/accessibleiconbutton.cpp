@@ -5,8 +5,6 @@
 
 #include "buttons/buttonstate_p.h"
 
-#include <QCoreApplication>
-#include <QMouseEvent>
 #include <QPointer>
 
 namespace {
@@ -14,31 +12,6 @@ namespace {
 QString doubleClickAction()
 {
     return QStringLiteral("doubleClick");
-}
-
-/** Sends an event of the mouse at the middle of a tile, unless that has gone meanwhile. */
-void sendMouse(QWidget *tile, QEvent::Type type)
-{
-    if (!tile) {
-        return;
-    }
-    const QPoint middle = tile->rect().center();
-    const bool isRelease = type == QEvent::MouseButtonRelease;
-    QMouseEvent event(type, middle, tile->mapToGlobal(middle), Qt::LeftButton,
-                      isRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(tile, &event);
-}
-
-/** Has the pointer come into a tile, or leave it. */
-void sendCrossing(QWidget *tile, QEvent::Type type)
-{
-    if (!tile) {
-        return;
-    }
-    const QPoint middle = tile->rect().center();
-    QEnterEvent enter(middle, tile->mapTo(tile->window(), middle), tile->mapToGlobal(middle));
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(tile, type == QEvent::Enter ? &enter : &leave);
 }
 
 } // namespace
@@ -87,15 +60,5 @@ QAccessible::State AccessibleIconButton::ownState() const
 
 void AccessibleIconButton::click()
 {
-    const QPointer<QWidget> tile(widget());
-    // a release counts only while the pointer is inside
-    const bool isInside = property("hovered").toBool();
-    if (!isInside) {
-        sendCrossing(tile, QEvent::Enter);
-    }
-    sendMouse(tile, QEvent::MouseButtonPress);
-    sendMouse(tile, QEvent::MouseButtonRelease);
-    if (!isInside) {
-        sendCrossing(tile, QEvent::Leave);
-    }
+    clickWithTheMouse();
 }

@@ -88,6 +88,13 @@ QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBounda
     return whole.mid(*start, *end - *start);
 }
 
+QAccessible::State AccessibleShortcutEdit::state() const
+{
+    QAccessible::State state = AccessibleWidget::state();
+    state.readOnly = true;
+    return state;
+}
+
 int AccessibleShortcutEdit::characterCount() const
 {
     return value().toString().size();
@@ -125,4 +132,32 @@ void AccessibleShortcutEdit::tellValue(const QVariant &before)
     // instead of the change of a value, which Qt's bridge takes for one of a number
     QAccessibleTextUpdateEvent event(widget(), 0, before.toString(), value().toString());
     QAccessible::updateAccessibility(&event);
+}
+
+void AccessibleShortcutEdit::watch(QObject *watcher)
+{
+    auto *editor = qobject_cast<OlvShortcutEdit *>(object());
+    const auto watchHeld = [=] {
+        // not the one that the signal names: another slot may have deleted that
+        watchShortcut(editor->shortcut(), watcher);
+    };
+    // a new shortcut may lie where the one before it lay, so that no property changes
+    QObject::connect(editor, &OlvShortcutEdit::shortcutChanged, watcher, [=] {
+        watchHeld();
+        tellChanges();
+    });
+    watchHeld();
+}
+
+/**
+ * Tells when an application has deleted the shortcut; later, since what the editor itself deletes
+ * makes room for another.
+ */
+void AccessibleShortcutEdit::watchShortcut(OlvShortcut *shortcut, QObject *watcher)
+{
+    QObject::disconnect(m_end);
+    if (shortcut) {
+        m_end = QObject::connect(
+            shortcut, &QObject::destroyed, watcher, [=] { tellChanges(); }, Qt::QueuedConnection);
+    }
 }

@@ -3,12 +3,15 @@
 
 #include "accessibility/accessiblewidget_p.h"
 
+class OlvShortcut;
+
 /** An OlvShortcutEdit: its value is the text of its shortcut, which can be read as a text too. */
 class AccessibleShortcutEdit : public AccessibleWidget, public QAccessibleTextInterface
 {
 public:
     explicit AccessibleShortcutEdit(QWidget *editor);
 
+    QAccessible::State state() const override;
     void *interface_cast(QAccessible::InterfaceType type) override;
     using AccessibleWidget::text;
 
@@ -31,4 +34,10 @@ public:
 protected:
     QVariant value() const override;
     void tellValue(const QVariant &before) override;
+    void watch(QObject *watcher) override;
+
+private:
+    void watchShortcut(OlvShortcut *shortcut, QObject *watcher);
+
+    QMetaObject::Connection m_end; // to the end of the shortcut
 };

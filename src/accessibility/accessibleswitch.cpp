@@ -5,9 +5,21 @@
 
 #include <QAbstractEventDispatcher>
 
+#include <algorithm>
+
 AccessibleSwitch::AccessibleSwitch(QWidget *widget)
     : AccessibleClickable(widget)
 { }
+
+/** Whether a timer of the switch runs; there may be others, of a subclass. */
+bool AccessibleSwitch::isRunning(const QVariant &timer) const
+{
+    const QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
+    const auto timers = dispatcher ? dispatcher->registeredTimers(object())
+                                   : QList<QAbstractEventDispatcher::TimerInfo>();
+    return std::any_of(timers.cbegin(), timers.cend(),
+                       [&](const auto &running) { return running.timerId == timer.toInt(); });
+}
 
 QAccessible::State AccessibleSwitch::ownState() const
 {
@@ -22,8 +34,8 @@ void AccessibleSwitch::click()
     auto *widget = qobject_cast<OlvSwitch *>(object());
     // Clicks do nothing during the animation. Here that begins with its timer, not with its first
     // step: a second timer would have the switch flip back and forth.
-    QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
-    if (widget && dispatcher && dispatcher->registeredTimers(widget).isEmpty()) {
+    const bool isMoving = property("moveCount").toInt() != 0 || isRunning(property("timerId"));
+    if (widget && !isMoving) {
         widget->setValue(!property("switch").toBool());
     }
 }

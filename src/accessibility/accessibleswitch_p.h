@@ -12,4 +12,7 @@ public:
 protected:
     QAccessible::State ownState() const override;
     void click() override;
+
+private:
+    bool isRunning(const QVariant &timer) const;
 };

@@ -5,6 +5,7 @@
 #include <OlvWidgets/value.h>
 
 #include "accessibility/changewatcher_p.h"
+#include "accessibility/spokentext_p.h"
 
 #include <QPointer>
 
@@ -33,7 +34,7 @@ QAccessible::State difference(QAccessible::State before, QAccessible::State now)
 struct AccessibleWidget::Told
 {
     explicit Told(AccessibleWidget *accessible)
-        : name(accessible->name())
+        : name(accessible->nameToTell())
         , state(accessible->ownState())
         , value(accessible->value())
         , watcher(accessible->widget(), accessible)
@@ -57,6 +58,8 @@ void AccessibleWidget::setWatching(bool watching)
         m_told.reset();
     } else if (!m_told) {
         m_told = std::make_unique<Told>(this);
+        watch(&m_told->watcher);
+        nameParts(name());
     }
 }
 
@@ -65,7 +68,7 @@ void AccessibleWidget::tellChanges()
     if (!QAccessible::isActive() || !isValid() || !m_told) {
         return;
     }
-    const QString nameBefore = std::exchange(m_told->name, name());
+    const QString nameBefore = std::exchange(m_told->name, nameToTell());
     const QAccessible::State stateBefore = std::exchange(m_told->state, ownState());
     const QVariant valueBefore = std::exchange(m_told->value, value());
     const QAccessible::State changed = difference(stateBefore, m_told->state);
@@ -85,6 +88,9 @@ void AccessibleWidget::tellChanges()
     }
     if (watcher && hasOtherValue) {
         tellValue(valueBefore);
+    }
+    if (watcher) {
+        nameParts(name());
     }
 }
 
@@ -137,9 +143,12 @@ QString AccessibleWidget::text(QAccessible::Text kind) const
         return value().toString();
     case QAccessible::Description: {
         // the tool tip may be the name already
-        const QString description = QAccessibleWidget::text(kind);
+        const QString description = SpokenText::plain(QAccessibleWidget::text(kind));
         return description == name() ? QString() : description;
     }
+    case QAccessible::Accelerator:
+        // Qt takes that of a label, which leads to its buddy only when that takes the keyboard
+        return widget()->focusPolicy() == Qt::NoFocus ? QString() : QAccessibleWidget::text(kind);
     default:
         return QAccessibleWidget::text(kind);
     }
@@ -207,6 +216,10 @@ QVariant AccessibleWidget::value() const
     return QVariant();
 }
 
+void AccessibleWidget::watch(QObject * /*watcher*/) { }
+
+void AccessibleWidget::nameParts(const QString & /*name*/) { }
+
 void AccessibleWidget::tellValue(const QVariant & /*before*/)
 {
     QAccessibleValueChangeEvent event(widget(), m_told->value);
@@ -231,10 +244,26 @@ QString AccessibleWidget::name() const
 {
     QString name = widget()->accessibleName();
     if (name.isEmpty()) {
-        name = ownName();
+        name = readableOwnName();
     }
     if (name.isEmpty()) {
         name = QAccessibleWidget::text(QAccessible::Name);
     }
-    return name.isEmpty() ? widget()->toolTip() : name;
+    return name.isEmpty() ? SpokenText::plain(widget()->toolTip()) : name;
+}
+
+QString AccessibleWidget::readableOwnName() const
+{
+    const QString own = ownName();
+    return SpokenText::isReadable(own) ? own : QString();
+}
+
+/** The name without the one that the application gave: Qt tells when that comes or goes. */
+QString AccessibleWidget::nameToTell() const
+{
+    if (widget()->accessibleName().isEmpty()) {
+        return name();
+    }
+    const QString own = readableOwnName();
+    return own.isEmpty() && m_told ? m_told->name : own;
 }

@@ -12,8 +12,9 @@
  * widget has died before them, or is about to: they are not valid then. Knobs and handles are parts
  * of their widget, not children.
  *
- * The name is the widget's accessible name, or the subclass's ownName(), or what any widget is
- * called by (a label whose buddy it is, the title of a window), or the tool tip.
+ * The name is the widget's accessible name, or the subclass's ownName() where that can be read out,
+ * or what any widget is called by (a label whose buddy it is, the title of a window), or the tool
+ * tip.
  */
 class AccessibleWidget : public QAccessibleWidget
 {
@@ -54,11 +55,17 @@ protected:
     virtual QVariant value() const;
     /** Tells that value() is another now. */
     virtual void tellValue(const QVariant &before);
+    /** Watches what else may change something, until @p watcher goes. */
+    virtual void watch(QObject *watcher);
+    /** Hands the name on to parts that have none; comes whenever it may be another. */
+    virtual void nameParts(const QString &name);
 
 private:
     struct Told;
 
     QString name() const;
+    QString readableOwnName() const;
+    QString nameToTell() const;
     QWidgetList children() const;
 
     std::unique_ptr<Told> m_told;

@@ -102,10 +102,11 @@ QList<QChar> OlvControlBar::formIcons()
 QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,
                                       const QString &tip)
 {
-    auto *button = new QPushButton(icon < icons.size() ? QString(icons.at(icon)) : QString(), this);
-    Accessibility::prepare(button);
-    button->setFixedSize(buttonSize, buttonSize);
+    auto *button = new QPushButton(this);
     button->setProperty(indexProperty, index);
+    Accessibility::prepare(button); // which goes by the index; the text is told from then on
+    button->setText(icon < icons.size() ? QString(icons.at(icon)) : QString());
+    button->setFixedSize(buttonSize, buttonSize);
     button->setToolTip(tip);
     layout()->addWidget(button);
     button->setFont(QFont(QStringLiteral("FontAwesome"), glyphSize));

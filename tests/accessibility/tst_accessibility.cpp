@@ -5,8 +5,9 @@
 #include <OlvWidgets/OlvWidgets>
 
 #include <QAccessibleWidget>
-#include <QHBoxLayout>
+#include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QPushButton>
@@ -59,6 +60,7 @@ class TestAccessibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void cleanup();
     void hasItsRole_data();
     void hasItsRole();
@@ -70,20 +72,20 @@ private Q_SLOTS:
     void isTheSameWhenSomebodyLooksFromTheStart();
     void holdsForSubclasses();
     void leavesSubclassesToTheApplication();
-    void leavesOtherPushButtonsToQt();
     void isCalledAsTheApplicationSays_data();
     void isCalledAsTheApplicationSays();
-    void isCalledByItsLabelOrItsToolTip();
-    void saysTheToolTipOnce();
     void addsNothingToTheObject_data();
     void addsNothingToTheObject();
     void hidesKnobsAndHandles();
     void showsChildrenOfTheApplications();
+    void takesTheFocusWhereItCan_data();
+    void takesTheFocusWhereItCan();
+    void knowsWhichChildHasTheFocus();
+    void hasTheColorsOfItsPalette();
     void tellsOnlyWhileSomebodyLooks();
     void tellsOfWidgetsMadeWhileSomebodyLooks();
     void tellsNothingTwice();
     void tellsNothingOfAWidgetThatGoes();
-    void groupsThePartsOfALineEdit();
 };
 
 void TestAccessibility::cleanup()
@@ -170,6 +172,21 @@ void TestAccessibility::holdsForSubclasses()
     QCOMPARE(accessible(&widget)->role(), QAccessible::CheckBox);
 }
 
+// here, before the first widget of the library
+void TestAccessibility::initTestCase()
+{
+    const auto factory = [](const QString &className, QObject *object) -> QAccessibleInterface * {
+        return className == QLatin1String("OlvSwitch")
+            ? new QAccessibleWidget(qobject_cast<QWidget *>(object), QAccessible::Dial)
+            : nullptr;
+    };
+    QAccessible::installFactory(factory);
+    OlvSwitch widget;
+    const QAccessible::Role role = accessible(&widget)->role();
+    QAccessible::removeFactory(factory);
+    QCOMPARE(role, QAccessible::Dial);
+}
+
 void TestAccessibility::leavesSubclassesToTheApplication()
 {
     const auto factory = [](const QString &className, QObject *object) -> QAccessibleInterface * {
@@ -181,14 +198,6 @@ void TestAccessibility::leavesSubclassesToTheApplication()
     OwnSwitch widget;
     QCOMPARE(accessible(&widget)->role(), QAccessible::Dial);
     QAccessible::removeFactory(factory);
-}
-
-void TestAccessibility::leavesOtherPushButtonsToQt()
-{
-    const OlvControlBar bar({});
-    QPushButton button(QStringLiteral("Save"));
-    button.setToolTip(QStringLiteral("Writes the file"));
-    QCOMPARE(nameOf(&button), QStringLiteral("Save"));
 }
 
 void TestAccessibility::isCalledAsTheApplicationSays_data()
@@ -207,34 +216,6 @@ void TestAccessibility::isCalledAsTheApplicationSays()
     QCOMPARE(nameOf(widget), QStringLiteral("the application's"));
     widget->setAccessibleName(QString());
     QVERIFY(nameOf(widget) != QStringLiteral("the application's"));
-}
-
-void TestAccessibility::isCalledByItsLabelOrItsToolTip()
-{
-    QWidget form;
-    auto *row = new QHBoxLayout(&form);
-    auto *label = new QLabel(QStringLiteral("&Wi-Fi"));
-    auto *wifi = new OlvSwitch;
-    row->addWidget(label);
-    row->addWidget(wifi);
-    QCOMPARE(nameOf(wifi), QString());
-    wifi->setToolTip(QStringLiteral("the network without wires"));
-    QCOMPARE(nameOf(wifi), QStringLiteral("the network without wires"));
-    label->setBuddy(wifi);
-    QCOMPARE(nameOf(wifi), QStringLiteral("Wi-Fi"));
-    QCOMPARE(accessible(wifi)->relations().size(), 1);
-}
-
-void TestAccessibility::saysTheToolTipOnce()
-{
-    OlvSwitch wifi;
-    wifi.setToolTip(QStringLiteral("the network without wires"));
-    QCOMPARE(accessible(&wifi)->text(QAccessible::Description), QString());
-    wifi.setAccessibleName(QStringLiteral("Wi-Fi"));
-    QCOMPARE(accessible(&wifi)->text(QAccessible::Description),
-             QStringLiteral("the network without wires"));
-    wifi.setWhatsThis(QStringLiteral("turns it on and off"));
-    QCOMPARE(accessible(&wifi)->text(QAccessible::Help), QStringLiteral("turns it on and off"));
 }
 
 void TestAccessibility::addsNothingToTheObject_data()
@@ -288,6 +269,7 @@ void TestAccessibility::showsChildrenOfTheApplications()
     OlvFlexWidget panel(200, 100);
     QLabel first(QStringLiteral("first"), &panel);
     QLabel second(QStringLiteral("second"), &panel);
+    const QWidget dialog(&panel, Qt::Dialog); // a window is no part of another
     QAccessibleInterface *interface = accessible(&panel);
     QCOMPARE(interface->childCount(), 2);
     QCOMPARE(interface->child(0), accessible(&first));
@@ -295,6 +277,49 @@ void TestAccessibility::showsChildrenOfTheApplications()
     QVERIFY(!interface->child(2));
     QVERIFY(!interface->child(-1));
     QCOMPARE(interface->indexOfChild(accessible(&second)), 1);
+}
+
+void TestAccessibility::takesTheFocusWhereItCan_data()
+{
+    addKinds();
+}
+
+void TestAccessibility::takesTheFocusWhereItCan()
+{
+    QWidget parent;
+    QWidget *widget = makeKind(&parent);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowActive(&parent));
+    const QString action = QAccessibleActionInterface::setFocusAction();
+    for (const Qt::FocusPolicy policy : { Qt::NoFocus, Qt::StrongFocus }) {
+        widget->setFocusPolicy(policy);
+        QCOMPARE(bool(accessible(widget)->state().focusable), policy != Qt::NoFocus);
+        QCOMPARE(act(widget, action), policy != Qt::NoFocus);
+    }
+    QVERIFY(widget->hasFocus() || widget->isAncestorOf(QApplication::focusWidget()));
+}
+
+void TestAccessibility::knowsWhichChildHasTheFocus()
+{
+    OlvFlexWidget panel(200, 100);
+    QLineEdit text(&panel);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(&panel));
+    text.clearFocus();
+    QVERIFY(!accessible(&panel)->focusChild());
+    text.setFocus();
+    QCOMPARE(accessible(&panel)->focusChild(), accessible(&text));
+}
+
+void TestAccessibility::hasTheColorsOfItsPalette()
+{
+    OlvSwitch widget;
+    QPalette palette;
+    palette.setColor(widget.foregroundRole(), Qt::darkGreen);
+    palette.setColor(widget.backgroundRole(), Qt::yellow);
+    widget.setPalette(palette);
+    QCOMPARE(accessible(&widget)->foregroundColor(), QColor(Qt::darkGreen));
+    QCOMPARE(accessible(&widget)->backgroundColor(), QColor(Qt::yellow));
 }
 
 void TestAccessibility::tellsOnlyWhileSomebodyLooks()
@@ -363,19 +388,6 @@ void TestAccessibility::tellsNothingOfAWidgetThatGoes()
     delete button;
     QVERIFY(isWritten);
     QCOMPARE(assistant.heardOf(address), QStringList());
-}
-
-void TestAccessibility::groupsThePartsOfALineEdit()
-{
-    OlvLineEdit edit;
-    edit.setPlaceholderText(QStringLiteral("Password"));
-    edit.setPassWord(true);
-    edit.setAccessibleName(QStringLiteral("Log-in"));
-    QAccessibleInterface *interface = accessible(&edit);
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Log-in"));
-    QCOMPARE(interface->childCount(), 2);
-    QCOMPARE(interface->child(0)->role(), QAccessible::EditableText);
-    QCOMPARE(interface->child(1)->text(QAccessible::Name), QStringLiteral("显示密码"));
 }
 
 QTEST_MAIN(TestAccessibility)

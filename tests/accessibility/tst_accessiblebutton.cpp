@@ -27,6 +27,7 @@ private Q_SLOTS:
     void hasTheActionsOfItsKind();
     void isPressed_data();
     void isPressed();
+    void isPressedAsByTheMouse();
     void disabledIsNotPressed();
     void survivesDeletionByItsSlots_data();
     void survivesDeletionByItsSlots();
@@ -120,6 +121,39 @@ void TestAccessibleButton::isPressed()
     QCOMPARE(button.property("state").toString(), QStringLiteral("init"));
 }
 
+void TestAccessibleButton::isPressedAsByTheMouse()
+{
+    class OwnButton : public OlvButton
+    {
+    public:
+        int releases = 0;
+
+    protected:
+        void mouseReleaseEvent(QMouseEvent *event) override
+        {
+            ++releases;
+            OlvButton::mouseReleaseEvent(event);
+        }
+    };
+    OwnButton button;
+    button.setCheckable(true);
+    connect(&button, &OlvButton::clicked, this, [&] { button.setChecked(true); });
+    QSignalSpy toggled(&button, &OlvButton::toggled);
+    const auto pressed = [&](int releases) {
+        return button.releases == releases && toggled.count() == releases
+            && !toggled.last().at(0).toBool() && !button.isChecked();
+    };
+    Pointer::enter(button);
+    Pointer::click(button);
+    Pointer::leave(button);
+    QVERIFY(pressed(1));
+    QVERIFY(act(&button, press()));
+    QVERIFY(pressed(2));
+    QVERIFY(act(&button, toggle()));
+    QVERIFY(pressed(3));
+    QCOMPARE(button.property("hovered"), QVariant(false));
+}
+
 void TestAccessibleButton::disabledIsNotPressed()
 {
     OlvButton button(QStringLiteral("Save"));
@@ -171,7 +205,9 @@ void TestAccessibleButton::tellsOfClicks()
     Pointer::leave(button);
     QCOMPARE(assistant.heardOf(&button), QStringList());
     QVERIFY(act(&button, toggle()));
-    QCOMPARE(assistant.heardOf(&button), QStringList{ QStringLiteral("state checked") });
+    QCOMPARE(assistant.heardOf(&button),
+             (QStringList{ QStringLiteral("state pressed"), QStringLiteral("state pressed"),
+                           QStringLiteral("state checked") }));
 }
 
 void TestAccessibleButton::tellsOfPropertiesThatAreOverwritten_data()

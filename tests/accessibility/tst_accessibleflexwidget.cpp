@@ -15,6 +15,8 @@ private Q_SLOTS:
     void cleanup();
     void isAWindowOrAPane();
     void isCalledByItsTitle();
+    void isCalledByItsTitleWithinAWindowToo();
+    void tellsThatItIsModified();
     void canBeMovedAndResizedUnlessMaximised();
 };
 
@@ -45,6 +47,26 @@ void TestAccessibleFlexWidget::isCalledByItsTitle()
     QCOMPARE(assistant.heardOf(&panel), QStringList{ QStringLiteral("name Note") });
     panel.setAccessibleName(QStringLiteral("Sticky note"));
     QCOMPARE(nameOf(&panel), QStringLiteral("Sticky note"));
+}
+
+void TestAccessibleFlexWidget::isCalledByItsTitleWithinAWindowToo()
+{
+    QWidget desk;
+    OlvFlexWidget panel(100, 100);
+    panel.setWindowTitle(QStringLiteral("Note"));
+    panel.setParent(&desk);
+    QCOMPARE(nameOf(&panel), QStringLiteral("Note"));
+}
+
+void TestAccessibleFlexWidget::tellsThatItIsModified()
+{
+    Assistant assistant;
+    OlvFlexWidget panel(100, 100);
+    panel.setWindowTitle(QStringLiteral("Note[*]"));
+    panel.show();
+    assistant.heardOf(&panel);
+    panel.setWindowModified(true);
+    QCOMPARE(assistant.heardOf(&panel), QStringList{ QStringLiteral("name Note*") });
 }
 
 void TestAccessibleFlexWidget::canBeMovedAndResizedUnlessMaximised()

@@ -5,11 +5,14 @@
 #include <OlvLineEdit>
 #include <OlvSimpleIconButton>
 
+#include <QButtonGroup>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -53,8 +56,15 @@ private Q_SLOTS:
     void maximiseTellsItsNewName();
     void exclusionIsTold();
     void survivesDeletionByItsSlots();
+    void otherPushButtonsAreAsQtHasThem();
+    void glyphsAreNoNames_data();
     void glyphsAreNoNames();
     void readableCaptionsAreNames();
+    void toolTipsAreReadWithoutTheirMarkUp();
+    void tellsItsKey();
+    void isOneOfSeveral();
+    void opensItsMenu();
+    void isPressedWhileItIsDown();
     void togglesItsGlyph();
     void showsThePassword();
 };
@@ -158,9 +168,31 @@ void TestAccessibleGlyphButton::survivesDeletionByItsSlots()
     QVERIFY(!bar);
 }
 
+void TestAccessibleGlyphButton::otherPushButtonsAreAsQtHasThem()
+{
+    Bar bar;
+    for (QWidget *parent : { static_cast<QWidget *>(nullptr), static_cast<QWidget *>(&bar) }) {
+        QPushButton button(QStringLiteral("Save"), parent);
+        button.setToolTip(QStringLiteral("Writes the file"));
+        QCOMPARE(nameOf(&button), QStringLiteral("Save"));
+    }
+}
+
+void TestAccessibleGlyphButton::glyphsAreNoNames_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("none") << QString();
+    QTest::newRow("glyph") << QString(QChar(0xf006));
+    QTest::newRow("glyph and a blank") << QString(QChar(0xf006)) + QLatin1Char(' ');
+    const uint supplementary[] = { 0xf0001, 0x10fffd };
+    QTest::newRow("glyphs beyond 16 bits") << QString::fromUcs4(supplementary, 2);
+}
+
 void TestAccessibleGlyphButton::glyphsAreNoNames()
 {
-    OlvSimpleIconButton button(QChar(0xf006), QFont());
+    QFETCH(const QString, caption);
+    QWidget parent;
+    OlvSimpleIconButton button(caption, QFont(), &parent);
     QCOMPARE(nameOf(&button), QString());
     button.setToolTip(QStringLiteral("Favourite"));
     QCOMPARE(nameOf(&button), QStringLiteral("Favourite"));
@@ -171,6 +203,86 @@ void TestAccessibleGlyphButton::readableCaptionsAreNames()
     OlvSimpleIconButton button(QStringLiteral("B"), QFont());
     QCOMPARE(nameOf(&button), QStringLiteral("B"));
     QVERIFY(accessible(&button)->state().checkable);
+}
+
+void TestAccessibleGlyphButton::toolTipsAreReadWithoutTheirMarkUp()
+{
+    OlvSimpleIconButton button(QChar(0xf006), QFont());
+    button.setToolTip(QStringLiteral("<b>Find</b> &amp; replace"));
+    QCOMPARE(nameOf(&button), QStringLiteral("Find & replace"));
+    QCOMPARE(accessible(&button)->text(QAccessible::Description), QString());
+    button.setAccessibleName(QStringLiteral("Find"));
+    QCOMPARE(accessible(&button)->text(QAccessible::Description), QStringLiteral("Find & replace"));
+    button.setToolTip(QStringLiteral("a < b"));
+    QCOMPARE(accessible(&button)->text(QAccessible::Description), QStringLiteral("a < b"));
+}
+
+void TestAccessibleGlyphButton::tellsItsKey()
+{
+    OlvSimpleIconButton button(QStringLiteral("&Save && &close"), QFont());
+    const auto keys = [&] {
+        return accessible(&button)->actionInterface()->keyBindingsForAction(press());
+    };
+    QCOMPARE(nameOf(&button), QStringLiteral("Save & close"));
+    QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("Alt+S"));
+    QCOMPARE(keys(), QStringList{ QStringLiteral("Alt+S") });
+    button.setShortcut(QKeySequence(Qt::CTRL + Qt::Key_S));
+    QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("Ctrl+S"));
+    QCOMPARE(keys(), QStringList{ QStringLiteral("Ctrl+S") });
+    button.setShortcut(QKeySequence());
+    QCOMPARE(keys(), QStringList());
+}
+
+void TestAccessibleGlyphButton::isOneOfSeveral()
+{
+    OlvSimpleIconButton left(QStringLiteral("left"), QFont());
+    OlvSimpleIconButton right(QStringLiteral("right"), QFont());
+    QButtonGroup group;
+    group.addButton(&left);
+    group.addButton(&right);
+    QCOMPARE(accessible(&left)->role(), QAccessible::RadioButton);
+    QVERIFY(act(&right, toggle()));
+    QVERIFY(accessible(&right)->state().checked);
+    group.setExclusive(false);
+    QCOMPARE(accessible(&left)->role(), QAccessible::CheckBox);
+    group.removeButton(&left);
+    left.setAutoExclusive(true);
+    QCOMPARE(accessible(&left)->role(), QAccessible::RadioButton);
+    left.setCheckable(false);
+    QCOMPARE(accessible(&left)->role(), QAccessible::Button);
+}
+
+void TestAccessibleGlyphButton::opensItsMenu()
+{
+    OlvSimpleIconButton button(QStringLiteral("More"), QFont());
+    QVERIFY(!accessible(&button)->state().hasPopup);
+    QMenu menu;
+    menu.addAction(QStringLiteral("Print"));
+    button.setMenu(&menu);
+    QCOMPARE(accessible(&button)->role(), QAccessible::ButtonMenu);
+    QVERIFY(accessible(&button)->state().hasPopup);
+    QVERIFY(!act(&button, press()));
+    bool isShown = false;
+    connect(&menu, &QMenu::aboutToShow, &menu, [&] {
+        isShown = true;
+        QTimer::singleShot(0, &menu, &QMenu::close); // the menu waits for its user
+    });
+    button.show();
+    // what Qt does for a menu, and its offscreen platform cannot
+    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support grabbing the keyboard");
+    QVERIFY(act(&button, QAccessibleActionInterface::showMenuAction()));
+    QVERIFY(isShown);
+    button.setEnabled(false);
+    QVERIFY(!act(&button, QAccessibleActionInterface::showMenuAction()));
+}
+
+void TestAccessibleGlyphButton::isPressedWhileItIsDown()
+{
+    OlvSimpleIconButton button(QStringLiteral("Save"), QFont());
+    QVERIFY(!accessible(&button)->state().pressed);
+    button.setDown(true);
+    QVERIFY(accessible(&button)->state().pressed);
 }
 
 void TestAccessibleGlyphButton::togglesItsGlyph()

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <cstddef>
 #include <limits>
 
 namespace {
@@ -39,6 +40,35 @@ private:
     QString m_name;
 };
 
+/** Ones that all lie at the same address, one after the other. */
+class SamePlaceShortcut : public FreeShortcut
+{
+public:
+    using FreeShortcut::FreeShortcut;
+    static void *operator new(size_t size)
+    {
+        static std::max_align_t place[64];
+        return size <= sizeof place ? place : nullptr;
+    }
+    static void operator delete(void * /*place*/) { }
+};
+
+/** One that counts how often it is asked. */
+class CountingShortcut : public FreeShortcut
+{
+public:
+    CountingShortcut()
+        : FreeShortcut(Qt::Key_F5)
+    { }
+    QString toString() override
+    {
+        ++asked;
+        return FreeShortcut::toString();
+    }
+
+    int asked = 0;
+};
+
 QString valueOf(OlvShortcutEdit &edit)
 {
     return accessible(&edit)->text(QAccessible::Value);
@@ -60,6 +90,10 @@ private Q_SLOTS:
     void standsEveryPartOfTheText();
     void takesTheFocus();
     void tellsOfEveryChange();
+    void tellsOfAShortcutThatIsDeleted();
+    void tellsOfAShortcutInThePlaceOfTheOneBefore();
+    void standsAShortcutThatASlotDeletes();
+    void asksTheShortcutOnlyWhileSomebodyLooks();
 };
 
 void TestAccessibleShortcutEdit::isCalledByItsHintUnlessItHasAName()
@@ -106,6 +140,7 @@ void TestAccessibleShortcutEdit::isReadAsAText()
     QCOMPARE(text->textAtOffset(6, QAccessible::LineBoundary, &start, &end),
              QStringLiteral("Ctrl+F5"));
     QVERIFY(!accessible(&edit)->editableTextInterface());
+    QVERIFY(accessible(&edit)->state().readOnly);
 }
 
 void TestAccessibleShortcutEdit::isReadByTheWord_data()
@@ -208,6 +243,56 @@ void TestAccessibleShortcutEdit::tellsOfEveryChange()
     QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text Ctrl+F5 > Ctrl+F6") });
     edit.setProperty("HasOlvShortcut", false);
     QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text Ctrl+F6 > ") });
+}
+
+void TestAccessibleShortcutEdit::tellsOfAShortcutThatIsDeleted()
+{
+    OlvShortcutEdit edit(new FreeShortcut(Qt::Key_F5));
+    edit.show();
+    Assistant assistant;
+    QStringList heard;
+    delete edit.shortcut();
+    QTRY_COMPARE((heard += assistant.heardOf(&edit)),
+                 QStringList{ QStringLiteral("text Ctrl+F5 > ") });
+    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F6)));
+    delete edit.shortcut();
+    QTRY_COMPARE((heard += assistant.heardOf(&edit)).last(), QStringLiteral("text Ctrl+F6 > "));
+}
+
+void TestAccessibleShortcutEdit::tellsOfAShortcutInThePlaceOfTheOneBefore()
+{
+    OlvShortcutEdit edit(new SamePlaceShortcut(Qt::Key_F5));
+    edit.show();
+    Assistant assistant;
+    const QVariant place = edit.property("OlvShortcut");
+    delete edit.shortcut();
+    QVERIFY(edit.setShortcut(new SamePlaceShortcut(Qt::Key_F6)));
+    QCOMPARE(edit.property("OlvShortcut"), place);
+    QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text Ctrl+F5 > Ctrl+F6") });
+}
+
+void TestAccessibleShortcutEdit::standsAShortcutThatASlotDeletes()
+{
+    OlvShortcutEdit edit;
+    connect(&edit, &OlvShortcutEdit::shortcutChanged, this, [&] { delete edit.shortcut(); });
+    edit.show();
+    Assistant assistant; // hears of the signal after that slot
+    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F5)));
+    QCOMPARE(assistant.heardOf(&edit),
+             (QStringList{ QStringLiteral("text  > Ctrl+F5"), QStringLiteral("text Ctrl+F5 > ") }));
+}
+
+void TestAccessibleShortcutEdit::asksTheShortcutOnlyWhileSomebodyLooks()
+{
+    auto *shortcut = new CountingShortcut;
+    OlvShortcutEdit edit(shortcut);
+    QVERIFY(accessible(&edit));
+    shortcut->asked = 0;
+    edit.setProperty("mine", 1);
+    QCOMPARE(shortcut->asked, 0);
+    const Assistant assistant;
+    edit.setProperty("mine", 2);
+    QVERIFY(shortcut->asked > 0);
 }
 
 QTEST_MAIN(TestAccessibleShortcutEdit)

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void isToggled();
     void ignoresTogglesUntilItHasSwitched();
     void ignoresTogglesBehindAClick();
+    void isToggledBesideOtherTimers();
     void disabledIsNotToggled();
     void survivesDeletionByItsSlots();
     void tellsWhenItHasSwitched();
@@ -96,6 +97,16 @@ void TestAccessibleSwitch::ignoresTogglesBehindAClick()
     QVERIFY(act(&widget, toggle()));
     QVERIFY(changed.wait(20000));
     QVERIFY(isResting(widget));
+    QVERIFY(widget.getValue().toBool());
+}
+
+void TestAccessibleSwitch::isToggledBesideOtherTimers()
+{
+    OlvSwitch widget;
+    QVERIFY(widget.startTimer(3600 * 1000));
+    QSignalSpy changed(&widget, &OlvSwitch::changed);
+    QVERIFY(act(&widget, toggle()));
+    QVERIFY(changed.wait(20000));
     QVERIFY(widget.getValue().toBool());
 }
 

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "accessibility/accessiblelineedit_p.h"
+
+#include <QLineEdit>
+
+AccessibleLineEdit::AccessibleLineEdit(QWidget *edit)
+    : AccessibleWidget(edit, QAccessible::Grouping)
+{ }
+
+void AccessibleLineEdit::doAction(const QString &name)
+{
+    QLineEdit *text = editor();
+    if (name == setFocusAction() && text && actionNames().contains(name)) {
+        text->setFocus(Qt::OtherFocusReason); // as a click on the frame does
+    } else {
+        AccessibleWidget::doAction(name);
+    }
+}
+
+void AccessibleLineEdit::nameParts(const QString &name)
+{
+    QLineEdit *text = editor();
+    // a name that the application gave to the text stays
+    if (text && text->accessibleName() == m_given && name != m_given) {
+        m_given = name;
+        text->setAccessibleName(name);
+    }
+}
+
+QLineEdit *AccessibleLineEdit::editor() const
+{
+    return isValid() ? object()->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)
+                     : nullptr;
+}
