@@ -13,18 +13,21 @@ set(olv_debian_revision ${CMAKE_MATCH_2})
 set(olv_debian_version ${PROJECT_VERSION}-${olv_debian_revision})
 
 # olv_package(<component> <package> <section> <synopsis> <description> [DEPENDS <dependency>...]
-#             [LIBRARY])
+#             [RECOMMENDS <package>...] [SUGGESTS <package>...]
+#             [ENHANCES <package>...] [LIBRARY])
 #
 # LIBRARY says that the package is that of a shared library, which needs more control files:
 # PackageSymbols.cmake makes them.
 function(olv_package component package section synopsis description)
-    cmake_parse_arguments(arg "LIBRARY" "" "DEPENDS" ${ARGN})
+    cmake_parse_arguments(arg "LIBRARY" "" "DEPENDS;RECOMMENDS;SUGGESTS;ENHANCES" ${ARGN})
     string(TOUPPER ${component} upper)
-    list(JOIN arg_DEPENDS ", " depends)
+    foreach(relation DEPENDS RECOMMENDS SUGGESTS ENHANCES)
+        list(JOIN arg_${relation} ", " packages)
+        set(CPACK_DEBIAN_${upper}_PACKAGE_${relation} "${packages}" PARENT_SCOPE)
+    endforeach()
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package} PARENT_SCOPE)
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section} PARENT_SCOPE)
     set(CPACK_DEBIAN_${upper}_DESCRIPTION "${synopsis}\n${description}" PARENT_SCOPE)
-    set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${depends}" PARENT_SCOPE)
     if(arg_LIBRARY)
         set(control_dir ${PROJECT_BINARY_DIR}/packaging/${package})
         set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA
@@ -61,7 +64,9 @@ olv_package(widgets libolvwidgets${PROJECT_VERSION_MAJOR} libs
     "${olv_about}
 .
 This package contains the library itself."
-    LIBRARY)
+    LIBRARY
+    # the glyphs of control bars and password buttons
+    RECOMMENDS fonts-font-awesome)
 olv_package(systeminfo libolvsysteminfo${PROJECT_VERSION_MAJOR} libs
     "shortcuts on the whole desktop for Qt 5 programs"
     "OlvSystemInfo lets a Qt 5 program register keyboard shortcuts that work on the
@@ -78,13 +83,24 @@ to build programs with it and with its sister library OlvSystemInfo."
     DEPENDS
     "libolvwidgets${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
     "libolvsysteminfo${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
-    "qtbase5-dev (>= ${OLVWIDGETS_QT_VERSION})")
+    "qtbase5-dev (>= ${OLVWIDGETS_QT_VERSION})"
+    SUGGESTS libolvwidgets-doc)
 olv_package(designer olvwidgets-designer libdevel
     "ready-made Qt 5 widgets (Qt Designer plugin)"
     "${olv_about}
 .
 This package contains the plugin that offers the widgets in Qt Designer, and
-lets programs load forms that use them.")
+lets programs load forms that use them."
+    ENHANCES qttools5-dev-tools)
+if(OLVWIDGETS_BUILD_DOCS)
+    olv_package(documentation libolvwidgets-doc doc
+        "ready-made Qt 5 widgets (documentation)"
+        "${olv_about}
+.
+This package contains the documentation of the classes and the guides, as a
+help file for Qt Creator, Qt Designer and Qt Assistant.")
+    set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
+endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME olvwidgets)
@@ -92,6 +108,9 @@ set(CPACK_PACKAGE_CONTACT "The OlvWidgets authors <authors@olvwidgets.example>")
 set(CPACK_COMPONENTS_ALL widgets systeminfo development)
 if(OLVWIDGETS_BUILD_DESIGNER)
     list(APPEND CPACK_COMPONENTS_ALL designer)
+endif()
+if(OLVWIDGETS_BUILD_DOCS)
+    list(APPEND CPACK_COMPONENTS_ALL documentation)
 endif()
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
 set(CPACK_STRIP_FILES ON)

@@ -23,7 +23,7 @@ test_packages=(
     abigail-tools python3 doxygen
 )
 # what scripts/packages needs besides
-package_packages=(qttools5-dev dpkg-dev file gzip lintian)
+package_packages=("${docs_packages[@]}" qttools5-dev dpkg-dev file gzip lintian)
 
 # clang's sanitizers and libFuzzer come with the version that the package "clang" stands for
 fuzz_packages=(clang libclang-rt-14-dev)
