@@ -192,7 +192,8 @@ public:
     void setText(const QString &text);
     /** Sets the accent colour, alpha included; repaints nothing. */
     void setColor(const QColor &color);
-    /** Sets whether the checked look is shown, and unchecks the tile either way. */
+    /** Sets whether the checked look is shown, and unchecks the tile either way; repaints nothing.
+     */
     void setCheckable(bool checkable);
 
     /** Stores @p value as it stands in the property "value"; emits nothing. */

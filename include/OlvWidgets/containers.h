@@ -35,8 +35,12 @@ class QScrollBar;
  * that the application deletes leaves the grid by itself, and its place is taken at the next
  * reflow.
  *
+ * The grid is 100 pixels wide at first, and learns of its parent's size when that changes: where
+ * the viewport has its size already, give the grid its width, as here.
+ *
  * @code
  * auto *grid = new OlvGridLayout(viewport);
+ * grid->resize(viewport->size());
  * QList<QWidget *> tiles;
  * for (const Item &item : items) {
  *     auto *tile = new OlvIconButton(item.icon, item.name, "FontAwesome", grid, 80, 80);
@@ -121,9 +125,12 @@ private:
  * its new area moves it and its handles lie at its new edges (a drag of a handle places them at
  * once).
  *
- * Its state lies in the dynamic properties "stay" (int, an OlvStayType), "headerWay" (int, a
- * HeaderWay or 0), "headerWayColor" (uint, 0xAARRGGBB) and "resizeTimer" (qulonglong, the library's
- * own).
+ * | property         | type      | at first | meaning                               |
+ * |------------------|-----------|----------|---------------------------------------|
+ * | "stay"           | int       | 0        | an OlvStayType                        |
+ * | "headerWay"      | int       | 0        | a HeaderWay, or 0 for no band         |
+ * | "headerWayColor" | uint      | none     | the band's colour, 0xAARRGGBB         |
+ * | "resizeTimer"    | qulonglong|          | an address, which is the library's own |
  *
  * Accessibility: a window, or a pane within one, called by its accessible name, else by its window
  * title; what lies in it are its children.

@@ -159,7 +159,11 @@ public:
  *
  * It acts on no window itself: it tells what was pressed, and its owner acts. It is 25 pixels high,
  * and so is each button wide; the buttons stand at its right end. Their glyphs are characters of
- * the icon font "FontAwesome".
+ * the icon font "FontAwesome", 8 points large. The tool tips of the window buttons are Chinese:
+ * "悬浮", "置底", "置顶", "最小化", "最大化" ("还原" while it is checked) and "关闭". An
+ * application in another language finds the buttons, which are the bar's QPushButton children from
+ * the left to the right, and gives them its own; that of the maximise button anew at each
+ * changed().
  *
  * @code
  * // six glyphs of the window buttons, the one of "restore", one for each tip
@@ -174,8 +178,19 @@ public:
  * @endcode
  *
  * Keeping on top and keeping at the bottom exclude each other: checking one unchecks the other
- * silently. Apart from that only the user's clicks change a button; a window that is maximised by
- * other means leaves the bar as it is.
+ * silently, after changed() has told of the first. The glyph and the tool tip of the maximise
+ * button follow after its changed(), too. Apart from that only the user's clicks change a button; a
+ * window that is maximised by other means leaves the bar as it is.
+ *
+ * The bar has no properties of its own; its buttons have:
+ *
+ * | property | type  | of                  | meaning                                            |
+ * |----------|-------|---------------------|----------------------------------------------------|
+ * | "index"  | int   | every button        | its WindowState, or its place among the tips       |
+ * | "max"    | QChar | the maximise button | its glyph while it is unchecked                    |
+ * | "normal" | QChar | the maximise button | its glyph while it is checked: that of "restore"   |
+ *
+ * What is written there counts from the next click; an index that is no WindowState emits nothing.
  *
  * Accessibility: a tool bar of buttons, the checkable ones of which are check boxes. Each is called
  * by the accessible name that the application gives it, else by its tool tip. The actions "Press"
@@ -188,7 +203,7 @@ class OLVWIDGETS_EXPORT OlvControlBar : public QWidget
 public:
     /** The window buttons, in their order from the left. */
     enum WindowState {
-        Float = 0,  ///< checkable
+        Float = 0,  ///< float, as a window without an entry in the task bar; checkable
         Bottom = 1, ///< keep at the bottom; checkable
         Top = 2,    ///< keep on top; checkable
         Min = 3,    ///< minimise

@@ -41,6 +41,9 @@ class QLineEdit;
  * | "Invisible" | string | "※"      | its glyph once clicked, while the text is shown |
  * | "state"     | string | "normal" | "edit" while the text has the focus             |
  *
+ * "Visible" and "Invisible" are noted once, when the widget is made; writing them changes nothing:
+ * setPwdIcon() sets the glyphs.
+ *
  * Accessibility: a group, called by its accessible name, else by a label whose buddy it is, else by
  * its tool tip. It has two parts: the text, a QLineEdit, which is called as the group is unless it
  * is given an accessible name of its own, and the password button, a check box called "显示密码"
@@ -120,7 +123,9 @@ private:
  * While it has the focus it notes the modifiers that are held and the last other key that was
  * pressed, Escape and Backspace included; releasing a key that is no modifier makes an OlvShortcut
  * of what was noted, and setShortcut() takes it. Modifiers alone make none. The shortcut is shown
- * as text; a combination that cannot be had leaves the one before in place, without a signal.
+ * as text; a combination that cannot be had leaves the one before in place, without a signal. The
+ * tool tip is Chinese at first, "请直接在键盘上输入新的快捷键" (press the new shortcut on the
+ * keyboard).
  *
  * The value is read as a string, the text of the shortcut or "nullptr" where there is none, but set
  * as an address: see setValue(). Three dynamic properties are the library's own: "HasOlvShortcut"
