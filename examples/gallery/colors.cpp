@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "colors.h"
 
+#include <QApplication>
+#include <QPushButton>
+
 namespace {
 
 QPalette makeColors(const QColor &background, const QColor &field, const QColor &list,
@@ -34,4 +37,14 @@ QPalette darkColors()
 {
     return makeColors(QColor(32, 33, 36), QColor(41, 42, 46), QColor(25, 26, 29),
                       QColor(56, 58, 63), QColor(229, 231, 235), QColor(144, 147, 153));
+}
+
+void lightenGlyph(QPushButton *button)
+{
+    if (QApplication::palette() == darkColors()) {
+        button->setStyleSheet(button->styleSheet()
+                              + QStringLiteral("QPushButton:hover{color:white}"
+                                               "QPushButton:checked{color:white}"
+                                               "QPushButton:disabled{color:rgb(110,112,118)}"));
+    }
 }

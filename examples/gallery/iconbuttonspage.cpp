@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "colors.h"
 #include "page.h"
 #include "pages.h"
 
@@ -78,6 +79,7 @@ OlvSimpleIconButton *makeSimple(Page *page, const QString &name, ushort glyph)
     auto *button = new OlvSimpleIconButton(QChar(glyph), QFont(iconFamily(), simpleGlyphSize));
     button->setObjectName(name);
     button->setFixedSize(button->size());
+    lightenGlyph(button);
     QObject::connect(button, &QPushButton::clicked, page, [=](bool checked) {
         page->log(QStringLiteral("%1: clicked(%2)")
                       .arg(name, checked ? QStringLiteral("true") : QStringLiteral("false")));
@@ -117,7 +119,8 @@ Page *createIconButtonsPage(QWidget *parent)
 
     page->addHeading(QStringLiteral("OlvSimpleIconButton: a toggle, a plain one, a disabled one"));
     auto *star = makeSimple(page, QStringLiteral("star"), emptyStar);
-    star->setToggle(QChar(fullStar));
+    star->setToggle(QChar(fullStar)); // brings a style sheet of its own
+    lightenGlyph(star);
     auto *disabled = makeSimple(page, QStringLiteral("disabled"), trash);
     disabled->setEnabled(false);
     auto *simple = new QHBoxLayout;

@@ -6,10 +6,13 @@
 #include <OlvWidgets/OlvWidgets>
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QResizeEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -18,7 +21,6 @@ namespace {
 constexpr QSize buttonSize(84, 32);
 constexpr int tileSide = 76;
 constexpr QSize lineSize(340, 30);
-constexpr int barWidth = 250;
 constexpr QSize switchSize(50, 24);
 constexpr QSize gridSize(366, 126);
 constexpr QSize panelSize(176, 118);
@@ -75,15 +77,21 @@ QWidget *makeTile(Page *page, ushort glyph, const QString &text, const QColor &c
     return tile;
 }
 
-QWidget *makeStar(Page *page)
+/** A toggle of two glyphs, or of one. */
+QWidget *makeGlyph(Page *page, ushort glyph, ushort checkedGlyph, const QString &name, bool checked)
 {
-    auto *star = new OlvSimpleIconButton(QChar(0xf006), QFont(iconFamily(), 14));
-    star->setFixedSize(star->size());
-    star->setToggle(QChar(0xf005));
-    star->setToolTip(QStringLiteral("Starred"));
-    QObject::connect(star, &QPushButton::clicked, page,
-                     [=] { page->log(QStringLiteral("OlvSimpleIconButton: clicked()")); });
-    return star;
+    auto *button = new OlvSimpleIconButton(QChar(glyph), QFont(iconFamily(), 14));
+    button->setFixedSize(button->size());
+    button->setToggle(QChar(checkedGlyph));
+    lightenGlyph(button);
+    button->setToolTip(name);
+    if (checked) {
+        button->click(); // setChecked() would leave the glyph
+    }
+    QObject::connect(button, &QPushButton::clicked, page, [=](bool on) {
+        page->log(QStringLiteral("OlvSimpleIconButton: clicked(%1)").arg(QVariant(on).toString()));
+    });
+    return button;
 }
 
 QWidget *makeLine(ushort glyph, const QString &text, bool isPassword)
@@ -109,15 +117,18 @@ QWidget *makeShortcut(Page *page)
     return edit;
 }
 
-QWidget *makeSwitch(Page *page, const QColor &whenOn, bool on)
+QWidget *makeSwitch(Page *page, const QString &name, const QColor &whenOn, bool on)
 {
     auto *toggle = new OlvSwitch;
     toggle->setFixedSize(switchSize);
     toggle->setColorClose(whenOn);
     toggle->setValue(on);
+    QObject::connect(toggle, &OlvWidget::valueChanged, page, [=](const QVariant &value) {
+        page->log(QStringLiteral("%1 OlvSwitch: valueChanged(%2)").arg(name, value.toString()));
+    });
     QObject::connect(toggle, &OlvSwitch::changed, page, [=](bool value) {
-        page->log(QStringLiteral("OlvSwitch: changed(%1)")
-                      .arg(value ? QStringLiteral("true") : QStringLiteral("false")));
+        page->log(
+            QStringLiteral("%1 OlvSwitch: changed(%2)").arg(name, QVariant(value).toString()));
     });
     return toggle;
 }
@@ -126,23 +137,35 @@ QWidget *makeSwitch(Page *page, const QColor &whenOn, bool on)
 QWidget *makeSlider(int percentage)
 {
     auto *slider = new OlvSlider;
-    slider->setFixedSize(slider->size());
+    slider->setFixedSize(lineSize.width(), slider->height());
+    // the knob learns of the track's length from this, which comes only when the slider is shown
+    QResizeEvent resized(slider->size(), QSize());
+    QCoreApplication::sendEvent(slider, &resized);
     QAccessible::queryAccessibleInterface(slider)->valueInterface()->setCurrentValue(percentage);
     return slider;
 }
 
+/** A bar at the right of a strip, as at the top of a window. */
 QWidget *makeBar(Page *page)
 {
     // the six window buttons, "restore", and the application's: a cog and a question mark
     auto *bar = new OlvControlBar(
         { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf013, 0xf128 }, nullptr,
         { QStringLiteral("Settings"), QStringLiteral("Help") });
-    bar->setFixedWidth(barWidth);
     QObject::connect(bar, &OlvControlBar::changed, page,
                      [=] { page->log(QStringLiteral("OlvControlBar: changed()")); });
     QObject::connect(bar, &OlvControlBar::custom, page,
                      [=] { page->log(QStringLiteral("OlvControlBar: custom()")); });
-    return bar;
+    auto *strip = new QFrame;
+    strip->setFixedSize(lineSize.width(), buttonSize.height());
+    strip->setStyleSheet(
+        QStringLiteral("QFrame { background: rgba(128,134,148,14%); border-radius: 4px; }"
+                       "QLabel { background: none; }"));
+    auto *row = new QHBoxLayout(strip);
+    row->setContentsMargins(12, 0, 4, 0);
+    row->addWidget(new QLabel(QStringLiteral("Untitled")));
+    row->addWidget(bar, 1);
+    return strip;
 }
 
 QWidget *makeFlowGrid(Page *page)
@@ -222,16 +245,20 @@ Page *createOverviewPage(QWidget *parent)
                                makeButton(page, QStringLiteral("danger"), QString()) }),
                     0, 0);
     grid->addLayout(makeCell(QStringLiteral("OlvControlBar"), { makeBar(page) }), 0, 1);
-    grid->addLayout(
-        makeCell(QStringLiteral("OlvIconButton, OlvSimpleIconButton"),
-                 { makeTile(page, 0xf0e0, QStringLiteral("Mail"), blue, false),
-                   makeTile(page, 0xf1eb, QStringLiteral("网络"), blue, true),
-                   makeTile(page, 0xf004, QStringLiteral("Likes"), red, true), makeStar(page) }),
-        1, 0);
-    grid->addLayout(makeCell(QStringLiteral("OlvSwitch"),
-                             { makeSwitch(page, green, false), makeSwitch(page, green, true),
-                               makeSwitch(page, blue, true), makeSwitch(page, orange, true) }),
-                    1, 1);
+    grid->addLayout(makeCell(QStringLiteral("OlvIconButton"),
+                             { makeTile(page, 0xf0e0, QStringLiteral("Mail"), blue, false),
+                               makeTile(page, 0xf1eb, QStringLiteral("网络"), blue, true),
+                               makeTile(page, 0xf004, QStringLiteral("Likes"), red, true),
+                               makeTile(page, 0xf001, QStringLiteral("Music"), orange, false) }),
+                    1, 0);
+    auto *values = makeCell(QStringLiteral("OlvSwitch"),
+                            { makeSwitch(page, QStringLiteral("grey"), green, false),
+                              makeSwitch(page, QStringLiteral("green"), green, true),
+                              makeSwitch(page, QStringLiteral("blue"), blue, true),
+                              makeSwitch(page, QStringLiteral("orange"), orange, true) });
+    values->addSpacing(6);
+    values->addLayout(makeCell(QStringLiteral("OlvSlider"), { makeSlider(60) }));
+    grid->addLayout(values, 1, 1);
     grid->addLayout(makeCell(QStringLiteral("OlvLineEdit"),
                              { makeLine(0xf007, QStringLiteral("Li Wei"), false) }),
                     2, 0);
@@ -239,7 +266,12 @@ Page *createOverviewPage(QWidget *parent)
                              { makeLine(0xf023, QStringLiteral("correct horse"), true) }),
                     2, 1);
     grid->addLayout(makeCell(QStringLiteral("OlvShortcutEdit"), { makeShortcut(page) }), 3, 0);
-    grid->addLayout(makeCell(QStringLiteral("OlvSlider"), { makeSlider(60) }), 3, 1);
+    grid->addLayout(makeCell(QStringLiteral("OlvSimpleIconButton"),
+                             { makeGlyph(page, 0xf006, 0xf005, QStringLiteral("Starred"), true),
+                               makeGlyph(page, 0xf09c, 0xf023, QStringLiteral("Locked"), false),
+                               makeGlyph(page, 0xf0f6, 0xf15c, QStringLiteral("Note"), false),
+                               makeGlyph(page, 0xf0a2, 0xf0f3, QStringLiteral("Alarm"), true) }),
+                    3, 1);
     grid->addLayout(makeCell(QStringLiteral("OlvGridLayout"), { makeFlowGrid(page) }), 4, 0);
     grid->addLayout(makeCell(QStringLiteral("OlvFlexWidget; OlvMoveWidget and OlvResizeWidget"),
                              { makeStage() }),
