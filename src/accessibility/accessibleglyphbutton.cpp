@@ -60,11 +60,12 @@ QString AccessibleGlyphButton::text(QAccessible::Text kind) const
 
 QStringList AccessibleGlyphButton::actionNames() const
 {
-    if (!hasMenu()) {
-        return AccessibleClickable::actionNames();
+    QStringList names = AccessibleClickable::actionNames();
+    if (hasMenu() && names.removeAll(pressAction()) > 0) {
+        names.removeAll(toggleAction());
+        names.prepend(showMenuAction());
     }
-    return (button()->isEnabled() ? QStringList{ showMenuAction() } : QStringList())
-        + AccessibleWidget::actionNames();
+    return names;
 }
 
 void AccessibleGlyphButton::doAction(const QString &name)
