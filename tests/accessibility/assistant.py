@@ -73,7 +73,10 @@ def value(widget):
 def states(widget):
     state = widget.get_state_set()
     checked = ["checked"] if state.contains(Atspi.StateType.CHECKED) else []
-    return checked + ([] if state.contains(Atspi.StateType.ENABLED) else ["disabled"])
+    focusable = ["focusable"] if state.contains(Atspi.StateType.FOCUSABLE) else []
+    focused = ["focused"] if state.contains(Atspi.StateType.FOCUSED) else []
+    enabled = [] if state.contains(Atspi.StateType.ENABLED) else ["disabled"]
+    return checked + focusable + focused + enabled
 
 
 def describe(widget):

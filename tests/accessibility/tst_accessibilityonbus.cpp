@@ -2,6 +2,8 @@
 #include <OlvWidgets/OlvWidgets>
 
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QProcess>
 #include <QSignalSpy>
@@ -40,8 +42,14 @@ public:
         , record(new OlvShortcutEdit(new FreeShortcut(Qt::Key_F5), this))
         , bar(new OlvControlBar({ 0xf2d2, 0xf103, 0xf102, 0xf068, 0xf065, 0xf00d, 0xf066, 0xf013 },
                                 this, { QStringLiteral("Settings") }))
+        , star(new OlvSimpleIconButton(QChar(0xf006), QFont(), this))
+        , name(new OlvLineEdit(this))
         , panel(new OlvFlexWidget(120, 60, this))
     {
+        star->setToolTip(QStringLiteral("Favourite"));
+        auto *label = new QLabel(QStringLiteral("User"));
+        label->setBuddy(name);
+        name->setText(QStringLiteral("Li Wei"));
         bold->setCheckable(true);
         wifi->setAccessibleName(QStringLiteral("Wi-Fi"));
         volume->setAccessibleName(QStringLiteral("Volume"));
@@ -52,7 +60,9 @@ public:
         for (QWidget *widget : { static_cast<QWidget *>(bar), static_cast<QWidget *>(save),
                                  static_cast<QWidget *>(bold), static_cast<QWidget *>(mail),
                                  static_cast<QWidget *>(wifi), static_cast<QWidget *>(volume),
-                                 static_cast<QWidget *>(record), static_cast<QWidget *>(panel) }) {
+                                 static_cast<QWidget *>(record), static_cast<QWidget *>(star),
+                                 static_cast<QWidget *>(label), static_cast<QWidget *>(name),
+                                 static_cast<QWidget *>(panel) }) {
             widget->setMinimumSize(widget->minimumSize().expandedTo(QSize(60, 24)));
             column->addWidget(widget);
         }
@@ -65,6 +75,8 @@ public:
     OlvSlider *volume;
     OlvShortcutEdit *record;
     OlvControlBar *bar;
+    OlvSimpleIconButton *star;
+    OlvLineEdit *name;
     OlvFlexWidget *panel;
 };
 
@@ -119,6 +131,7 @@ private Q_SLOTS:
     void aSwitchIsSwitched();
     void aSliderIsSet();
     void theBarIsPressed();
+    void aLineEditIsFocused();
     void updatesAreHeard();
 
 private:
@@ -143,6 +156,9 @@ void TestAccessibilityOnBus::theTreeIsRead()
     m_window->wifi->setProperty("switch", true);
     m_window->volume->setValue(42);
     m_window->mail->setEnabled(false);
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    m_window->record->setFocus();
     OtherProgram reader({ QStringLiteral("tree") });
     QVERIFY(reader.succeeds());
     // Qt's bridge steps through a value by itself
@@ -153,15 +169,20 @@ void TestAccessibilityOnBus::theTreeIsRead()
                            QStringLiteral("push button|Mail|disabled||"),
                            QStringLiteral("check box|Wi-Fi|checked||Toggle Press"),
                            QStringLiteral("slider|Volume||42 of 0 to 100|Increase Decrease"),
-                           QStringLiteral("text|Record||Ctrl+F5|SetFocus"),
-                           QStringLiteral("push button|Settings|||Press SetFocus"),
-                           QStringLiteral("check box|悬浮|||Toggle Press SetFocus"),
-                           QStringLiteral("check box|置底|||Toggle Press SetFocus"),
-                           QStringLiteral("check box|置顶|||Toggle Press SetFocus"),
-                           QStringLiteral("push button|最小化|||Press SetFocus"),
-                           QStringLiteral("check box|最大化|||Toggle Press SetFocus"),
-                           QStringLiteral("push button|关闭|||Press SetFocus"),
-                           QStringLiteral("panel|Note|||") }));
+                           QStringLiteral("text|Record|focusable focused|Ctrl+F5|SetFocus"),
+                           QStringLiteral("push button|Settings|focusable||Press SetFocus"),
+                           QStringLiteral("check box|悬浮|focusable||Toggle Press SetFocus"),
+                           QStringLiteral("check box|置底|focusable||Toggle Press SetFocus"),
+                           QStringLiteral("check box|置顶|focusable||Toggle Press SetFocus"),
+                           QStringLiteral("push button|最小化|focusable||Press SetFocus"),
+                           QStringLiteral("check box|最大化|focusable||Toggle Press SetFocus"),
+                           QStringLiteral("push button|关闭|focusable||Press SetFocus"),
+                           QStringLiteral("check box|Favourite|focusable||Toggle Press SetFocus"),
+                           QStringLiteral("panel|User|focusable||SetFocus"),
+                           QStringLiteral("text|User|focusable|Li Wei|SetFocus"),
+                           QStringLiteral("check box|显示密码|focusable||Toggle Press SetFocus"),
+                           QStringLiteral("panel|Note|||"),
+                           QStringLiteral("label|User|||") }));
 }
 
 void TestAccessibilityOnBus::aButtonIsPressed()
@@ -225,6 +246,21 @@ void TestAccessibilityOnBus::theBarIsPressed()
         { QStringLiteral("act"), QStringLiteral("Settings"), QStringLiteral("Press") });
     QVERIFY(presser.succeeds());
     QCOMPARE(custom.count(), 1);
+}
+
+void TestAccessibilityOnBus::aLineEditIsFocused()
+{
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    auto *text = m_window->name->findChild<QLineEdit *>();
+    m_window->record->setFocus();
+    OtherProgram focuser(
+        { QStringLiteral("act"), QStringLiteral("User"), QStringLiteral("SetFocus") });
+    QVERIFY(focuser.succeeds());
+    QVERIFY(text->hasFocus());
+    OtherProgram reader({ QStringLiteral("tree") });
+    QVERIFY(reader.succeeds());
+    QVERIFY(reader.lines().contains(QStringLiteral("text|User|focusable focused|Li Wei|SetFocus")));
 }
 
 void TestAccessibilityOnBus::updatesAreHeard()
