@@ -149,11 +149,17 @@ void OlvSwitch::finish(bool on)
         round->move(on ? width() - height() : 0, 0);
     }
     killTimer(property(timerIdProperty).toInt());
+    // whoever hears of a property may delete the switch, an assistive program's helper for example
+    const QPointer<OlvSwitch> self(this);
     setProperty(moveCountProperty, 0);
-    setProperty(switchProperty, on);
+    if (self) {
+        setProperty(switchProperty, on);
+    }
+    if (!self) {
+        return;
+    }
     update();
 
-    const QPointer<OlvSwitch> self(this);
     Q_EMIT valueChanged(on);
     if (self) {
         Q_EMIT changed(on);

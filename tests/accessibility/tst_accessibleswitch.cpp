@@ -32,6 +32,7 @@ private Q_SLOTS:
     void isToggledBesideOtherTimers();
     void disabledIsNotToggled();
     void survivesDeletionByItsSlots();
+    void survivesItsDeletionByWhoeverHearsThatItHasSwitched();
     void tellsWhenItHasSwitched();
     void tellsOfAnOverwrittenProperty();
 };
@@ -126,6 +127,26 @@ void TestAccessibleSwitch::survivesDeletionByItsSlots()
     connect(widget, &OlvSwitch::valueChanged, this, [&] { delete widget; });
     QVERIFY(act(widget, toggle()));
     QTRY_VERIFY_WITH_TIMEOUT(!widget, 20000);
+}
+
+void TestAccessibleSwitch::survivesItsDeletionByWhoeverHearsThatItHasSwitched()
+{
+    const Assistant assistant;
+    static QPointer<OlvSwitch> widget;
+    widget = new OlvSwitch;
+    widget->show();
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        const bool isChecked = event->type() == QAccessible::StateChanged
+            && static_cast<QAccessibleStateChangeEvent *>(event)->changedStates().checked;
+        if (isChecked && event->object() == widget) {
+            delete widget;
+        }
+    });
+    const bool isToggled = act(widget, toggle());
+    const bool isGone = QTest::qWaitFor([] { return !widget; }, 20000);
+    QAccessible::installUpdateHandler(before);
+    QVERIFY(isToggled);
+    QVERIFY(isGone);
 }
 
 void TestAccessibleSwitch::tellsWhenItHasSwitched()
