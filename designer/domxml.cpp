@@ -5,7 +5,10 @@
 
 #include <QFont>
 #include <QMetaEnum>
+#include <QWidget>
 #include <QXmlStreamWriter>
+
+#include <memory>
 
 namespace {
 
@@ -77,7 +80,14 @@ void startProperty(QXmlStreamWriter &xml, const QString &name)
     xml.writeAttribute(QStringLiteral("name"), name);
 }
 
-/** Without a size hint, which few of the widgets have, a layout would leave them no room. */
+/** Without a size hint of its own, which few of the widgets have, a layout would leave it no room.
+ */
+bool needsLeastSize(const WidgetKind &kind)
+{
+    const std::unique_ptr<QWidget> widget(kind.create(nullptr));
+    return kind.vertical == QSizePolicy::Fixed && !widget->sizeHint().isValid();
+}
+
 QSize leastSize(const WidgetKind &kind)
 {
     const int width = kind.size.width();
@@ -93,7 +103,11 @@ void writeGeometry(QXmlStreamWriter &xml, const WidgetKind &kind)
     writeSize(xml, kind.size);
     xml.writeEndElement();
     xml.writeEndElement();
+}
 
+void writeSizes(QXmlStreamWriter &xml, const WidgetKind &kind)
+{
+    writeGeometry(xml, kind);
     const QMetaEnum policies = QMetaEnum::fromType<QSizePolicy::Policy>();
     startProperty(xml, QStringLiteral("sizePolicy"));
     xml.writeStartElement(QStringLiteral("sizepolicy"));
@@ -106,7 +120,7 @@ void writeGeometry(QXmlStreamWriter &xml, const WidgetKind &kind)
     xml.writeEndElement();
     xml.writeEndElement();
 
-    if (kind.vertical == QSizePolicy::Fixed) {
+    if (needsLeastSize(kind)) {
         startProperty(xml, QStringLiteral("minimumSize"));
         xml.writeStartElement(QStringLiteral("size"));
         writeSize(xml, leastSize(kind));
@@ -152,25 +166,39 @@ void writeSpecifications(QXmlStreamWriter &xml, const WidgetKind &kind)
     xml.writeEndElement();
 }
 
-} // namespace
+void writeWidget(QXmlStreamWriter &xml, const WidgetKind &kind)
+{
+    xml.writeStartElement(QStringLiteral("widget"));
+    xml.writeAttribute(QStringLiteral("class"), kind.className);
+    xml.writeAttribute(QStringLiteral("name"),
+                       kind.className.at(0).toLower() + kind.className.mid(1));
+    writeSizes(xml, kind);
+    for (const KindProperty &property : kind.properties) {
+        writeProperty(xml, property);
+    }
+    xml.writeEndElement();
+}
 
-QString domXml(const WidgetKind &kind)
+void writeViewport(QXmlStreamWriter &xml, const WidgetKind &kind)
+{
+    xml.writeStartElement(QStringLiteral("widget"));
+    // The name comes first, since the widget box takes the first <widget class="..."> for the class
+    // whose tool tip the entry shows.
+    xml.writeAttribute(QStringLiteral("name"), QStringLiteral("viewport"));
+    xml.writeAttribute(QStringLiteral("class"), QStringLiteral("QWidget"));
+    writeGeometry(xml, kind);
+    writeWidget(xml, kind);
+    xml.writeEndElement();
+}
+
+QString document(const WidgetKind &kind, void (*write)(QXmlStreamWriter &, const WidgetKind &))
 {
     QString text;
     QXmlStreamWriter xml(&text);
     xml.writeStartElement(QStringLiteral("ui"));
     xml.writeAttribute(QStringLiteral("language"), QStringLiteral("c++"));
     xml.writeAttribute(QStringLiteral("displayname"), kind.title);
-
-    xml.writeStartElement(QStringLiteral("widget"));
-    xml.writeAttribute(QStringLiteral("class"), kind.className);
-    xml.writeAttribute(QStringLiteral("name"),
-                       kind.className.at(0).toLower() + kind.className.mid(1));
-    writeGeometry(xml, kind);
-    for (const KindProperty &property : kind.properties) {
-        writeProperty(xml, property);
-    }
-    xml.writeEndElement();
+    write(xml, kind);
 
     xml.writeStartElement(QStringLiteral("customwidgets"));
     xml.writeStartElement(QStringLiteral("customwidget"));
@@ -181,4 +209,16 @@ QString domXml(const WidgetKind &kind)
     xml.writeEndElement();
     xml.writeEndElement();
     return text;
+}
+
+} // namespace
+
+QString domXml(const WidgetKind &kind)
+{
+    return document(kind, writeWidget);
+}
+
+QString viewportDomXml(const WidgetKind &kind)
+{
+    return document(kind, writeViewport);
 }

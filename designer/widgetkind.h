@@ -17,6 +17,13 @@ struct KindProperty
         Dynamic,  ///< one that the widget reads by its name
     };
 
+    /** What the widget's context menu in Designer asks for, beside the property editor. */
+    enum Dialog {
+        NoDialog,
+        Glyph, ///< a character of an icon font: a QChar, or a string of one
+        Color, ///< an unsigned number 0xAARRGGBB
+    };
+
     QString name;
     QVariant value;
     /** What Designer's property editor says about it. */
@@ -24,6 +31,7 @@ struct KindProperty
     /** Whether it is a text for the program's user, to be translated. */
     bool isText = false;
     Way way = Dynamic;
+    Dialog dialog = NoDialog;
 };
 
 /** What Designer is told about one class of widgets. */
@@ -46,6 +54,8 @@ struct WidgetKind
     /** The size of the widget in its icon, and what else makes a good picture of it, or null. */
     QSize sampleSize;
     void (*pose)(QWidget *widget);
+    /** Whether it belongs into a plain widget, which it fills. */
+    bool needsViewport = false;
 };
 
 /** Every widget that a form may have, in the order of the widget box. */

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "poses.h"
 #include "widgetkind.h"
 
 #include <OlvWidgets/OlvWidgets>
 
 #include <QFont>
-#include <QLabel>
-#include <QLayout>
-#include <QPushButton>
 
 namespace {
 
@@ -14,7 +12,6 @@ constexpr ushort mailGlyph = 0xf0e0;
 constexpr ushort starGlyph = 0xf005;
 constexpr uint cyan = 0xff00ffff;
 constexpr uint blue = 0xff409eff;
-constexpr QRgb tileColor = qRgb(64, 158, 255);
 
 QString iconFamily()
 {
@@ -24,79 +21,6 @@ QString iconFamily()
 template <class Widget> QWidget *make(QWidget *parent)
 {
     return new Widget(parent);
-}
-
-void lightUp(QWidget *button)
-{
-    button->setProperty("color", blue);
-    button->setProperty("isCheckable", true);
-    button->setProperty("isChecked", true);
-}
-
-void typeText(QWidget *widget)
-{
-    static_cast<OlvLineEdit *>(widget)->setText(QStringLiteral("Ab"));
-}
-
-void nameKey(QWidget *widget)
-{
-    auto *label = new QLabel(QStringLiteral("Ctrl"), widget);
-    label->setAlignment(Qt::AlignCenter);
-    label->resize(widget->size());
-}
-
-void switchOn(QWidget *widget)
-{
-    widget->setProperty("switch", true);
-    for (QObject *child : widget->children()) {
-        if (auto *knob = dynamic_cast<SwitchRound *>(child)) {
-            knob->move(widget->width() - widget->height(), 0);
-        }
-    }
-}
-
-/** Three of the buttons, large and dark enough for an icon. */
-void showWindowButtons(QWidget *bar)
-{
-    const QList<QPushButton *> buttons = bar->findChildren<QPushButton *>();
-    for (int i = 0; i < buttons.size(); ++i) {
-        QPushButton *button = buttons.at(i);
-        button->setVisible(i >= OlvControlBar::Min);
-        button->setStyleSheet(QStringLiteral("border: none; color: rgb(64,158,255)"));
-        button->setFont(QFont(iconFamily(), 14));
-    }
-    delete bar->layout()->takeAt(0);
-}
-
-void slideHalfWay(QWidget *slider)
-{
-    for (QObject *child : slider->children()) {
-        if (auto *knob = dynamic_cast<SliderRound *>(child)) {
-            knob->move(knob->x() + (slider->width() - slider->height()) / 2, knob->y());
-        }
-    }
-}
-
-void fillWithTiles(QWidget *widget)
-{
-    auto *grid = static_cast<OlvGridLayout *>(widget);
-    QList<QWidget *> tiles;
-    for (const int width : { 12, 18, 22, 14, 14, 20 }) {
-        auto *tile = new QWidget(grid);
-        tile->resize(width, 12);
-        tile->setAutoFillBackground(true);
-        tile->setPalette(QPalette(QColor(tileColor)));
-        tiles.append(tile);
-    }
-    grid->setMargin(4);
-    grid->addWidget(tiles);
-}
-
-/** The placeholder draws nothing, so that it is shown by an outline. */
-void outline(QWidget *widget)
-{
-    widget->setAttribute(Qt::WA_StyledBackground);
-    widget->setStyleSheet(QStringLiteral("border: 3px dashed rgb(64,158,255)"));
 }
 
 WidgetKind buttonKind()
@@ -127,33 +51,39 @@ WidgetKind buttonKind()
 
 WidgetKind iconButtonKind()
 {
-    return { QStringLiteral("OlvIconButton"),
-             QStringLiteral("QWidget"),
-             QStringLiteral("Icon Button"),
-             QStringLiteral("A tile of a glyph and a caption that tells a click from a double one"),
-             QStringLiteral("A tile with one glyph of an icon font above a short caption. It emits "
-                            "clicked() or dClicked() 400 milliseconds after the last release."),
-             { 80, 80 },
-             QSizePolicy::Fixed,
-             QSizePolicy::Fixed,
-             false,
-             { { QStringLiteral("icon"), QChar(mailGlyph), QStringLiteral("The glyph") },
-               { QStringLiteral("text"), QStringLiteral("Mail"), QStringLiteral("The caption"),
-                 true },
-               { QStringLiteral("family"), iconFamily(), QStringLiteral("The icon font's family") },
-               { QStringLiteral("color"), cyan,
-                 QStringLiteral("The accent colour, as the number 0xAARRGGBB") },
-               { QStringLiteral("partSize"), 20,
-                 QStringLiteral("Pixels: three for the glyph, one for the caption") },
-               { QStringLiteral("iconSize"), 31.2, QStringLiteral("The glyph's size in points") },
-               { QStringLiteral("textSize"), 10.4, QStringLiteral("The caption's size in points") },
-               { QStringLiteral("isCheckable"), false,
-                 QStringLiteral("Whether the checked look is shown") },
-               { QStringLiteral("isChecked"), false, QStringLiteral("Whether it is checked") },
-               { QStringLiteral("value"), false, QStringLiteral("What getValue() returns") } },
-             make<OlvIconButton>,
-             { 80, 80 },
-             lightUp };
+    return {
+        QStringLiteral("OlvIconButton"),
+        QStringLiteral("QWidget"),
+        QStringLiteral("Icon Button"),
+        QStringLiteral("A tile of a glyph and a caption that tells a click from a double one"),
+        QStringLiteral("A tile with one glyph of an icon font above a short caption. It emits "
+                       "clicked() or dClicked() 400 milliseconds after the last release. "
+                       "Right-click it to change the glyph and the colour."),
+        { 80, 80 },
+        QSizePolicy::Fixed,
+        QSizePolicy::Fixed,
+        false,
+        { { QStringLiteral("icon"), QChar(mailGlyph),
+            QStringLiteral("The glyph: right-click the widget, Change glyph..."), false,
+            KindProperty::Dynamic, KindProperty::Glyph },
+          { QStringLiteral("text"), QStringLiteral("Mail"), QStringLiteral("The caption"), true },
+          { QStringLiteral("family"), iconFamily(), QStringLiteral("The icon font's family") },
+          { QStringLiteral("color"), cyan,
+            QStringLiteral("The accent colour, 0xAARRGGBB as a decimal number: right-click the "
+                           "widget, Change colour..."),
+            false, KindProperty::Dynamic, KindProperty::Color },
+          { QStringLiteral("partSize"), 20,
+            QStringLiteral("Pixels: three for the glyph, one for the caption") },
+          { QStringLiteral("iconSize"), 31.2, QStringLiteral("The glyph's size in points") },
+          { QStringLiteral("textSize"), 10.4, QStringLiteral("The caption's size in points") },
+          { QStringLiteral("isCheckable"), false,
+            QStringLiteral("Whether the checked look is shown") },
+          { QStringLiteral("isChecked"), false, QStringLiteral("Whether it is checked") },
+          { QStringLiteral("value"), false, QStringLiteral("What getValue() returns") } },
+        make<OlvIconButton>,
+        { 80, 80 },
+        Pose::lightUp
+    };
 }
 
 WidgetKind simpleIconButtonKind()
@@ -163,13 +93,14 @@ WidgetKind simpleIconButtonKind()
              QStringLiteral("Simple Icon Button"),
              QStringLiteral("A small borderless button of one glyph"),
              QStringLiteral("A small checkable push button whose caption is one glyph of an icon "
-                            "font. setToggle() gives it a second glyph for its checked state."),
+                            "font: right-click it, Change glyph... setToggle() gives it a second "
+                            "glyph for its checked state."),
              { 30, 30 },
              QSizePolicy::Fixed,
              QSizePolicy::Fixed,
              false,
              { { QStringLiteral("text"), QString(QChar(starGlyph)), QString(), false,
-                 KindProperty::Declared },
+                 KindProperty::Declared, KindProperty::Glyph },
                { QStringLiteral("font"), QFont(iconFamily(), 14), QString(), false,
                  KindProperty::Declared } },
              make<OlvSimpleIconButton>,
@@ -179,22 +110,26 @@ WidgetKind simpleIconButtonKind()
 
 WidgetKind lineEditKind()
 {
-    return { QStringLiteral("OlvLineEdit"),
-             QStringLiteral("QWidget"),
-             QStringLiteral("Line Edit"),
-             QStringLiteral("A framed line of text with a glyph"),
-             QStringLiteral("A framed line of text with an optional glyph at its left and an "
-                            "optional password button, which setPassWord() shows. Its font follows "
-                            "its height."),
-             { 200, 32 },
-             QSizePolicy::Expanding,
-             QSizePolicy::Fixed,
-             false,
-             { { QStringLiteral("Icon"), QString(),
-                 QStringLiteral("The glyph at the left, in the widget's font; empty for none") } },
-             make<OlvLineEdit>,
-             { 64, 32 },
-             typeText };
+    return {
+        QStringLiteral("OlvLineEdit"),
+        QStringLiteral("QWidget"),
+        QStringLiteral("Line Edit"),
+        QStringLiteral("A framed line of text with a glyph"),
+        QStringLiteral("A framed line of text with an optional glyph at its left and an "
+                       "optional password button, which setPassWord() shows. Its font follows "
+                       "its height."),
+        { 200, 32 },
+        QSizePolicy::Expanding,
+        QSizePolicy::Fixed,
+        false,
+        { { QStringLiteral("Icon"), QString(),
+            QStringLiteral("The glyph at the left, in the widget's font; empty for none. To type "
+                           "its code: right-click the widget, Change glyph..."),
+            false, KindProperty::Dynamic, KindProperty::Glyph } },
+        make<OlvLineEdit>,
+        { 64, 32 },
+        Pose::typeText
+    };
 }
 
 WidgetKind shortcutEditKind()
@@ -212,7 +147,7 @@ WidgetKind shortcutEditKind()
              {},
              make<OlvShortcutEdit>,
              { 40, 26 },
-             nameKey };
+             Pose::nameKey };
 }
 
 WidgetKind switchKind()
@@ -220,9 +155,11 @@ WidgetKind switchKind()
     return { QStringLiteral("OlvSwitch"),
              QStringLiteral("QWidget"),
              QStringLiteral("Switch"),
-             QStringLiteral("An animated on/off switch"),
+             QStringLiteral("An animated on/off switch, which is off in a form"),
              QStringLiteral("An on/off switch whose knob slides to the other end. It emits "
-                            "valueChanged() and changed(); setValue() switches it on."),
+                            "valueChanged() and changed(). A form cannot have it on, since its "
+                            "property \"switch\" moves no knob: call setValue(true) once the form "
+                            "is loaded, which slides it on and emits both."),
              { 50, 24 },
              QSizePolicy::Fixed,
              QSizePolicy::Fixed,
@@ -233,26 +170,33 @@ WidgetKind switchKind()
                  QStringLiteral("The track while it is on: red,green,blue") } },
              make<OlvSwitch>,
              { 48, 26 },
-             switchOn };
+             Pose::switchOn };
 }
 
 WidgetKind sliderKind()
 {
-    return { QStringLiteral("OlvSlider"),
-             QStringLiteral("QWidget"),
-             QStringLiteral("Slider"),
-             QStringLiteral("A slider from 0 to 100"),
-             QStringLiteral("A horizontal slider. Its value is a percentage, read with getValue(); "
-                            "dragging it is silent."),
-             { 200, 30 },
-             QSizePolicy::Expanding,
-             QSizePolicy::Fixed,
-             false,
-             { { QStringLiteral("progress"), 0,
-                 QStringLiteral("The value, 0 to 100; the knob stays where it is") } },
-             make<OlvSlider>,
-             { 60, 30 },
-             slideHalfWay };
+    return {
+        QStringLiteral("OlvSlider"),
+        QStringLiteral("QWidget"),
+        QStringLiteral("Slider"),
+        QStringLiteral("A slider from 0 to 100, whose knob is at 0 in a form"),
+        QStringLiteral("A horizontal slider. Its value is a percentage, read with getValue(); "
+                       "dragging it is silent. The property \"progress\" and setValue() set "
+                       "the value and leave the knob at 0. To have it there too, set the value "
+                       "once the form is laid out as assistive programs do: "
+                       "QAccessible::queryAccessibleInterface(slider)->valueInterface()->"
+                       "setCurrentValue(40)."),
+        { 200, 30 },
+        QSizePolicy::Expanding,
+        QSizePolicy::Fixed,
+        false,
+        { { QStringLiteral("progress"), 0,
+            QStringLiteral("What getValue() returns, 0 to 100. The knob stays at 0: what moves it "
+                           "in code, the widget's \"What's This?\" says") } },
+        make<OlvSlider>,
+        { 60, 30 },
+        Pose::slideHalfWay
+    };
 }
 
 WidgetKind controlBarKind()
@@ -270,7 +214,7 @@ WidgetKind controlBarKind()
              {},
              make<OlvControlBar>,
              { 78, 25 },
-             showWindowButtons };
+             Pose::showWindowButtons };
 }
 
 WidgetKind dragWidgetKind()
@@ -288,7 +232,7 @@ WidgetKind dragWidgetKind()
              {},
              make<OlvDragWidget>,
              { 40, 40 },
-             outline };
+             Pose::outline };
 }
 
 WidgetKind gridKind()
@@ -297,9 +241,12 @@ WidgetKind gridKind()
     return { QStringLiteral("OlvGridLayout"),
              QStringLiteral("QWidget"),
              QStringLiteral("Flow Grid"),
-             QStringLiteral("Rows of widgets that scroll"),
-             QStringLiteral("Puts the widgets that the program adds into rows, as wide as its "
-                            "parent, and scrolls them: give it a plain widget as a viewport."),
+             QStringLiteral("Rows of widgets that scroll in a plain widget, the viewport"),
+             QStringLiteral("Puts the widgets that the program adds into rows and scrolls them. It "
+                            "needs a plain widget as its viewport, which it comes with and fills "
+                            "whenever that is resized: move, resize and lay out the viewport. "
+                            "Directly on a form or a page it would act as a window, without "
+                            "scrolling, and resize that form or page to its own height."),
              { 240, 160 },
              QSizePolicy::Preferred,
              QSizePolicy::Preferred,
@@ -307,28 +254,33 @@ WidgetKind gridKind()
              {},
              make<OlvGridLayout>,
              { 64, 60 },
-             fillWithTiles };
+             Pose::fillWithTiles,
+             true };
 }
 
 WidgetKind flexPanelKind()
 {
-    return { QStringLiteral("OlvFlexWidget"),
-             QStringLiteral("QWidget"),
-             QStringLiteral("Flex Panel"),
-             QStringLiteral("A panel that the user moves and resizes"),
-             QStringLiteral("A rounded panel that the user moves by dragging it anywhere, and "
-                            "resizes by its right edge, its bottom edge and its corner."),
-             { 240, 180 },
-             QSizePolicy::Preferred,
-             QSizePolicy::Preferred,
-             true,
-             { { QStringLiteral("headerWay"), int(OlvFlexWidget::HeaderTop),
-                 QStringLiteral("The band: 0 none, 1 top, 2 left, 3 top and shifted, 4 right") },
-               { QStringLiteral("headerWayColor"), blue,
-                 QStringLiteral("The band's colour, as the number 0xAARRGGBB") } },
-             make<OlvFlexWidget>,
-             { 56, 50 },
-             nullptr };
+    return {
+        QStringLiteral("OlvFlexWidget"),
+        QStringLiteral("QWidget"),
+        QStringLiteral("Flex Panel"),
+        QStringLiteral("A panel that the user moves and resizes"),
+        QStringLiteral("A rounded panel that the user moves by dragging it anywhere, and "
+                       "resizes by its right edge, its bottom edge and its corner."),
+        { 240, 180 },
+        QSizePolicy::Preferred,
+        QSizePolicy::Preferred,
+        true,
+        { { QStringLiteral("headerWay"), int(OlvFlexWidget::HeaderTop),
+            QStringLiteral("The band: 0 none, 1 top, 2 left, 3 top and shifted, 4 right") },
+          { QStringLiteral("headerWayColor"), blue,
+            QStringLiteral("The band's colour, 0xAARRGGBB as a decimal number: right-click the "
+                           "widget, Change colour..."),
+            false, KindProperty::Dynamic, KindProperty::Color } },
+        make<OlvFlexWidget>,
+        { 56, 50 },
+        nullptr
+    };
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 #include "widgetplugin.h"
 
 #include "domxml.h"
+#include "valuemenu.h"
+#include "viewport.h"
 #include "widgeticon.h"
 
 #include <QCoreApplication>
@@ -79,6 +81,11 @@ QWidget *WidgetPlugin::createWidget(QWidget *parent)
 void WidgetPlugin::initialize(QDesignerFormEditorInterface *core)
 {
     m_isInDesigner = true;
+    if (asksForValues()) {
+        QExtensionManager *manager = core->extensionManager();
+        manager->registerExtensions(new ValueMenuFactory(m_kind, manager),
+                                    Q_TYPEID(QDesignerTaskMenuExtension));
+    }
     connect(core->formWindowManager(), &QDesignerFormWindowManagerInterface::formWindowAdded, this,
             &WidgetPlugin::watch);
 }
@@ -109,8 +116,19 @@ bool WidgetPlugin::isOffered(const QString &property) const
                        [&](const KindProperty &offered) { return offered.name == property; });
 }
 
+bool WidgetPlugin::asksForValues() const
+{
+    return std::any_of(
+        m_kind.properties.begin(), m_kind.properties.end(),
+        [](const KindProperty &offered) { return offered.dialog != KindProperty::NoDialog; });
+}
+
 void WidgetPlugin::watch(QDesignerFormWindowInterface *form)
 {
+    if (m_kind.needsViewport) {
+        // by now the widget box is filled
+        dropInViewport(form->core()->widgetBox(), group(), m_kind);
+    }
     connect(form, &QDesignerFormWindowInterface::widgetManaged, this,
             [=](QWidget *widget) { hideInternalProperties(form, widget); });
 }

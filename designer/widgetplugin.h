@@ -36,6 +36,7 @@ public:
 
 private:
     bool isOffered(const QString &property) const;
+    bool asksForValues() const;
     void watch(QDesignerFormWindowInterface *form);
     void hideInternalProperties(QDesignerFormWindowInterface *form, QWidget *widget) const;
 

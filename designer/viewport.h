@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QDesignerWidgetBoxInterface;
+struct WidgetKind;
+
+/**
+ * Makes the entry of @p kind in the @p group of Designer's widget box drop the widget inside a
+ * plain one. A plugin itself can only say what a widget alone is like.
+ */
+void dropInViewport(QDesignerWidgetBoxInterface *box, const QString &group, const WidgetKind &kind);
