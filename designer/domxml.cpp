@@ -182,10 +182,8 @@ void writeWidget(QXmlStreamWriter &xml, const WidgetKind &kind)
 void writeViewport(QXmlStreamWriter &xml, const WidgetKind &kind)
 {
     xml.writeStartElement(QStringLiteral("widget"));
-    // The name comes first, since the widget box takes the first <widget class="..."> for the class
-    // whose tool tip the entry shows.
-    xml.writeAttribute(QStringLiteral("name"), QStringLiteral("viewport"));
     xml.writeAttribute(QStringLiteral("class"), QStringLiteral("QWidget"));
+    xml.writeAttribute(QStringLiteral("name"), QStringLiteral("viewport"));
     writeGeometry(xml, kind);
     writeWidget(xml, kind);
     xml.writeEndElement();
@@ -197,7 +195,7 @@ QString document(const WidgetKind &kind, void (*write)(QXmlStreamWriter &, const
     QXmlStreamWriter xml(&text);
     xml.writeStartElement(QStringLiteral("ui"));
     xml.writeAttribute(QStringLiteral("language"), QStringLiteral("c++"));
-    xml.writeAttribute(QStringLiteral("displayname"), kind.title);
+    // no display name: the widget box shows tool tips only where the entry's name is the class's
     write(xml, kind);
 
     xml.writeStartElement(QStringLiteral("customwidgets"));

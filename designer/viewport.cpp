@@ -20,10 +20,10 @@ int indexOf(const Box *box, const QString &group)
     return -1;
 }
 
-int indexOf(const Box::Category &category, const QString &title)
+int indexOf(const Box::Category &category, const QString &className)
 {
     for (int i = 0; i < category.widgetCount(); ++i) {
-        if (category.widget(i).name() == title) {
+        if (category.widget(i).name() == className) {
             return i;
         }
     }
@@ -39,7 +39,7 @@ void dropInViewport(QDesignerWidgetBoxInterface *box, const QString &group, cons
         return;
     }
     const Box::Category category = box->category(place);
-    const int first = indexOf(category, kind.title);
+    const int first = indexOf(category, kind.className);
     const QString wanted = viewportDomXml(kind);
     if (first < 0 || category.widget(first).domXml() == wanted) {
         return;

@@ -40,8 +40,6 @@ struct WidgetKind
     QString className;
     /** The nearest class that Designer knows by itself. */
     QString baseName;
-    /** Its name in the widget box. */
-    QString title;
     QString toolTip;
     QString whatsThis;
     /** The size of a new one. */

@@ -27,7 +27,6 @@ WidgetKind buttonKind()
 {
     return { QStringLiteral("OlvButton"),
              QStringLiteral("QWidget"),
-             QStringLiteral("Button"),
              QStringLiteral("A text button in four colours and three shapes"),
              QStringLiteral("A flat text button in one of four colour schemes and three shapes. "
                             "It emits clicked(), and toggled() when it is checkable."),
@@ -54,7 +53,6 @@ WidgetKind iconButtonKind()
     return {
         QStringLiteral("OlvIconButton"),
         QStringLiteral("QWidget"),
-        QStringLiteral("Icon Button"),
         QStringLiteral("A tile of a glyph and a caption that tells a click from a double one"),
         QStringLiteral("A tile with one glyph of an icon font above a short caption. It emits "
                        "clicked() or dClicked() 400 milliseconds after the last release. "
@@ -90,7 +88,6 @@ WidgetKind simpleIconButtonKind()
 {
     return { QStringLiteral("OlvSimpleIconButton"),
              QStringLiteral("QPushButton"),
-             QStringLiteral("Simple Icon Button"),
              QStringLiteral("A small borderless button of one glyph"),
              QStringLiteral("A small checkable push button whose caption is one glyph of an icon "
                             "font: right-click it, Change glyph... setToggle() gives it a second "
@@ -113,7 +110,6 @@ WidgetKind lineEditKind()
     return {
         QStringLiteral("OlvLineEdit"),
         QStringLiteral("QWidget"),
-        QStringLiteral("Line Edit"),
         QStringLiteral("A framed line of text with a glyph"),
         QStringLiteral("A framed line of text with an optional glyph at its left and an "
                        "optional password button, which setPassWord() shows. Its font follows "
@@ -136,7 +132,6 @@ WidgetKind shortcutEditKind()
 {
     return { QStringLiteral("OlvShortcutEdit"),
              QStringLiteral("QWidget"),
-             QStringLiteral("Shortcut Edit"),
              QStringLiteral("A field that takes a shortcut for the whole desktop"),
              QStringLiteral("A field in which the user presses a key combination, which becomes a "
                             "shortcut on the whole desktop. It emits shortcutChanged()."),
@@ -154,7 +149,6 @@ WidgetKind switchKind()
 {
     return { QStringLiteral("OlvSwitch"),
              QStringLiteral("QWidget"),
-             QStringLiteral("Switch"),
              QStringLiteral("An animated on/off switch, which is off in a form"),
              QStringLiteral("An on/off switch whose knob slides to the other end. It emits "
                             "valueChanged() and changed(). A form cannot have it on, since its "
@@ -178,7 +172,6 @@ WidgetKind sliderKind()
     return {
         QStringLiteral("OlvSlider"),
         QStringLiteral("QWidget"),
-        QStringLiteral("Slider"),
         QStringLiteral("A slider from 0 to 100, whose knob is at 0 in a form"),
         QStringLiteral("A horizontal slider. Its value is a percentage, read with getValue(); "
                        "dragging it is silent. The property \"progress\" and setValue() set "
@@ -203,7 +196,6 @@ WidgetKind controlBarKind()
 {
     return { QStringLiteral("OlvControlBar"),
              QStringLiteral("QWidget"),
-             QStringLiteral("Control Bar"),
              QStringLiteral("The buttons of a window without a frame"),
              QStringLiteral("Float, keep at the bottom, keep on top, minimise, maximise and close. "
                             "It emits changed(), and the window acts."),
@@ -221,7 +213,6 @@ WidgetKind dragWidgetKind()
 {
     return { QStringLiteral("OlvDragWidget"),
              QStringLiteral("QWidget"),
-             QStringLiteral("Drag Widget"),
              QStringLiteral("A placeholder for a widget that is dragged"),
              QStringLiteral("A placeholder for a widget that is dragged from one container to "
                             "another: a plain widget."),
@@ -240,7 +231,6 @@ WidgetKind gridKind()
     // no container: the widgets in it are made by the program, which adds each to the grid
     return { QStringLiteral("OlvGridLayout"),
              QStringLiteral("QWidget"),
-             QStringLiteral("Flow Grid"),
              QStringLiteral("Rows of widgets that scroll in a plain widget, the viewport"),
              QStringLiteral("Puts the widgets that the program adds into rows and scrolls them. It "
                             "needs a plain widget as its viewport, which it comes with and fills "
@@ -263,7 +253,6 @@ WidgetKind flexPanelKind()
     return {
         QStringLiteral("OlvFlexWidget"),
         QStringLiteral("QWidget"),
-        QStringLiteral("Flex Panel"),
         QStringLiteral("A panel that the user moves and resizes"),
         QStringLiteral("A rounded panel that the user moves by dragging it anywhere, and "
                        "resizes by its right edge, its bottom edge and its corner."),

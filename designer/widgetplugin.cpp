@@ -69,9 +69,11 @@ QWidget *WidgetPlugin::createWidget(QWidget *parent)
 {
     QWidget *widget = m_kind.create(parent);
     if (m_isInDesigner) {
-        if (parent) {
-            // a grid would follow the form's size, while Designer says where it lies
+        if (parent && m_kind.needsViewport) {
+            // It would follow the form's size as well, and only some time later; so it is made to
+            // follow its viewport here, whose size uic's code sets before there is a widget in it.
             parent->removeEventFilter(widget);
+            parent->installEventFilter(this);
         }
         widget->installEventFilter(this);
     }
@@ -97,7 +99,9 @@ bool WidgetPlugin::isInitialized() const
 
 bool WidgetPlugin::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::DynamicPropertyChange) {
+    if (event->type() == QEvent::Resize) {
+        fillViewport(qobject_cast<QWidget *>(watched));
+    } else if (event->type() == QEvent::DynamicPropertyChange) {
         const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
         auto *widget = qobject_cast<QWidget *>(watched);
         if (widget && isOffered(QString::fromUtf8(name))) {
@@ -108,6 +112,19 @@ bool WidgetPlugin::eventFilter(QObject *watched, QEvent *event)
         }
     }
     return QObject::eventFilter(watched, event);
+}
+
+void WidgetPlugin::fillViewport(QWidget *viewport) const
+{
+    const auto *form = QDesignerFormWindowInterface::findFormWindow(viewport);
+    if (!form || viewport == form->mainContainer()) {
+        return;
+    }
+    for (QObject *child : viewport->children()) {
+        if (QLatin1String(child->metaObject()->className()) == m_kind.className) {
+            static_cast<QWidget *>(child)->resize(viewport->size());
+        }
+    }
 }
 
 bool WidgetPlugin::isOffered(const QString &property) const

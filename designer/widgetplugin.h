@@ -31,10 +31,14 @@ public:
     void initialize(QDesignerFormEditorInterface *core) override;
     bool isInitialized() const override;
 
-    /** In Designer: shows a widget anew when one of the properties that it reads is edited. */
+    /**
+     * In Designer: shows a widget anew when one of the properties that it reads is edited, and
+     * keeps one that needs a viewport as large as that.
+     */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fillViewport(QWidget *viewport) const;
     bool isOffered(const QString &property) const;
     bool asksForValues() const;
     void watch(QDesignerFormWindowInterface *form);

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "designerprobe.h"
 
+#include "designerhand.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QListView>
 #include <QPixmap>
 #include <QScreen>
 #include <QTreeWidget>
-#include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QUndoStack>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QDesignerWidgetBoxInterface>
 #include <QtDesigner/QExtensionManager>
@@ -24,6 +28,17 @@ constexpr int settlingTime = 700; // milliseconds, in which what was asked for g
 QString reportPath(const char *name)
 {
     return qEnvironmentVariable("OLV_DESIGNER_REPORT") + QLatin1Char('/') + QLatin1String(name);
+}
+
+QString ourGroup()
+{
+    return QStringLiteral("OlvWidgets");
+}
+
+QByteArray read(const char *name)
+{
+    QFile file(reportPath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void write(const char *name, const QByteArray &content)
@@ -45,28 +60,85 @@ void DesignerProbe::initialize(QDesignerFormEditorInterface *core)
 
 void DesignerProbe::look()
 {
-    const QDesignerFormWindowInterface *form =
+    QDesignerFormWindowInterface *form =
         m_core->formWindowManager() ? m_core->formWindowManager()->activeFormWindow() : nullptr;
     if (!form || !form->mainContainer() || !form->mainContainer()->isVisible()
         || !m_core->widgetBox() || !m_core->widgetBox()->isVisible()) {
         return;
     }
     m_timer.stop();
-    showGroup();
-    QTimer::singleShot(settlingTime, this, &DesignerProbe::edit);
+    DesignerHand::tidyUp(m_core, ourGroup());
+    form->clearSelection();
+    form->selectWidget(DesignerHand::find(m_core, QStringLiteral("olvButton")));
+    QTimer::singleShot(settlingTime, this, &DesignerProbe::takePicture);
 }
 
-/** Edits the colour scheme of the button, and watches whether it is drawn anew. */
+void DesignerProbe::takePicture()
+{
+    // the dynamic properties come last
+    const QList<QTreeWidget *> trees = m_core->propertyEditor()->findChildren<QTreeWidget *>();
+    for (QTreeWidget *tree : trees) {
+        tree->scrollToBottom();
+    }
+    QTimer::singleShot(settlingTime, this, [this] {
+        QGuiApplication::primaryScreen()->grabWindow(0).save(reportPath("designer.png"));
+        edit();
+    });
+}
+
+/** Edits the form in the ways whose outcome is reported. */
 void DesignerProbe::edit()
 {
-    QDesignerFormWindowInterface *form = m_core->formWindowManager()->activeFormWindow();
-    m_edited = form->mainContainer()->findChild<QWidget *>(QStringLiteral("olvButton"));
+    m_edited = DesignerHand::find(m_core, QStringLiteral("olvButton"));
     if (m_edited) {
         m_edited->installEventFilter(this);
-        form->cursor()->setWidgetProperty(m_edited, QStringLiteral("color"),
-                                          QStringLiteral("warning"));
     }
+    DesignerHand::edit(m_core, QStringLiteral("olvButton"), QStringLiteral("color"),
+                       QStringLiteral("warning"));
+    DesignerHand::edit(m_core, QStringLiteral("olvLineEdit"), QStringLiteral("Icon"),
+                       QStringLiteral("WWWWWW"));
+    const QWidget *line = DesignerHand::find(m_core, QStringLiteral("olvLineEdit"));
+    m_seen.insert(QStringLiteral("iconWidth"), line ? line->property("IconWidth").toInt() : 0);
+    useMenus();
+    DesignerHand::edit(m_core, QStringLiteral("viewport"), QStringLiteral("geometry"),
+                       QRect(24, 272, 250, 90));
+    DesignerHand::paste(m_core, QString::fromUtf8(read("bare.ui")));
+    DesignerHand::paste(m_core, groupEntries().value(QStringLiteral("OlvGridLayout")).toString());
     QTimer::singleShot(settlingTime, this, &DesignerProbe::report);
+}
+
+void DesignerProbe::useMenus()
+{
+    QDesignerFormWindowInterface *form = m_core->formWindowManager()->activeFormWindow();
+    const QString tile = QStringLiteral("olvIconButton");
+    const QString glyph = QStringLiteral("Change glyph...");
+    const QString color = QStringLiteral("Change colour...");
+    const auto glyphOfTile = [&] {
+        return int(DesignerHand::find(m_core, tile)->property("icon").toChar().unicode());
+    };
+    QJsonObject seen;
+    form->setDirty(false);
+    // neither a character nor a code at first
+    seen.insert(QStringLiteral("dialogs"),
+                DesignerHand::choose(m_core, tile, glyph,
+                                     { QStringLiteral("star"), QStringLiteral("f005") }));
+    seen.insert(QStringLiteral("isDirty"), form->isDirty());
+    form->commandHistory()->undo();
+    seen.insert(QStringLiteral("undone"), glyphOfTile());
+    form->commandHistory()->redo();
+    seen.insert(QStringLiteral("redone"), glyphOfTile());
+    const int commands = form->commandHistory()->count();
+    DesignerHand::choose(m_core, tile, glyph, {});
+    DesignerHand::choose(m_core, tile, color, {});
+    seen.insert(QStringLiteral("cancelled"), form->commandHistory()->count() - commands);
+
+    DesignerHand::choose(m_core, tile, color, { QStringLiteral("#80112233") });
+    DesignerHand::choose(m_core, QStringLiteral("olvFlexWidget"), color,
+                         { QStringLiteral("#ff445566") });
+    DesignerHand::choose(m_core, QStringLiteral("olvSimpleIconButton"), glyph,
+                         { QStringLiteral("U+F006") });
+    DesignerHand::choose(m_core, QStringLiteral("olvLineEdit"), glyph, { QStringLiteral("@") });
+    m_seen.insert(QStringLiteral("menus"), seen);
 }
 
 bool DesignerProbe::eventFilter(QObject *watched, QEvent *event)
@@ -77,18 +149,19 @@ bool DesignerProbe::eventFilter(QObject *watched, QEvent *event)
 
 void DesignerProbe::report()
 {
-    const QDesignerFormWindowInterface *form = m_core->formWindowManager()->activeFormWindow();
-    QGuiApplication::primaryScreen()->grabWindow(0).save(reportPath("designer.png"));
+    QDesignerFormWindowInterface *form = m_core->formWindowManager()->activeFormWindow();
     write("form.ui", form->contents().toUtf8());
-    QJsonObject seen;
-    seen.insert(QStringLiteral("box"), widgetBox());
-    seen.insert(QStringLiteral("form"), formProperties());
+    m_seen.insert(QStringLiteral("box"), widgetBox());
+    m_seen.insert(QStringLiteral("drops"), groupEntries());
+    m_seen.insert(QStringLiteral("tips"), groupTips());
+    m_seen.insert(QStringLiteral("form"), formProperties());
+    m_seen.insert(QStringLiteral("entries"), menuEntries());
     if (m_edited) {
-        seen.insert(QStringLiteral("editedColor"), m_edited->property("color").toString());
-        seen.insert(QStringLiteral("paintings"), m_paintings);
+        m_seen.insert(QStringLiteral("editedColor"), m_edited->property("color").toString());
+        m_seen.insert(QStringLiteral("paintings"), m_paintings);
     }
-    write("report.json", QJsonDocument(seen).toJson());
-    m_core->formWindowManager()->activeFormWindow()->setDirty(false);
+    write("report.json", QJsonDocument(m_seen).toJson());
+    form->setDirty(false);
     QApplication::closeAllWindows();
 }
 
@@ -133,16 +206,45 @@ QJsonObject DesignerProbe::formProperties() const
     return classes;
 }
 
-/** Scrolls the widget box to the group, so that the picture shows it. */
-void DesignerProbe::showGroup() const
+/** What each entry of the plugin's group drops into a form, by its name. */
+QJsonObject DesignerProbe::groupEntries() const
 {
-    auto *tree = m_core->widgetBox()->findChild<QTreeWidget *>();
-    for (int i = 0; tree && i < tree->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *item = tree->topLevelItem(i);
-        const bool isOurs = item->text(0) == QLatin1String("OlvWidgets");
-        item->setExpanded(isOurs);
-        if (isOurs) {
-            tree->scrollToItem(item, QAbstractItemView::PositionAtTop);
+    QJsonObject entries;
+    const QDesignerWidgetBoxInterface *box = m_core->widgetBox();
+    for (int i = 0; i < box->categoryCount(); ++i) {
+        const QDesignerWidgetBoxInterface::Category category = box->category(i);
+        for (int j = 0; category.name() == ourGroup() && j < category.widgetCount(); ++j) {
+            entries.insert(category.widget(j).name(), category.widget(j).domXml());
         }
     }
+    return entries;
+}
+
+/** What the widget box shows as the tool tip of each entry, by its name. */
+QJsonObject DesignerProbe::groupTips() const
+{
+    QJsonObject tips;
+    const QList<QListView *> lists = m_core->widgetBox()->findChildren<QListView *>();
+    for (const QListView *list : lists) {
+        for (int i = 0; i < list->model()->rowCount(); ++i) {
+            const QModelIndex entry = list->model()->index(i, 0);
+            tips.insert(entry.data().toString(), entry.data(Qt::ToolTipRole).toString());
+        }
+    }
+    return tips;
+}
+
+/** What the plugin adds to the context menus of the widgets that it has dropped, by their names. */
+QJsonObject DesignerProbe::menuEntries() const
+{
+    QJsonObject entries;
+    const QWidget *form = m_core->formWindowManager()->activeFormWindow()->mainContainer();
+    const QList<QWidget *> widgets = form->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const QStringList menu = DesignerHand::menuOf(m_core, widget->objectName());
+        if (widget->objectName().startsWith(QLatin1String("olv")) && !menu.isEmpty()) {
+            entries.insert(widget->objectName(), QJsonArray::fromStringList(menu));
+        }
+    }
+    return entries;
 }

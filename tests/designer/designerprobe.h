@@ -2,14 +2,13 @@
 #pragma once
 
 #include <QIcon>
+#include <QJsonObject>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
-
-class QJsonObject;
 
 /** Every plugin of Designer's stands for a class. */
 class ProbeWidget : public QWidget
@@ -22,7 +21,7 @@ public:
 
 /**
  * A plugin that offers nothing, and looks at Designer from within: once a form is open, it writes
- * what it sees to the folder that OLV_DESIGNER_REPORT names, and quits Designer.
+ * what it sees to the folder that OLV_DESIGNER_REPORT names, edits the form, and quits Designer.
  */
 class DesignerProbe : public QObject, public QDesignerCustomWidgetInterface
 {
@@ -76,14 +75,19 @@ public:
 
 private:
     void look();
+    void takePicture();
     void edit();
+    void useMenus();
     void report();
     QJsonObject widgetBox() const;
     QJsonObject formProperties() const;
-    void showGroup() const;
+    QJsonObject groupEntries() const;
+    QJsonObject groupTips() const;
+    QJsonObject menuEntries() const;
 
     QPointer<QDesignerFormEditorInterface> m_core;
     QTimer m_timer;
     QPointer<QWidget> m_edited;
     int m_paintings = 0;
+    QJsonObject m_seen;
 };

@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+#include <QTest>
+QTEST_MAIN(QObject)
