@@ -99,8 +99,8 @@ QStringList DesignerHand::menuOf(QDesignerFormEditorInterface *core, const QStri
 int DesignerHand::choose(QDesignerFormEditorInterface *core, const QString &name,
                          const QString &entry, QStringList answers)
 {
-    // When a dialog closes, Qt asks what lies under the pointer: no frame of the dialog's own, which
-    // the window manager is about to take away.
+    // When a dialog closes, Qt asks what lies under the pointer: no frame of the dialog's own,
+    // which the window manager is about to take away.
     QCursor::setPos(0, 0);
     int count = 0;
     QTimer timer;

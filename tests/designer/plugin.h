@@ -18,6 +18,18 @@ inline QList<QDesignerCustomWidgetInterface *> pluginWidgets()
     return collection ? collection->customWidgets() : QList<QDesignerCustomWidgetInterface *>();
 }
 
+/** The one for the class @p name; null when there is none. */
+inline QDesignerCustomWidgetInterface *pluginWidget(const QString &name)
+{
+    const QList<QDesignerCustomWidgetInterface *> widgets = pluginWidgets();
+    for (QDesignerCustomWidgetInterface *widget : widgets) {
+        if (widget->name() == name) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
 /** The dynamic properties that a form sets when a widget is dropped into it. */
 inline QStringList dynamicProperties(const QString &domXml)
 {

@@ -79,17 +79,6 @@ const QVector<Place> &places()
     return all;
 }
 
-QString domXmlOf(const QString &className)
-{
-    const QList<QDesignerCustomWidgetInterface *> plugins = pluginWidgets();
-    for (QDesignerCustomWidgetInterface *plugin : plugins) {
-        if (plugin->name() == className) {
-            return plugin->domXml();
-        }
-    }
-    return QString();
-}
-
 QString geometryElement(const QRect &geometry)
 {
     return QStringLiteral("<property name=\"geometry\"><rect><x>%1</x><y>%2</y><width>%3</width>"
@@ -106,7 +95,9 @@ QString placed(const QString &className, const QRect &geometry)
     static const QRegularExpression element(QStringLiteral("<widget.*</widget>"));
     static const QRegularExpression place(
         QStringLiteral("<property name=\"geometry\">.*?</property>"));
-    return element.match(domXmlOf(className)).captured().replace(place, geometryElement(geometry));
+    return element.match(pluginWidget(className)->domXml())
+        .captured()
+        .replace(place, geometryElement(geometry));
 }
 
 /** A form into which each widget has been dropped once, the grid inside its viewport. */
@@ -146,7 +137,7 @@ void TestDesignerOnServer::initTestCase()
     const QString form = m_folder.filePath(QStringLiteral("settings.ui"));
     write(form, formOfEveryWidget());
     write(m_folder.filePath(QStringLiteral("bare.ui")),
-          domXmlOf(QStringLiteral("OlvGridLayout")).toUtf8());
+          pluginWidget(QStringLiteral("OlvGridLayout"))->domXml().toUtf8());
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"),
@@ -309,6 +300,8 @@ void TestDesignerOnServer::savesFormsThatUicCompilesWithAHeaderOfEachClass()
         const QByteArray include = "#include " + plugin->includeFile().toUtf8() + '\n';
         QVERIFY2(code.contains(include), include.constData());
     }
+    QVERIFY(code.contains("viewport_2 = new QWidget(Settings)"));
+    QVERIFY(code.contains("olvGridLayout_3 = new OlvGridLayout(viewport_2)"));
     QVERIFY(code.contains("olvIconButton->setProperty(\"family\", "
                           "QVariant(QString::fromUtf8(\"FontAwesome\")))"));
     QVERIFY(
@@ -347,11 +340,16 @@ void TestDesignerOnServer::dropsTheGridInsideAViewport()
 {
     const auto *grid = m_saved->findChild<OlvGridLayout *>(QStringLiteral("olvGridLayout_3"));
     QVERIFY(grid);
-    const QWidget *viewport = grid->parentWidget();
+    QWidget *viewport = grid->parentWidget();
     QCOMPARE(QString::fromLatin1(viewport->metaObject()->className()), QStringLiteral("QWidget"));
     QCOMPARE(viewport->parentWidget(), m_saved.get());
     QCOMPARE(viewport->size(), grid->size());
     QCOMPARE(grid->property("isSubWindow"), QVariant(false));
+    m_saved->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_saved.get()));
+    viewport->resize(300, 120);
+    QTRY_COMPARE(grid->width(), 300);
+    QCOMPARE(grid->height(), 120);
 }
 
 QTEST_MAIN(TestDesignerOnServer)

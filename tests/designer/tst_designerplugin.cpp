@@ -39,17 +39,6 @@ const QVector<QPair<QString, QStringList>> &expected()
     return classes;
 }
 
-QDesignerCustomWidgetInterface *plugin(const QString &name)
-{
-    const QList<QDesignerCustomWidgetInterface *> widgets = pluginWidgets();
-    for (QDesignerCustomWidgetInterface *widget : widgets) {
-        if (widget->name() == name) {
-            return widget;
-        }
-    }
-    return nullptr;
-}
-
 int paintedPixels(const QImage &image)
 {
     int count = 0;
@@ -130,7 +119,7 @@ void TestDesignerPlugin::describesTheWidget_data()
 void TestDesignerPlugin::describesTheWidget()
 {
     QFETCH(QString, name);
-    const auto *widget = plugin(name);
+    const auto *widget = pluginWidget(name);
     QVERIFY(widget);
     QCOMPARE(widget->group(), QStringLiteral("OlvWidgets"));
     QVERIFY(widget->toolTip().size() > 10);
@@ -173,7 +162,7 @@ void TestDesignerPlugin::setsTheDynamicPropertiesThatTheWidgetReads()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, properties);
-    QCOMPARE(dynamicProperties(plugin(name)->domXml()), properties);
+    QCOMPARE(dynamicProperties(pluginWidget(name)->domXml()), properties);
 }
 
 void TestDesignerPlugin::makesTheWidgetWithASensibleSize_data()
@@ -189,7 +178,7 @@ void TestDesignerPlugin::makesTheWidgetWithASensibleSize()
     loader.clearPluginPaths();
     loader.addPluginPath(QStringLiteral(OLV_PLUGINS "/designer"));
     QBuffer form;
-    form.setData(plugin(name)->domXml().toUtf8());
+    form.setData(pluginWidget(name)->domXml().toUtf8());
     QVERIFY(form.open(QIODevice::ReadOnly));
     QWidget parent; // the grid would resize its window
     QWidget viewport(&parent);
