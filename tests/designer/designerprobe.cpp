@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QTreeWidget>
 #include <QUndoStack>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerPropertyEditorInterface>
@@ -104,6 +105,9 @@ void DesignerProbe::edit()
                        QRect(24, 272, 250, 90));
     DesignerHand::paste(m_core, QString::fromUtf8(read("bare.ui")));
     DesignerHand::paste(m_core, groupEntries().value(QStringLiteral("OlvGridLayout")).toString());
+    QDesignerFormWindowInterface *form = m_core->formWindowManager()->activeFormWindow();
+    form->cursor()->setWidgetProperty(form->mainContainer(), QStringLiteral("geometry"),
+                                      QRect(0, 0, 600, 420));
     QTimer::singleShot(settlingTime, this, &DesignerProbe::report);
 }
 
