@@ -2,13 +2,11 @@
 #include "plugin.h"
 
 #include <QBuffer>
-#include <QEventLoop>
 #include <QFile>
 #include <QIcon>
 #include <QImage>
 #include <QSet>
 #include <QTest>
-#include <QTimer>
 #include <QUiLoader>
 #include <QWidget>
 
@@ -74,10 +72,7 @@ private:
 
 void TestDesignerPlugin::cleanup()
 {
-    // what a panel has put off to the event loop is no leak once that has run
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
+    runPutOffWork();
 }
 
 void TestDesignerPlugin::addClasses()

@@ -5,9 +5,7 @@
 
 #include <OlvWidgets/OlvWidgets>
 
-#include <QEventLoop>
 #include <QTest>
-#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -118,10 +116,7 @@ private:
 
 void TestNewWidgets::cleanup()
 {
-    // what a panel has put off to the event loop is no leak once that has run
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
+    runPutOffWork();
 }
 
 void TestNewWidgets::addClasses()

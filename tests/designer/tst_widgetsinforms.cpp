@@ -28,6 +28,7 @@ class TestWidgetsInForms : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup();
     void haveThePoliciesAndLeastSizesThatLayoutsNeed_data();
     void haveThePoliciesAndLeastSizesThatLayoutsNeed();
     void fillALayoutAtItsLeastSize_data();
@@ -37,6 +38,11 @@ private Q_SLOTS:
     void slideTheKnobOnceTheFormIsLoaded();
     void makeAGridOnAFormActAsAWindow();
 };
+
+void TestWidgetsInForms::cleanup()
+{
+    runPutOffWork();
+}
 
 void TestWidgetsInForms::haveThePoliciesAndLeastSizesThatLayoutsNeed_data()
 {
