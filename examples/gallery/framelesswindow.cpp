@@ -103,6 +103,7 @@ void FramelessWindow::setFlag(Qt::WindowType flag, bool on)
 {
     const QPoint place = pos();
     setWindowFlags(on ? windowFlags() | flag : (windowFlags() & ~flag) | Qt::Window);
+    setAttribute(Qt::WA_QuitOnClose); // which Qt takes from a tool window
     // a change of its flags hides a window
     move(place);
     show();
