@@ -1,32 +1,44 @@
 // SPDX-License-Identifier: MIT
-// Sticky notes: floating panels that keep on top, that the user drags by their rims and resizes,
-// and that come back with their texts.
+// Sticky notes: floating panels that keep on top, that the user drags by their rims and resizes.
+// Each is stored whenever it changes, and so comes back however the program has ended.
 #include <OlvFlexWidget>
 #include <OlvGlobal>
 #include <OlvSimpleIconButton>
 
-#include <QApplication>
-#include <QDir>
-#include <QHBoxLayout>
-#include <QPlainTextEdit>
-#include <QSettings>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 class Note : public OlvFlexWidget
 {
     Q_OBJECT
 
 public:
-    explicit Note(const QString &text)
+    static void open(const QString &key, QPoint place)
+    {
+        auto *note = new Note(key);
+        note->setAttribute(Qt::WA_DeleteOnClose);
+        note->stay(StayTop); // shows it
+        note->move(note->m_settings.value(QStringLiteral("place"), place).toPoint());
+    }
+
+protected:
+    void moveEvent(QMoveEvent * /*event*/) override
+    {
+        m_settling.start();
+    }
+
+private:
+    explicit Note(const QString &key)
         : OlvFlexWidget(260, 220)
-        , m_text(new QPlainTextEdit(text))
+        , m_text(new QPlainTextEdit)
     {
         setWindowTitle(tr("Note"));
         setHeaderWay(HeaderTop, QColor(255, 193, 7));
+        m_settings.beginGroup(key);
+        m_text->setAccessibleName(tr("Text"));
         m_text->setPlaceholderText(tr("Do not forget …"));
         m_text->setStyleSheet(QStringLiteral("border: none; background: transparent;"
                                              "font-size: 15px; color: rgb(48,49,51);"));
-
+        m_text->setPlainText(m_settings.value(QStringLiteral("text")).toString());
         auto *buttons = new QHBoxLayout;
         auto *pin = addButton(buttons, 0xf08d, tr("Keep on top"));
         buttons->addStretch();
@@ -38,6 +50,7 @@ public:
         layout->addLayout(buttons);
         layout->addWidget(m_text, 1);
 
+        pin->setCheckable(true);
         pin->setToggle(QChar(0xf08d)); // the same glyph, dark while it is checked
         pin->setChecked(true);
         connect(pin, &QPushButton::clicked, this, [=](bool on) {
@@ -45,48 +58,40 @@ public:
             stay(on ? StayTop : StayNormal);
             move(place);
         });
-        connect(add, &QPushButton::clicked, this, [=] { open(QString(), pos() + offset()); });
-        connect(remove, &QPushButton::clicked, this, [=] {
-            m_text->clear(); // an empty note is not kept
-            close();
-        });
+        connect(add, &QPushButton::clicked, this,
+                [=] { open(QUuid::createUuid().toString(), pos() + QPoint(40, 40)); });
+        connect(remove, &QPushButton::clicked, m_text, &QPlainTextEdit::clear);
+        connect(remove, &QPushButton::clicked, this, &QWidget::close);
+        connect(m_text, &QPlainTextEdit::textChanged, this, &Note::store);
+        m_settling.setSingleShot(true); // a drag moves the note many times
+        m_settling.setInterval(200);
+        connect(&m_settling, &QTimer::timeout, this, &Note::store);
     }
 
-    static void open(const QString &text, QPoint place)
-    {
-        auto *note = new Note(text);
-        note->setAttribute(Qt::WA_DeleteOnClose);
-        note->stay(StayTop); // shows it
-        note->move(place);
-    }
-
-    static QPoint offset()
-    {
-        return { 40, 40 };
-    }
-
-protected:
-    void closeEvent(QCloseEvent * /*event*/) override
-    {
-        if (!m_text->toPlainText().isEmpty()) {
-            QSettings settings;
-            const QStringList texts = settings.value(QStringLiteral("notes")).toStringList();
-            settings.setValue(QStringLiteral("notes"), texts + QStringList(m_text->toPlainText()));
-        }
-    }
-
-private:
     OlvSimpleIconButton *addButton(QHBoxLayout *row, ushort glyph, const QString &tip)
     {
         auto *button =
             new OlvSimpleIconButton(QChar(glyph), QFont(QStringLiteral("FontAwesome"), 11));
+        button->setCheckable(false); // it comes checkable
         button->setFixedSize(22, 22);
         button->setToolTip(tip);
         row->addWidget(button);
         return button;
     }
 
+    void store()
+    {
+        m_settings.remove(QString()); // an empty note is not kept
+        if (!m_text->toPlainText().isEmpty()) {
+            m_settings.setValue(QStringLiteral("text"), m_text->toPlainText());
+            m_settings.setValue(QStringLiteral("place"), pos());
+        }
+        m_settings.sync();
+    }
+
     QPlainTextEdit *m_text;
+    QSettings m_settings;
+    QTimer m_settling;
 };
 
 int main(int argc, char **argv)
@@ -99,17 +104,12 @@ int main(int argc, char **argv)
     while (!OlvGlobal::isReady()) {
         QApplication::processEvents();
     }
-
-    QSettings settings;
-    QStringList texts = settings.value(QStringLiteral("notes")).toStringList();
-    settings.remove(QStringLiteral("notes")); // each note that is closed with a text comes back
-    if (texts.isEmpty()) {
-        texts.append(QString());
+    QStringList keys = QSettings().childGroups();
+    if (keys.isEmpty()) {
+        keys.append(QUuid::createUuid().toString());
     }
-    QPoint place(120, 90);
-    for (const QString &text : qAsConst(texts)) {
-        Note::open(text, place);
-        place += Note::offset();
+    for (const QString &key : qAsConst(keys)) {
+        Note::open(key, { 120, 90 });
     }
     return QApplication::exec();
 }
