@@ -5,12 +5,27 @@
 #include <OlvSlider>
 #include <OlvSwitch>
 
-#include <QApplication>
-#include <QDialog>
-#include <QGridLayout>
-#include <QHash>
-#include <QLabel>
-#include <QSettings>
+#include <QtWidgets>
+
+/** A switch whose value is what the user wants, while its knob is still on the way there. */
+class SettingSwitch : public OlvSwitch
+{
+public:
+    QVariant getValue() override
+    {
+        return m_wanted;
+    }
+    void setValue(const QVariant &value) override
+    {
+        if (m_wanted == OlvSwitch::getValue().toBool()) { // it takes no other value on the way
+            m_wanted = value.toBool();
+            OlvSwitch::setValue(value);
+        }
+    }
+
+private:
+    bool m_wanted = false;
+};
 
 /** A slider that tells its value while it is dragged, and opens with its knob at the value. */
 class VolumeSlider : public OlvSlider
@@ -25,11 +40,8 @@ public:
 protected:
     void showEvent(QShowEvent * /*event*/) override
     {
-        for (QObject *child : children()) {
-            if (auto *knob = dynamic_cast<SliderRound *>(child)) {
-                const int inset = (height() - knob->height()) / 2;
-                knob->move(inset + getValue().toInt() * knob->maxX() / 100, inset);
-            }
+        if (auto *knob = dynamic_cast<SliderRound *>(findChild<QWidget *>())) {
+            knob->move(knob->y() + getValue().toInt() * knob->maxX() / 100, knob->y());
         }
     }
 };
@@ -40,52 +52,43 @@ class SettingsDialog : public QDialog
 
 public:
     SettingsDialog()
-        : m_layout(new QGridLayout(this))
+        : m_form(new QFormLayout(this))
     {
         setWindowTitle(tr("Settings"));
         setStyleSheet(QStringLiteral("QDialog { background: white; }"
-                                     "QLabel { color: rgb(48,49,51); font-size: 13px; }"
-                                     "QLabel#title { font-size: 20px; font-weight: bold; }"));
-        m_layout->setContentsMargins(28, 24, 28, 24);
-        m_layout->setHorizontalSpacing(48);
-        m_layout->setVerticalSpacing(18);
-        auto *title = new QLabel(tr("Settings"));
-        title->setObjectName(QStringLiteral("title"));
-        m_layout->addWidget(title, 0, 0, 1, 2);
+                                     "QLabel { color: rgb(48,49,51); font-size: 13px; }"));
+        m_form->setContentsMargins(28, 24, 28, 24);
+        m_form->setHorizontalSpacing(48);
+        m_form->setVerticalSpacing(18);
+        m_form->addRow(new QLabel(QStringLiteral("<h2>%1</h2>").arg(windowTitle())));
 
         auto *name = new OlvLineEdit;
         name->setPlaceholderText(tr("as others see you"));
         bind(tr("Display name"), QStringLiteral("name"), name, { 220, 26 }, QString());
-        bind(tr("Notifications"), QStringLiteral("notify"), new OlvSwitch, { 50, 24 }, true);
-        bind(tr("Start with the desktop"), QStringLiteral("autostart"), new OlvSwitch, { 50, 24 },
-             false);
+        bind(tr("Notifications"), QStringLiteral("notify"), new SettingSwitch, { 50, 24 }, true);
+        bind(tr("Start with the desktop"), QStringLiteral("autostart"), new SettingSwitch,
+             { 50, 24 }, false);
         auto *volume = new VolumeSlider;
-        auto *percent = new QLabel;
-        connect(volume, &OlvWidget::valueChanged, percent, [=](const QVariant &value) {
-            percent->setText(tr("Volume: %1 %").arg(value.toInt()));
-        });
-        bind(percent, QStringLiteral("volume"), volume, { 220, 30 }, 60);
+        bind(tr("Volume"), QStringLiteral("volume"), volume, { 220, 30 }, 60);
+        auto *label = qobject_cast<QLabel *>(m_form->labelForField(volume));
+        const auto showVolume = [=](const QVariant &value) {
+            label->setText(tr("Volume: %1 %").arg(value.toInt()));
+        };
+        connect(volume, &OlvWidget::valueChanged, label, showVolume);
+        showVolume(volume->getValue());
 
         auto *save = new OlvButton(tr("Save"));
         save->setFixedSize(96, 32);
+        connect(save, &OlvButton::clicked, this, &SettingsDialog::save);
         connect(save, &OlvButton::clicked, this, &QDialog::accept);
-        m_layout->addWidget(save, m_layout->rowCount(), 1, Qt::AlignRight);
-        connect(this, &QDialog::accepted, this, &SettingsDialog::save);
+        m_form->addRow(QString(), save);
     }
 
 private:
     void bind(const QString &label, const QString &key, OlvWidget *widget, QSize size,
               const QVariant &preset)
     {
-        bind(new QLabel(label), key, widget, size, preset);
-    }
-
-    void bind(QLabel *label, const QString &key, OlvWidget *widget, QSize size,
-              const QVariant &preset)
-    {
-        const int row = m_layout->rowCount();
-        m_layout->addWidget(label, row, 0);
-        m_layout->addWidget(widget, row, 1, Qt::AlignRight);
+        m_form->addRow(label, widget); // the label names the widget for screen readers as well
         widget->setObjectName(key);
         widget->setFixedSize(size);
         widget->setValue(m_settings.value(key, preset));
@@ -100,7 +103,7 @@ private:
     }
 
     QSettings m_settings;
-    QGridLayout *m_layout;
+    QFormLayout *m_form;
     QHash<QString, OlvWidget *> m_widgets;
 };
 
