@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A text editor in a window without a frame: the control bar acts on it, the move helper moves it
-// by its header, the resize helper resizes it by its edges.
-#include <OlvControlBar>
-#include <OlvGlobal>
-#include <OlvMoveWidget>
-#include <OlvResizeWidget>
+// A text editor in a window without a frame: a bar acts on it, helpers move it and resize it.
+#include <OlvWidgets/frame.h>
 
-#include <QApplication>
-#include <QBoxLayout>
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
-#include <QLabel>
-#include <QPlainTextEdit>
+#include <QtWidgets>
 
-class EditorWindow : public QWidget
+class EditorWindow : public QFrame
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(EditorWindow)
 
 public:
     EditorWindow()
@@ -26,49 +16,44 @@ public:
     {
         setWindowTitle(tr("Editor"));
         setWindowFlags(Qt::FramelessWindowHint);
-        setAttribute(Qt::WA_StyledBackground);
-        setStyleSheet(
-            QStringLiteral("EditorWindow { border: 1px solid rgb(207,207,207); }"
-                           "QPlainTextEdit { border: none; padding: 8px; background: white; }"));
-
+        setFrameShape(QFrame::StyledPanel);
+        m_text->setStyleSheet(QStringLiteral("border: none; padding: 8px; background: white;"));
+        m_text->setAccessibleName(tr("Text"));
         // float, bottom, top, minimise, maximise, close; restore; then the buttons of this program
         const QList<QChar> glyphs{ 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0,
                                    0xf00d, 0xf2d2, 0xf07c, 0xf0c7 };
         auto *bar = new OlvControlBar(glyphs, nullptr, { tr("Open"), tr("Save") });
         connect(bar, &OlvControlBar::changed, this, &EditorWindow::change);
-        connect(bar, &OlvControlBar::custom, this, [this](int i) { i == 0 ? open() : save(); });
-
+        connect(bar, &OlvControlBar::custom, this, [=](int i) { i == 0 ? open() : void(save()); });
         auto *title = new QLabel(tr("Editor"));
         title->setAttribute(Qt::WA_TransparentForMouseEvents); // the header below it is dragged
-        auto *header = new QHBoxLayout;
-        header->setContentsMargins(16, 6, 8, 0);
-        header->addWidget(title);
-        header->addWidget(bar, 1);
-        auto *layout = new QVBoxLayout(this);
-        layout->setContentsMargins(1, 0, 1, 1);
-        layout->addLayout(header);
-        layout->addWidget(m_text, 1);
+        title->setIndent(16);
+        connect(this, &QWidget::windowTitleChanged, title, &QLabel::setText);
+        auto *layout = new QGridLayout(this);
+        layout->setContentsMargins(0, 6, 0, 0);
+        layout->addWidget(title, 0, 0);
+        layout->addWidget(bar, 0, 1);
+        layout->addWidget(m_text, 1, 0, 1, 2);
     }
 
-protected:
+private:
     void resizeEvent(QResizeEvent * /*event*/) override
     {
         m_mover->setMoveArea(QRect(0, 0, width(), m_text->y()));
         m_resizer->reset();
     }
+    void closeEvent(QCloseEvent *event) override
+    {
+        event->setAccepted(mayLoseText());
+    }
 
-private:
     void change(OlvControlBar::WindowState state, bool on)
     {
         const QPoint place = pos();
         switch (state) {
         case OlvControlBar::Float:
             setWindowFlag(Qt::Tool, on);
-            break;
-        case OlvControlBar::Bottom:
-        case OlvControlBar::Top: // the bar unchecks the other one
-            setWindowFlag(Qt::WindowStaysOnBottomHint, on && state == OlvControlBar::Bottom);
-            setWindowFlag(Qt::WindowStaysOnTopHint, on && state == OlvControlBar::Top);
+            setAttribute(Qt::WA_QuitOnClose); // which Qt takes from a tool window
             break;
         case OlvControlBar::Min:
             return showMinimized();
@@ -76,25 +61,47 @@ private:
             return on ? showMaximized() : showNormal();
         case OlvControlBar::Close:
             return void(close());
+        default: // the bar unchecks the other one
+            setWindowFlag(Qt::WindowStaysOnBottomHint, on && state == OlvControlBar::Bottom);
+            setWindowFlag(Qt::WindowStaysOnTopHint, on && state == OlvControlBar::Top);
         }
         move(place);
         show(); // a change of its flags hides a window
     }
 
+    bool mayLoseText()
+    {
+        const auto answer = m_text->document()->isModified()
+            ? QMessageBox::question(this, windowTitle(), tr("Save the changes?"),
+                                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)
+            : QMessageBox::Discard;
+        return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+    }
+
     void open()
     {
-        QFile file(QFileDialog::getOpenFileName(this));
-        if (file.open(QIODevice::ReadOnly)) {
+        QFile file(mayLoseText() ? QFileDialog::getOpenFileName(this) : QString());
+        if (!file.fileName().isEmpty() && file.open(QIODevice::ReadOnly)) {
             m_text->setPlainText(QString::fromUtf8(file.readAll()));
+            setWindowFilePath(file.fileName());
+            setWindowTitle(QFileInfo(file.fileName()).fileName());
         }
     }
 
-    void save()
+    bool save()
     {
-        QFile file(QFileDialog::getSaveFileName(this));
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(m_text->toPlainText().toUtf8());
+        const QString name = windowFilePath();
+        QSaveFile file(name.isEmpty() ? QFileDialog::getSaveFileName(this) : name);
+        const bool saved = !file.fileName().isEmpty() && file.open(QIODevice::WriteOnly)
+            && file.write(m_text->toPlainText().toUtf8()) >= 0 && file.commit();
+        if (saved) {
+            setWindowFilePath(file.fileName());
+            setWindowTitle(QFileInfo(file.fileName()).fileName());
+            m_text->document()->setModified(false);
+        } else if (!file.fileName().isEmpty()) {
+            QMessageBox::warning(this, windowTitle(), file.errorString());
         }
+        return saved;
     }
 
     QPlainTextEdit *m_text;
@@ -105,15 +112,8 @@ private:
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    QDir::setCurrent(QApplication::applicationDirPath()); // where "Font" and "fonts" lie
-    OlvGlobal::init();
-    while (!OlvGlobal::isReady()) {
-        QApplication::processEvents();
-    }
     EditorWindow window;
     window.resize(640, 420);
     window.show();
     return QApplication::exec();
 }
-
-#include "main.moc"
