@@ -15,7 +15,7 @@ bench_packages=(libbenchmark-dev python3 python3-matplotlib valgrind)
 docs_packages=(doxygen qttools5-dev-tools)
 display_packages=(xvfb openbox x11-utils)
 # what scripts/pictures needs besides
-picture_packages=(optipng xdotool)
+picture_packages=(optipng xdotool imagemagick picom hsetroot)
 test_packages=(
     "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev
     qtbase5-private-dev at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
