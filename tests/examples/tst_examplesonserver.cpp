@@ -69,10 +69,16 @@ void TestExamplesOnServer::launcherStartsTheProgramThatIsDoubleClicked()
     QVERIFY(launcher.start({}, launcher.path(QStringLiteral("bin"))));
     QTRY_VERIFY_WITH_TIMEOUT(launcher.findWindow(QStringLiteral("Launcher")), patience);
     QTRY_VERIFY_WITH_TIMEOUT(colorCount(launcher.picture()) > 20, patience);
-    launcher.click({ 60, 60 });
-    launcher.input().click();
-    QTRY_COMPARE_WITH_TIMEOUT(launcher.read(QStringLiteral("browser")), QByteArray("started\n"),
-                              patience);
+    // on a busy machine two clicks may come too late after each other
+    const auto hasStarted = [&] {
+        return launcher.read(QStringLiteral("browser")) == "started\n";
+    };
+    for (int tries = 5; tries > 0 && !hasStarted(); --tries) {
+        launcher.click({ 60, 60 });
+        launcher.input().click();
+        QTest::qWaitFor(hasStarted, 3000);
+    }
+    QVERIFY(hasStarted());
     launcher.close();
     QVERIFY(launcher.ends());
 }
