@@ -179,6 +179,9 @@ void TestSettingsDialog::switchIsStoredAsItWasClickedJustBefore()
     QTRY_VERIFY_WITH_TIMEOUT(isOn(-2), patience);
     const QPoint button = saveButton(m_dialog->picture()) + QPoint(10, 5);
     m_dialog->click(switchAt(row));
+    // Qt takes two presses for a double click where it has left out the motion between them
+    m_dialog->input().moveTo(m_dialog->geometry().topLeft() + button);
+    QTest::qWait(50);
     m_dialog->click(button);
     QVERIFY(m_dialog->ends());
     const QByteArray stored = m_dialog->read(store());
