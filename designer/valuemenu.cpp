@@ -94,7 +94,7 @@ void ValueMenu::ask(const KindProperty &property)
     QWidget *window = form->core()->topLevel();
     const QVariant value = asked.dialog == KindProperty::Glyph ? askForGlyph(window, current)
                                                                : askForColor(window, current);
-    if (self && value.isValid() && value != current) {
+    if (self && m_widget && value.isValid() && value != current) {
         set(asked, value);
     }
 }

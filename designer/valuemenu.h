@@ -4,6 +4,7 @@
 #include "widgetkind.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QtDesigner/QDesignerTaskMenuExtension>
 #include <QtDesigner/QExtensionFactory>
 
@@ -30,7 +31,7 @@ private:
     void ask(const KindProperty &property);
     void set(const KindProperty &property, const QVariant &value);
 
-    QWidget *const m_widget;
+    const QPointer<QWidget> m_widget;
     QList<QAction *> m_actions;
 };
 

@@ -117,7 +117,8 @@ bool WidgetPlugin::eventFilter(QObject *watched, QEvent *event)
 void WidgetPlugin::fillViewport(QWidget *viewport) const
 {
     const auto *form = QDesignerFormWindowInterface::findFormWindow(viewport);
-    if (!form || viewport == form->mainContainer()) {
+    // a preview has no form
+    if (viewport->isWindow() || (form && viewport == form->mainContainer())) {
         return;
     }
     for (QObject *child : viewport->children()) {

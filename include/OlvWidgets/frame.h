@@ -190,7 +190,8 @@ public:
  * | "max"    | QChar | the maximise button | its glyph while it is unchecked                    |
  * | "normal" | QChar | the maximise button | its glyph while it is checked: that of "restore"   |
  *
- * What is written there counts from the next click; an index that is no WindowState emits nothing.
+ * What is written there counts from the next click; a window button with an index that is no
+ * WindowState emits nothing.
  *
  * Accessibility: a tool bar of buttons, the checkable ones of which are check boxes. Each is called
  * by the accessible name that the application gives it, else by its tool tip. The actions "Press"

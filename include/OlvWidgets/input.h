@@ -45,9 +45,10 @@ class QLineEdit;
  * setPwdIcon() sets the glyphs.
  *
  * Accessibility: a group, called by its accessible name, else by a label whose buddy it is, else by
- * its tool tip. It has two parts: the text, a QLineEdit, which is called as the group is unless it
- * is given an accessible name of its own, and the password button, a check box called "显示密码"
- * unless it is given an accessible name or a tool tip. The action "SetFocus" leads to the text.
+ * its tool tip. It has two parts: the text, a QLineEdit, which is called as the group is, anew each
+ * time it gets the focus, unless it is given an accessible name of its own; and the password
+ * button, a check box called "显示密码" unless it is given an accessible name or a tool tip. The
+ * action "SetFocus" leads to the text.
  *
  * @code
  * auto *password = new OlvLineEdit(this);

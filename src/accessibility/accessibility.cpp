@@ -13,6 +13,8 @@
 #include "accessibility/accessibleswitch_p.h"
 
 #include <QApplication>
+#include <QPointer>
+#include <QVector>
 
 namespace {
 
@@ -92,10 +94,14 @@ class Activation : public QAccessible::ActivationObserver
 public:
     void accessibilityActiveChanged(bool active) override
     {
-        const QWidgetList widgets = QApplication::allWidgets();
-        for (QWidget *widget : widgets) {
-            auto *own =
-                dynamic_cast<AccessibleWidget *>(QAccessible::queryAccessibleInterface(widget));
+        QVector<QPointer<QWidget>> widgets;
+        for (QWidget *widget : QApplication::allWidgets()) {
+            widgets.append(widget); // whoever hears of a name may delete others
+        }
+        for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
+            auto *own = widget
+                ? dynamic_cast<AccessibleWidget *>(QAccessible::queryAccessibleInterface(widget))
+                : nullptr;
             if (own) {
                 own->setWatching(active);
             }
@@ -136,7 +142,12 @@ void Accessibility::prepare(QWidget *widget)
     // The constructor of a base class may have told of a change, as QWidget's does in a disabled
     // parent, and Qt then has made the interface of that class and would keep it.
     if (!widget->isEnabled() || QAccessible::isActive()) {
-        QAccessible::deleteAccessibleInterface(
-            QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
+        renew(widget);
     }
+}
+
+void Accessibility::renew(QWidget *widget)
+{
+    QAccessible::deleteAccessibleInterface(
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
 }

@@ -13,4 +13,7 @@ namespace Accessibility {
  */
 void prepare(QWidget *widget);
 
+/** Has Qt ask again for the interface of @p widget, which may have made another one already. */
+void renew(QWidget *widget);
+
 } // namespace Accessibility

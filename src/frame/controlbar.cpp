@@ -102,11 +102,10 @@ QList<QChar> OlvControlBar::formIcons()
 QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,
                                       const QString &tip)
 {
-    auto *button = new QPushButton(this);
-    button->setProperty(indexProperty, index);
-    Accessibility::prepare(button); // which goes by the index; the text is told from then on
-    button->setText(icon < icons.size() ? QString(icons.at(icon)) : QString());
+    auto *button = new QPushButton(icon < icons.size() ? QString(icons.at(icon)) : QString(), this);
     button->setFixedSize(buttonSize, buttonSize);
+    button->setProperty(indexProperty, index);
+    Accessibility::renew(button); // its text was told before it had the index
     button->setToolTip(tip);
     layout()->addWidget(button);
     button->setFont(QFont(QStringLiteral("FontAwesome"), glyphSize));
@@ -169,5 +168,8 @@ void OlvControlBar::tellMaximised(QPushButton *button)
     }
     const bool checked = button->isChecked();
     button->setText(button->property(checked ? restoreProperty : maximiseProperty).toString());
+    if (!guarded) { // by whoever heard of the text
+        return;
+    }
     button->setToolTip(checked ? QStringLiteral("还原") : QStringLiteral("最大化"));
 }

@@ -139,8 +139,11 @@ void OlvSwitch::step()
         const double step = property(moveWidthProperty).toDouble();
         round->move(truncated(on ? round->x() - step : round->x() + step), 0);
     }
+    const QPointer<OlvSwitch> self(this);
     setProperty(moveCountProperty, count + 1);
-    update();
+    if (self) {
+        update();
+    }
 }
 
 void OlvSwitch::finish(bool on)

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void maximiseTellsItsNewName();
     void exclusionIsTold();
     void survivesDeletionByItsSlots();
+    void survivesDeletionByWhoeverHearsOfItsGlyph();
     void otherPushButtonsAreAsQtHasThem();
     void glyphsAreNoNames_data();
     void glyphsAreNoNames();
@@ -165,6 +166,23 @@ void TestAccessibleGlyphButton::survivesDeletionByItsSlots()
     const QPointer<Bar> bar(new Bar);
     connect(bar, &OlvControlBar::changed, this, [&] { delete bar; });
     QVERIFY(act(bar->windowButton(OlvControlBar::Close), press()));
+    QVERIFY(!bar);
+}
+
+void TestAccessibleGlyphButton::survivesDeletionByWhoeverHearsOfItsGlyph()
+{
+    const Assistant assistant;
+    static QPointer<Bar> bar;
+    bar = new Bar;
+    QPushButton *button = bar->windowButton(OlvControlBar::Max);
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::NameChanged) {
+            delete bar;
+        }
+    });
+    const bool isPressed = act(button, press());
+    QAccessible::installUpdateHandler(before);
+    QVERIFY(isPressed);
     QVERIFY(!bar);
 }
 

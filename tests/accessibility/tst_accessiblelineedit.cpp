@@ -6,7 +6,11 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
+#include <QVector>
+
+#include <algorithm>
 
 class TestAccessibleLineEdit : public QObject
 {
@@ -18,6 +22,7 @@ private Q_SLOTS:
     void theTextKeepsTheNameThatTheApplicationGaveIt();
     void theFocusGoesToTheText();
     void standsTheEndOfTheText();
+    void standsTheEndOfAnotherAsItIsNamed();
 };
 
 namespace {
@@ -103,6 +108,32 @@ void TestAccessibleLineEdit::standsTheEndOfTheText()
     QVERIFY(QTest::qWaitForWindowActive(&edit));
     QVERIFY(act(&edit, QAccessibleActionInterface::setFocusAction()));
     QVERIFY(edit.hasFocus());
+}
+
+void TestAccessibleLineEdit::standsTheEndOfAnotherAsItIsNamed()
+{
+    static QVector<QPointer<OlvLineEdit>> edits;
+    const Assistant assistant;
+    for (int i = 0; i < 3; ++i) {
+        edits.append(new OlvLineEdit);
+        edits.last()->show();
+    }
+    QAccessible::setActive(false);
+    for (const QPointer<OlvLineEdit> &edit : qAsConst(edits)) {
+        edit->setAccessibleName(QStringLiteral("User"));
+    }
+    // the first text that gets its name, as somebody begins to look, ends all of them
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::NameChanged) {
+            for (const QPointer<OlvLineEdit> &edit : qAsConst(edits)) {
+                delete edit;
+            }
+        }
+    });
+    QAccessible::setActive(true);
+    QAccessible::installUpdateHandler(before);
+    QVERIFY(std::none_of(edits.cbegin(), edits.cend(),
+                         [](const QPointer<OlvLineEdit> &edit) { return !edit.isNull(); }));
 }
 
 QTEST_MAIN(TestAccessibleLineEdit)

@@ -25,6 +25,14 @@ QByteArray windowList()
     return outputOf(QStringLiteral("wmctrl"), { QStringLiteral("-l") });
 }
 
+/** 0 while there is none. */
+qulonglong activeWindow()
+{
+    return outputOf(QStringLiteral("xdotool"), { QStringLiteral("getactivewindow") })
+        .trimmed()
+        .toULongLong();
+}
+
 } // namespace
 
 ExampleProgram::ExampleProgram(const QString &program)
@@ -105,10 +113,13 @@ int ExampleProgram::windowCount() const
 
 bool ExampleProgram::isActive() const
 {
-    return outputOf(QStringLiteral("xdotool"), { QStringLiteral("getactivewindow") })
-               .trimmed()
-               .toULongLong()
-        == m_window;
+    return activeWindow() == m_window;
+}
+
+bool ExampleProgram::isAnotherActive() const
+{
+    const qulonglong active = activeWindow();
+    return active != 0 && active != m_window;
 }
 
 QRect ExampleProgram::geometry() const

@@ -33,6 +33,8 @@ public:
     /** How many windows the window manager has. */
     int windowCount() const;
     bool isActive() const;
+    /** Whether another window has the keyboard, a dialog of the program's for example. */
+    bool isAnotherActive() const;
     QRect geometry() const;
     /** What xprop says of a property of the window. */
     QByteArray property(const QString &name) const;

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr int listPatience = 90000; // milliseconds; longer than the program itself waits
+
 /** What another program finds on the accessibility bus. */
 QStringList listOfWidgets(qint64 processId)
 {
@@ -14,7 +16,10 @@ QStringList listOfWidgets(qint64 processId)
     list.start(QStringLiteral("/usr/bin/python3"),
                { QStringLiteral("-Wignore::DeprecationWarning"), QStringLiteral(OLV_LIST_WIDGETS),
                  QStringLiteral(OLV_ASSISTANT_FOLDER), QString::number(processId) });
-    list.waitForFinished(patience);
+    if (!list.waitForFinished(listPatience)) {
+        list.kill();
+        list.waitForFinished();
+    }
     return QString::fromUtf8(list.readAllStandardOutput())
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

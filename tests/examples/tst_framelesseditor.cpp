@@ -81,7 +81,7 @@ void TestFramelessEditor::write(const QString &text)
 /** Waits for a dialog, a question for example, over the window. */
 void TestFramelessEditor::awaitDialog()
 {
-    QTRY_VERIFY_WITH_TIMEOUT(hasWindows(2) && !m_editor->isActive(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasWindows(2) && m_editor->isAnotherActive(), patience);
 }
 
 /** Waits until there is the window alone again, called by that name now. */

@@ -72,7 +72,8 @@ void TestStickyNote::textIsStoredAsItIsWritten()
 void TestStickyNote::severalComeBackToTheirPlaces()
 {
     ExampleProgram notes(QStringLiteral(OLV_STICKYNOTE));
-    notes.write(store(), milkAndBread);
+    // what is none of a note's own goes when it stores itself, as it does once it has been moved
+    notes.write(store(), QByteArray(milkAndBread).replace("[a]\n", "[a]\nold=1\n"));
     QVERIFY(notes.start());
     QTRY_COMPARE_WITH_TIMEOUT(notes.windowCount(), 2, patience);
     const auto places = [&] {
@@ -84,8 +85,7 @@ void TestStickyNote::severalComeBackToTheirPlaces()
     };
     QTRY_VERIFY_WITH_TIMEOUT(
         places().contains(QPoint(200, 150)) && places().contains(QPoint(600, 300)), patience);
-    // time for them to store themselves, since they have been moved
-    QTest::qWait(500);
+    QTRY_COMPARE_WITH_TIMEOUT(notes.read(store()), QByteArray(milkAndBread), patience);
     notes.kill();
     QCOMPARE(notes.read(store()), QByteArray(milkAndBread));
 }
@@ -159,15 +159,18 @@ void TestStickyNote::pinKeepsItOnTopOrNot()
 {
     ExampleProgram note(QStringLiteral(OLV_STICKYNOTE));
     QVERIFY(note.start());
-    for (const bool onTop : { true, false, true }) {
+    for (int clicks = 0; clicks < 3; ++clicks) {
+        if (clicks > 0) {
+            QTRY_VERIFY_WITH_TIMEOUT(colorCount(note.picture()) > 20, patience);
+            note.click(pinButton);
+        }
+        const bool onTop = clicks != 1;
         const auto stays = [&] {
             return note.findWindow(title()) && note.geometry().topLeft() == QPoint(120, 90)
                 && note.property(QStringLiteral("_NET_WM_STATE")).contains("_NET_WM_STATE_ABOVE")
                 == onTop;
         };
         QTRY_VERIFY_WITH_TIMEOUT(stays(), patience);
-        QTRY_VERIFY_WITH_TIMEOUT(colorCount(note.picture()) > 20, patience);
-        note.click(pinButton);
     }
 }
 
