@@ -94,9 +94,10 @@ class Activation : public QAccessible::ActivationObserver
 public:
     void accessibilityActiveChanged(bool active) override
     {
-        QVector<QPointer<QWidget>> widgets;
-        for (QWidget *widget : QApplication::allWidgets()) {
-            widgets.append(widget); // whoever hears of a name may delete others
+        const QWidgetList all = QApplication::allWidgets();
+        QVector<QPointer<QWidget>> widgets; // whoever hears of a name may delete others
+        for (QWidget *widget : all) {
+            widgets.append(widget);
         }
         for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
             auto *own = widget
