@@ -17,13 +17,14 @@ void AccessibleLineEdit::doAction(const QString &name)
     }
 }
 
-void AccessibleLineEdit::nameParts(const QString &name)
+void AccessibleLineEdit::nameParts()
 {
-    QLineEdit *text = editor();
+    const QString name = text(QAccessible::Name);
+    QLineEdit *edit = editor();
     // a name that the application gave to the text stays
-    if (text && text->accessibleName() == m_given && name != m_given) {
+    if (edit && edit->accessibleName() == m_given && name != m_given) {
         m_given = name;
-        text->setAccessibleName(name);
+        edit->setAccessibleName(name);
     }
 }
 

@@ -17,7 +17,7 @@ public:
     void doAction(const QString &name) override;
 
 protected:
-    void nameParts(const QString &name) override;
+    void nameParts() override;
 
 private:
     QLineEdit *editor() const;

@@ -59,7 +59,7 @@ void AccessibleWidget::setWatching(bool watching)
     } else if (!m_told) {
         m_told = std::make_unique<Told>(this);
         watch(&m_told->watcher);
-        nameParts(name());
+        nameParts();
     }
 }
 
@@ -90,7 +90,7 @@ void AccessibleWidget::tellChanges()
         tellValue(valueBefore);
     }
     if (watcher) {
-        nameParts(name());
+        nameParts();
     }
 }
 
@@ -218,7 +218,7 @@ QVariant AccessibleWidget::value() const
 
 void AccessibleWidget::watch(QObject * /*watcher*/) { }
 
-void AccessibleWidget::nameParts(const QString & /*name*/) { }
+void AccessibleWidget::nameParts() { }
 
 void AccessibleWidget::tellValue(const QVariant & /*before*/)
 {

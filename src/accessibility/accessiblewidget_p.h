@@ -58,7 +58,7 @@ protected:
     /** Watches what else may change something, until @p watcher goes. */
     virtual void watch(QObject *watcher);
     /** Hands the name on to parts that have none; comes whenever it may be another. */
-    virtual void nameParts(const QString &name);
+    virtual void nameParts();
 
 private:
     struct Told;

@@ -3,12 +3,43 @@
 
 #include <OlvPluginEventFilter>
 
+#include <QDynamicPropertyChangeEvent>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <limits>
+#include <utility>
+
+namespace {
+
+/** Deletes the switch that it filters, as soon as that sets a property to a value. */
+class Deleter : public QObject
+{
+public:
+    Deleter(QByteArray property, QVariant value)
+        : m_property(std::move(property))
+        , m_value(std::move(value))
+    { }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::DynamicPropertyChange
+            || static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() != m_property
+            || watched->property(m_property.constData()) != m_value) {
+            return false;
+        }
+        delete watched;
+        return true;
+    }
+
+private:
+    QByteArray m_property;
+    QVariant m_value;
+};
+
+} // namespace
 
 class TestSwitch : public QObject
 {
@@ -24,6 +55,8 @@ private Q_SLOTS:
     void getValueReturnsThePropertyAsItStands();
     void survivesDeletionFromItsSignals_data();
     void survivesDeletionFromItsSignals();
+    void survivesDeletionByWhoeverFiltersItsProperties_data();
+    void survivesDeletionByWhoeverFiltersItsProperties();
     void survivesHostileProperties_data();
     void survivesHostileProperties();
     void survivesTheLossOfItsKnob();
@@ -182,6 +215,26 @@ void TestSwitch::survivesDeletionFromItsSignals()
         QVERIFY(toggle.isNull());
     }
     QCOMPARE(changed.count(), fromChanged ? 1 : 0);
+}
+
+void TestSwitch::survivesDeletionByWhoeverFiltersItsProperties_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("at a step") << QByteArray("moveCount") << QVariant(2);
+    QTest::newRow("at the end of the steps") << QByteArray("moveCount") << QVariant(0);
+    QTest::newRow("when it has switched") << QByteArray("switch") << QVariant(true);
+}
+
+void TestSwitch::survivesDeletionByWhoeverFiltersItsProperties()
+{
+    QFETCH(const QByteArray, property);
+    QFETCH(const QVariant, value);
+    Deleter deleter(property, value);
+    const QPointer<OlvSwitch> toggle(new OlvSwitch);
+    toggle->installEventFilter(&deleter);
+    toggle->setValue(true);
+    QTRY_VERIFY_WITH_TIMEOUT(!toggle, 20000);
 }
 
 void TestSwitch::survivesHostileProperties_data()
