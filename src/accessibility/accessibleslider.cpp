@@ -3,7 +3,7 @@
 
 #include <OlvWidgets/value.h>
 
-#include "foundation/childataddress_p.h"
+#include "support/childaddress_p.h"
 
 #include <QtMath>
 

@@ -3,8 +3,8 @@
 
 #include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
-#include "foundation/caption_p.h"
-#include "foundation/shape_p.h"
+#include "painting/caption_p.h"
+#include "painting/shape_p.h"
 
 #include <QPainter>
 #include <QPointer>

@@ -2,9 +2,9 @@
 #include <OlvWidgets/containers.h>
 #include <OlvWidgets/frame.h>
 
-#include "accessibility/accessibility_p.h"
-#include "foundation/childataddress_p.h"
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
+#include "support/accessibility_p.h"
+#include "support/childaddress_p.h"
 
 #include <QPainter>
 #include <QTimer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/containers.h>
 
-#include "foundation/childataddress_p.h"
+#include "support/childaddress_p.h"
 
 #include <QLabel>
 #include <QPointer>

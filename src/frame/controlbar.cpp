@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/frame.h>
 
-#include "accessibility/accessibility_p.h"
+#include "support/accessibility_p.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

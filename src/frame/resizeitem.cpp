@@ -2,7 +2,7 @@
 #include <OlvWidgets/foundation.h>
 #include <OlvWidgets/frame.h>
 
-#include "foundation/mouseposition_p.h"
+#include "support/mouseposition_p.h"
 
 namespace {
 

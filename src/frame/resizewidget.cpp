@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/frame.h>
 
-#include "foundation/childataddress_p.h"
-#include "foundation/mouseposition_p.h"
+#include "support/childaddress_p.h"
+#include "support/mouseposition_p.h"
 
 namespace {
 /** The handle is at the bottom right: the name is the one that the property has always had. */

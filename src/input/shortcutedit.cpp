@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/input.h>
 
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
 
 #include <QKeyEvent>
 #include <QPainter>

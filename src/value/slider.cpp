@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
-#include "foundation/childataddress_p.h"
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
+#include "support/childaddress_p.h"
 #include "value/slidermetrics_p.h"
 
 #include <QPainter>

@@ -2,8 +2,8 @@
 #include <OlvWidgets/foundation.h>
 #include <OlvWidgets/value.h>
 
-#include "foundation/childataddress_p.h"
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
+#include "support/childaddress_p.h"
 
 #include <QPainter>
 #include <QPointer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
 
 #include <QPainter>
 

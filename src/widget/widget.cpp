@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/widget.h>
 
-#include "accessibility/accessibility_p.h"
+#include "support/accessibility_p.h"
 
 #include <QInputMethodEvent>
 #include <QPointer>

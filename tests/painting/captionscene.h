@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "foundation/caption_p.h"
-#include "foundation/shape_p.h"
+#include "painting/caption_p.h"
+#include "painting/shape_p.h"
 #include "pixels.h"
 
 #include <functional>

@@ -3,17 +3,26 @@
 
 class QWidget;
 
-/** What the widgets know of their accessibility. */
+/**
+ * What the widgets know of their accessibility: when to have Qt ask for their interfaces. Whatever
+ * makes these registers itself from above, so that no widget depends on it.
+ */
 namespace Accessibility {
 
 /**
  * Makes Qt ask this library for the interface of @p widget, also when it has made one of its own
  * already. Each class that has an interface here calls it in its constructor. It costs next to
- * nothing while nobody looks.
+ * nothing while accessibility is not active.
  */
 void prepare(QWidget *widget);
 
 /** Has Qt ask again for the interface of @p widget, which may have made another one already. */
 void renew(QWidget *widget);
+
+/**
+ * Has prepare() call @p install before all else: at each call, since Qt forgets what is installed
+ * with each application object. Called once, when the library is loaded.
+ */
+void setInstaller(void (*install)());
 
 } // namespace Accessibility

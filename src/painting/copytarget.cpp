@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/copytarget_p.h"
+#include "painting/copytarget_p.h"
 
 #include <QImage>
 #include <QPaintEngine>

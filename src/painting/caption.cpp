@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "foundation/caption_p.h"
+#include "painting/caption_p.h"
 
-#include "foundation/copytarget_p.h"
-#include "foundation/keptpixels_p.h"
+#include "painting/copytarget_p.h"
+#include "painting/keptpixels_p.h"
 
 #include <OlvWidgets/foundation.h>
 

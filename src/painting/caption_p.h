@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
 
 #include <QColor>
 #include <QImage>

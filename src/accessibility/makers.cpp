@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "accessibility/accessibility_p.h"
-
 #include <OlvWidgets/frame.h>
 
 #include "accessibility/accessiblebutton_p.h"
@@ -11,6 +9,7 @@
 #include "accessibility/accessibleshortcutedit_p.h"
 #include "accessibility/accessibleslider_p.h"
 #include "accessibility/accessibleswitch_p.h"
+#include "support/accessibility_p.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -126,7 +125,7 @@ struct Installation
     }
     Q_DISABLE_COPY(Installation)
 
-    /** Qt forgets both with each application object, and takes each but once. */
+    /** Qt forgets both with each application object, and ignores what is installed already. */
     void install()
     {
         QAccessible::installActivationObserver(&activation);
@@ -134,21 +133,16 @@ struct Installation
     }
 };
 
-} // namespace
-
-void Accessibility::prepare(QWidget *widget)
+void install()
 {
     static Installation installation;
     installation.install();
-    // The constructor of a base class may have told of a change, as QWidget's does in a disabled
-    // parent, and Qt then has made the interface of that class and would keep it.
-    if (!widget->isEnabled() || QAccessible::isActive()) {
-        renew(widget);
-    }
 }
 
-void Accessibility::renew(QWidget *widget)
+void registerInstaller()
 {
-    QAccessible::deleteAccessibleInterface(
-        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
+    Accessibility::setInstaller(install);
 }
+Q_CONSTRUCTOR_FUNCTION(registerInstaller)
+
+} // namespace

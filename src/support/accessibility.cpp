@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "support/accessibility_p.h"
+
+#include <QAccessible>
+#include <QWidget>
+
+namespace {
+// initialised before any code runs, for the installer comes while the library is being loaded
+void (*installer)() = nullptr;
+} // namespace
+
+void Accessibility::prepare(QWidget *widget)
+{
+    if (installer) {
+        installer();
+    }
+    // The constructor of a base class may have told of a change, as QWidget's does in a disabled
+    // parent, and Qt then has made the interface of that class and would keep it.
+    if (!widget->isEnabled() || QAccessible::isActive()) {
+        renew(widget);
+    }
+}
+
+void Accessibility::renew(QWidget *widget)
+{
+    QAccessible::deleteAccessibleInterface(
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
+}
+
+void Accessibility::setInstaller(void (*install)())
+{
+    installer = install;
+}
