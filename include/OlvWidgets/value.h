@@ -44,6 +44,12 @@ public:
     int maxX() const;
     /** Sets the largest logical x; the knob stays where it is until the next drag. */
     void setMaxX(int maxX);
+    /**
+     * Drags the knob to @p progress percent, within 0 to 100, as assistive programs do it: moves it
+     * to where a drag by the mouse would give the same percentage, or to the next pixel on a track
+     * with fewer pixels than percentages, and calls OlvSlider::setValue() once.
+     */
+    void dragTo(int progress);
 
 protected:
     /** Draws the disc: white, with a ring 2 pixels wide. */
@@ -59,9 +65,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    friend class AccessibleSlider;
-    void dragTo(int progress);
-
     bool m_pressed = false;
     int m_maxX = 0;
     int m_progress = -1;

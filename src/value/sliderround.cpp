@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
-#include "foundation/mouseposition_p.h"
-#include "foundation/shape_p.h"
+#include "painting/shape_p.h"
+#include "support/mouseposition_p.h"
 #include "value/slidermetrics_p.h"
 
 #include <QPainter>
@@ -44,6 +44,7 @@ void SliderRound::setMaxX(int maxX)
 
 void SliderRound::dragTo(int progress)
 {
+    progress = qBound(0, progress, fullProgress);
     // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
     // track has a pixel for it.
     const qint64 x =
