@@ -3,6 +3,7 @@
 
 #include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
+#include "painting/canvas_p.h"
 #include "painting/caption_p.h"
 #include "painting/shape_p.h"
 
@@ -182,6 +183,7 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const Canvas canvas(painter);
     const ButtonPalette &palette = buttonPalette(property(colorProperty).toString());
     const Look look{ property(stateProperty).toString(), property(typeProperty).toString(),
                      property(checkedProperty).toBool() };
@@ -190,17 +192,17 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
         height() / (look.type == QLatin1String("round") ? roundRadiusDivisor : radiusDivisor);
     const Shape body = Shape::roundedRect(rect(), radius);
     const QColor fill = fillColor(look, palette);
-    body.fill(painter, fill);
+    body.fill(canvas, fill);
     if (look.hasBorder()) {
         // not drawn further in for the border: half of it is clipped, which makes it look thin
-        body.stroke(painter, palette[ButtonPalette::RestingPlainBorder], borderWidth);
+        body.stroke(canvas, palette[ButtonPalette::RestingPlainBorder], borderWidth);
     }
 
     const QString content = property(contentProperty).toString();
     if (!content.isEmpty()) {
         const Caption caption{ content, captionColor(look, palette), QStringLiteral("宋体"),
                                captionPointSize };
-        caption.draw(painter, { body, fill, look.hasBorder() ? borderWidth : 0 });
+        caption.draw(canvas, { body, fill, look.hasBorder() ? borderWidth : 0 });
     }
 }
 

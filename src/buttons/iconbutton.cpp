@@ -2,6 +2,7 @@
 #include <OlvWidgets/buttons.h>
 
 #include "buttons/buttonstate_p.h"
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 
@@ -174,7 +175,7 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
     painter.setFont(QFont(QStringLiteral("新宋体"), property(textSizeProperty).toInt()));
     painter.drawText(QRect(0, glyphHeight, width(), partSize), Qt::AlignCenter,
                      property(textProperty).toString());
-    Shape::roundedRect(rect(), frameRadius).stroke(painter, color, frameWidth);
+    Shape::roundedRect(rect(), frameRadius).stroke(Canvas(painter), color, frameWidth);
 }
 
 void OlvIconButton::report()

@@ -2,6 +2,7 @@
 #include <OlvWidgets/containers.h>
 #include <OlvWidgets/frame.h>
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/accessibility_p.h"
 #include "support/childaddress_p.h"
@@ -124,15 +125,16 @@ void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const Canvas canvas(painter);
     const int radius = isMaximized() ? 0 : cornerRadius;
     const Shape panel = Shape::roundedRect(rect(), radius);
-    panel.fill(painter, QColor(fillColor));
-    panel.stroke(painter, QColor(frameColor), frameWidth);
+    panel.fill(canvas, QColor(fillColor));
+    panel.stroke(canvas, QColor(frameColor), frameWidth);
 
     const int way = property(headerWayProperty).toInt();
     if (way != noHeader) {
         const QColor color(property(headerColorProperty).toUInt());
-        Shape::roundedRect(headerRect(way, size()), radius).fill(painter, color);
+        Shape::roundedRect(headerRect(way, size()), radius).fill(canvas, color);
     }
 }
 

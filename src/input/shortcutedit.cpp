@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/input.h>
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 
 #include <QKeyEvent>
@@ -183,12 +184,13 @@ void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const Canvas canvas(painter);
     painter.setFont(QFont(QStringLiteral("新宋体"), height() / 2));
     const QColor color = hasFocus() ? QColor(focusedColor) : QColor(Qt::gray);
     const Shape frame =
         Shape::roundedRect(QRect(0, 0, width() - frameInset, height() - frameInset), frameRadius);
-    frame.fill(painter, Qt::white);
-    frame.stroke(painter, color, frameWidth);
+    frame.fill(canvas, Qt::white);
+    frame.stroke(canvas, color, frameWidth);
     painter.setPen(color);
     if (OlvShortcut *held = shortcut()) {
         painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, held->toString());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "painting/caption_p.h"
 
-#include "painting/copytarget_p.h"
+#include "painting/canvas_p.h"
 #include "painting/keptpixels_p.h"
 
 #include <OlvWidgets/foundation.h>
@@ -204,9 +204,10 @@ private:
     QMetaObject::Connection m_connection;
 };
 
-void Caption::draw(QPainter &painter, const CaptionGround &ground) const
+void Caption::draw(const Canvas &canvas, const CaptionGround &ground) const
 {
-    const QImage *target = copyTarget(painter);
+    QPainter &painter = canvas.painter();
+    const QImage *target = canvas.copyTarget();
     if (!target || !mayBeKept(ground, *target)) {
         write(painter, ground);
         return;

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QString>
 
+class Canvas;
 class QPainter;
 
 /** What a caption is written on. */
@@ -33,10 +34,11 @@ struct Caption
     int pointSize; ///< the largest
 
     /**
-     * Draws the caption on @p ground, which has been drawn and is all that @p painter may draw on.
-     * The painter is a widget's, and has its font; its font and its pen are arbitrary afterwards.
+     * Draws the caption on @p ground, which has been drawn and is all that may be drawn on. The
+     * canvas's painter is a widget's, and has its font; its font and its pen are arbitrary
+     * afterwards.
      */
-    void draw(QPainter &painter, const CaptionGround &ground) const;
+    void draw(const Canvas &canvas, const CaptionGround &ground) const;
 
 private:
     struct Key;

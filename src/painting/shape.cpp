@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "painting/shape_p.h"
 
-#include "painting/copytarget_p.h"
+#include "painting/canvas_p.h"
 #include "painting/keptpixels_p.h"
 
 #include <QImage>
@@ -163,37 +163,38 @@ QRect Shape::rect() const
     return m_rect;
 }
 
-void Shape::fill(QPainter &painter, const QColor &color) const
+void Shape::fill(const Canvas &canvas, const QColor &color) const
 {
-    if (!drawFromLayer(painter, { m_kind, m_rect.size(), m_radius, 0, color.rgba64() })) {
+    if (!drawFromLayer(canvas, { m_kind, m_rect.size(), m_radius, 0, color.rgba64() })) {
+        QPainter &painter = canvas.painter();
         painter.setPen(Qt::NoPen);
         painter.setBrush(color);
         draw(painter);
     }
 }
 
-void Shape::stroke(QPainter &painter, const QColor &color, int width) const
+void Shape::stroke(const Canvas &canvas, const QColor &color, int width) const
 {
-    if (!drawFromLayer(painter, { m_kind, m_rect.size(), m_radius, width, color.rgba64() })) {
+    if (!drawFromLayer(canvas, { m_kind, m_rect.size(), m_radius, width, color.rgba64() })) {
+        QPainter &painter = canvas.painter();
         painter.setPen(QPen(color, width));
         painter.setBrush(Qt::NoBrush);
         draw(painter);
     }
 }
 
-bool Shape::drawFromLayer(QPainter &painter, const Layer &layer) const
+bool Shape::drawFromLayer(const Canvas &canvas, const Layer &layer) const
 {
     static KeptPixels<Layer, Pixels> layers(bytesOfAll);
     const int margin = marginOf(layer.lineWidth);
     if (!layers.isSmall(m_rect.size() + QSize(2 * margin, 2 * margin))
-        || !isProven(m_rect.size(), m_radius, layer.lineWidth) || !copyTarget(painter)
-        || !painter.testRenderHint(QPainter::Antialiasing)) {
+        || !isProven(m_rect.size(), m_radius, layer.lineWidth) || !canvas.copyTarget()) {
         return false;
     }
     const Pixels *pixels =
         layers.find(layer, [&](Layer & /*kept*/) { return new Pixels(rasterised(layer)); });
     if (pixels) {
-        pixels->draw(painter, m_rect.topLeft() - QPoint(margin, margin));
+        pixels->draw(canvas.painter(), m_rect.topLeft() - QPoint(margin, margin));
     }
     return pixels;
 }

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QRect>
 
+class Canvas;
 class QImage;
 class QPainter;
 
@@ -26,15 +27,15 @@ public:
     static Shape ellipse(const QRect &rect);
 
     /**
-     * Fills the shape, without an outline. The pen and the brush of @p painter are arbitrary
-     * afterwards.
+     * Fills the shape, without an outline. The pen and the brush of the canvas's painter are
+     * arbitrary afterwards.
      */
-    void fill(QPainter &painter, const QColor &color) const;
+    void fill(const Canvas &canvas, const QColor &color) const;
     /**
-     * Draws the shape's outline, @p width pixels wide; whoever wants both fills first, as QPainter
-     * does. The pen and the brush of @p painter are arbitrary afterwards.
+     * Draws the shape's outline, @p width pixels wide. To have both, fill first, as QPainter does.
+     * The pen and the brush of the canvas's painter are arbitrary afterwards.
      */
-    void stroke(QPainter &painter, const QColor &color, int width) const;
+    void stroke(const Canvas &canvas, const QColor &color, int width) const;
 
     QRect rect() const;
     /**
@@ -60,7 +61,7 @@ private:
     Shape(Kind kind, const QRect &rect, int radius);
 
     static QImage rasterised(const Layer &layer);
-    bool drawFromLayer(QPainter &painter, const Layer &layer) const;
+    bool drawFromLayer(const Canvas &canvas, const Layer &layer) const;
     void draw(QPainter &painter) const;
 
     Kind m_kind;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 #include "value/slidermetrics_p.h"
@@ -48,7 +49,7 @@ void OlvSlider::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect track(trackInset, trackTop, width() - 2 * trackInset, trackHeight);
-    Shape::roundedRect(track, trackRadius).fill(painter, QColor(SliderMetrics::blue));
+    Shape::roundedRect(track, trackRadius).fill(Canvas(painter), QColor(SliderMetrics::blue));
 }
 
 void OlvSlider::resizeEvent(QResizeEvent * /*event*/)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/mouseposition_p.h"
 #include "value/slidermetrics_p.h"
@@ -58,10 +59,11 @@ void SliderRound::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const Canvas canvas(painter);
     const Shape disc =
         Shape::ellipse(rect().adjusted(discInset, discInset, -discInset, -discInset));
-    disc.fill(painter, Qt::white);
-    disc.stroke(painter, QColor(SliderMetrics::blue), ringWidth);
+    disc.fill(canvas, Qt::white);
+    disc.stroke(canvas, QColor(SliderMetrics::blue), ringWidth);
 }
 
 void SliderRound::mousePressEvent(QMouseEvent *event)

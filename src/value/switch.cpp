@@ -2,6 +2,7 @@
 #include <OlvWidgets/foundation.h>
 #include <OlvWidgets/value.h>
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 
@@ -102,7 +103,7 @@ void OlvSwitch::paintEvent(QPaintEvent * /*event*/)
     const bool on = property(switchProperty).toBool();
     const QColor color =
         OlvColorFromString(property(on ? closeColorProperty : openColorProperty).toString());
-    Shape::roundedRect(rect(), height() / 2).fill(painter, color);
+    Shape::roundedRect(rect(), height() / 2).fill(Canvas(painter), color);
 }
 
 SwitchRound *OlvSwitch::knob() const

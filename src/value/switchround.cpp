@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/value.h>
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 
 #include <QPainter>
@@ -42,5 +43,5 @@ void SwitchRound::paintEvent(QPaintEvent * /*event*/)
     // an application may have set any number
     const int inset = qBound(-QWIDGETSIZE_MAX, m_inset, QWIDGETSIZE_MAX);
     const int last = height() - 1 - inset;
-    Shape::ellipse(QRect(QPoint(inset, inset), QPoint(last, last))).fill(painter, m_color);
+    Shape::ellipse(QRect(QPoint(inset, inset), QPoint(last, last))).fill(Canvas(painter), m_color);
 }

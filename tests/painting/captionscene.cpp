@@ -18,9 +18,9 @@ QPen untouched()
 void drawGround(const Scene &scene, QPainter &painter)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    scene.shape().fill(painter, scene.fill);
+    scene.shape().fill(Canvas(painter), scene.fill);
     if (scene.lineWidth > 0) {
-        scene.shape().stroke(painter, QColor(179, 216, 255), scene.lineWidth);
+        scene.shape().stroke(Canvas(painter), QColor(179, 216, 255), scene.lineWidth);
     }
 }
 
@@ -64,7 +64,7 @@ bool draw(const Scene &scene, QPainter &painter)
 {
     drawGround(scene, painter);
     painter.setPen(untouched());
-    scene.caption.draw(painter, { scene.shape(), scene.fill, scene.lineWidth });
+    scene.caption.draw(Canvas(painter), { scene.shape(), scene.fill, scene.lineWidth });
     return painter.pen() == untouched();
 }
 

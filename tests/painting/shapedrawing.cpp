@@ -12,9 +12,9 @@ QBrush untouched()
 void draw(const Drawing &drawing, QPainter &painter)
 {
     if (drawing.lineWidth > 0) {
-        drawing.shape.stroke(painter, drawing.color, drawing.lineWidth);
+        drawing.shape.stroke(Canvas(painter), drawing.color, drawing.lineWidth);
     } else {
-        drawing.shape.fill(painter, drawing.color);
+        drawing.shape.fill(Canvas(painter), drawing.color);
     }
 }
 

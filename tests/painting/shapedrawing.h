@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 
 #include <QBrush>

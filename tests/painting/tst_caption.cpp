@@ -176,9 +176,9 @@ void TestCaption::copiesWhatIsPlainAlone()
         image.fill(Qt::black);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        shape.fill(painter, Qt::red);
+        shape.fill(Canvas(painter), Qt::red);
         if (lineWidth > 0) {
-            shape.stroke(painter, Qt::green, lineWidth);
+            shape.stroke(Canvas(painter), Qt::green, lineWidth);
         }
         QImage expected(part.size(), QImage::Format_RGB32);
         expected.fill(Qt::red);

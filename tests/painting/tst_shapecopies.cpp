@@ -131,11 +131,11 @@ void TestShapeCopies::drawsAShapeThatComesOnceDirectly()
     const Shape shape = Shape::roundedRect(QRect(0, 0, 41, 43), 3);
     for (const bool isCopied : { false, true, true }) {
         painter.setBrush(untouched());
-        shape.fill(painter, Qt::darkYellow);
+        shape.fill(Canvas(painter), Qt::darkYellow);
         QCOMPARE(painter.brush() == untouched(), isCopied);
     }
     painter.setBrush(untouched());
-    shape.fill(painter, Qt::darkCyan);
+    shape.fill(Canvas(painter), Qt::darkCyan);
     QVERIFY(painter.brush() != untouched());
 }
 
@@ -168,7 +168,7 @@ void TestShapeCopies::drawsALargeShapeDirectly()
     antialias(painter);
     for (int round = 0; round < 3; ++round) {
         painter.setBrush(untouched());
-        Shape::ellipse(QRect(0, 0, 1000, 900)).fill(painter, Qt::red);
+        Shape::ellipse(QRect(0, 0, 1000, 900)).fill(Canvas(painter), Qt::red);
         QVERIFY(painter.brush() != untouched());
     }
 }
@@ -180,7 +180,7 @@ void TestShapeCopies::forgetsWhatIsOldest()
     antialias(painter);
     const auto isCopied = [&](int width) {
         painter.setBrush(untouched());
-        Shape::ellipse(QRect(0, 0, width, 100)).fill(painter, Qt::green);
+        Shape::ellipse(QRect(0, 0, width, 100)).fill(Canvas(painter), Qt::green);
         return painter.brush() == untouched();
     };
     isCopied(100);
