@@ -9,10 +9,11 @@
 
 namespace {
 
+/** Never destroyed: a program may destroy a shortcut after the statics of this library. */
 QSet<OlvShortcut *> &livingShortcuts()
 {
-    static QSet<OlvShortcut *> shortcuts;
-    return shortcuts;
+    static auto *const shortcuts = new QSet<OlvShortcut *>;
+    return *shortcuts;
 }
 
 /** Keys that QKeySequence has no text for: it makes unprintable characters of them. */

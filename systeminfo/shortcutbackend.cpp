@@ -7,27 +7,25 @@
 
 namespace {
 
-// Made for the first shortcut, gone with the application object, whose event loop it needs.
+// A plain pointer is never destroyed, so that a shortcut may read it however late the program
+// destroys that shortcut.
 ShortcutBackend *backend = nullptr;
-
-void deleteBackend()
-{
-    delete backend;
-    backend = nullptr;
-}
 
 } // namespace
 
-ShortcutBackend::~ShortcutBackend() = default;
+ShortcutBackend::~ShortcutBackend()
+{
+    backend = nullptr;
+}
 
 ShortcutBackend *ShortcutBackend::instance()
 {
-    // With DISPLAY set, a connection could be made on every platform: only where the windows are on
-    // that server does the user press keys there.
-    if (!backend && qobject_cast<QGuiApplication *>(QCoreApplication::instance())
-        && QGuiApplication::platformName() == QLatin1String("xcb")) {
-        backend = new X11Backend;
-        qAddPostRoutine(deleteBackend);
+    auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+    // With DISPLAY set, a connection could be made on every platform, but the user presses keys on
+    // that server only where the application's windows are on it.
+    if (!backend && application && QGuiApplication::platformName() == QLatin1String("xcb")) {
+        // It is a child of the application object, since it needs that object's event loop.
+        backend = new X11Backend(application);
     }
     return backend;
 }

@@ -12,9 +12,12 @@ class OlvShortcut;
 class ShortcutBackend
 {
 public:
-    /** The backend for the platform that the application runs on; null where there is none. */
+    /**
+     * The backend for the platform that the application runs on, made by the first call and deleted
+     * with the application object; null where there is none.
+     */
     static ShortcutBackend *instance();
-    /** The same, but null as well while nobody has asked for it. */
+    /** The same, but null as well before the first call of instance(). */
     static ShortcutBackend *existingInstance();
 
     virtual ~ShortcutBackend();

@@ -18,8 +18,9 @@ int typeOf(const xcb_generic_event_t *event)
 
 } // namespace
 
-X11Backend::X11Backend()
-    : m_connection(xcb_connect(nullptr, nullptr))
+X11Backend::X11Backend(QObject *parent)
+    : QObject(parent)
+    , m_connection(xcb_connect(nullptr, nullptr))
 {
     if (xcb_connection_has_error(m_connection)) {
         return;

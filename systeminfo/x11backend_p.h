@@ -22,7 +22,7 @@ class QSocketNotifier;
 class X11Backend : public QObject, public ShortcutBackend
 {
 public:
-    X11Backend();
+    explicit X11Backend(QObject *parent);
     ~X11Backend() override;
 
     bool grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers) override;
