@@ -30,7 +30,7 @@ class QLineEdit;
  * as wide as it is high. A click anywhere on the frame puts the caret into the text.
  *
  * The value is the text, a QString. Neither valueChanged() nor textChanged() is emitted: read it
- * with getText() or getValue() when it is wanted.
+ * with getText() or getValue() when it is wanted, or connect the signals of lineEdit().
  *
  * | property    | type   | at first | meaning                                         |
  * |-------------|--------|----------|-------------------------------------------------|
@@ -79,6 +79,11 @@ public:
     void setText(const QString &text);
     /** The text. */
     QString getText();
+    /**
+     * The text as Qt has it, for its validator, completer and signals, as a focus proxy and the
+     * like. It stays this widget's; null when the application has deleted it.
+     */
+    QLineEdit *lineEdit() const;
     /** Sets what is shown in grey while there is no text. */
     void setPlaceholderText(const QString &text);
 

@@ -65,7 +65,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    friend class OlvSlider;
+    void follow(int progress);
+    void placeAt(int progress);
+
     bool m_pressed = false;
+    bool m_follows = false;
     int m_maxX = 0;
     int m_progress = -1;
     int m_pressX = 0;
@@ -84,7 +89,7 @@ private:
  *
  * Dragging changes the value silently, through setValue(), and emits nothing: read it with
  * getValue() when it is wanted, or override setValue() to follow the drag. setValue() in turn
- * stores the value and leaves the knob where it is.
+ * stores the value and leaves the knob where it is; setSliderPosition() moves the knob as well.
  *
  * @code
  * auto *volume = new OlvSlider(this);
@@ -120,6 +125,14 @@ public:
      * knob nor repaints nor emits anything. The knob calls it for each new percentage of a drag.
      */
     void setValue(const QVariant &value) override;
+
+    /**
+     * Puts the slider to @p percent, bounded to 0 to 100, with its knob there: calls setValue()
+     * once and emits nothing of its own. From then on the knob keeps to the last percentage that it
+     * was set or dragged to when the slider is resized, so that a value may be set before a layout
+     * gives the slider its size.
+     */
+    void setSliderPosition(int percent);
 
 protected:
     /** Draws the track: one bar in one colour, whatever the value. */
@@ -163,8 +176,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class OlvSwitch;
+
     QColor m_color;
     int m_inset;
+    bool m_staysAtEnd = false;
 };
 
 /**
@@ -178,7 +194,8 @@ private:
  * to the end, flips the value and emits valueChanged() and then changed(), about 250 milliseconds
  * after the click. Until then the value is the old one; once the first step is done, clicks are
  * ignored until the last. A second start before the first step is not held back: the switch then
- * goes on to flip back and forth, so call setValue() once.
+ * goes on to flip back and forth, so call setValue() once. setChecked() sets the switch at once,
+ * and isChecked() tells what was chosen while the knob is still on its way.
  *
  * Its state lies in dynamic properties, which applications may read:
  *
@@ -224,6 +241,16 @@ public:
      */
     void setValue(const QVariant &value) override;
 
+    /** Whether the switch is on; while it slides, whether it will be. */
+    bool isChecked() const;
+    /**
+     * Turns the switch on or off at once: its knob stands at the end, and an animation under way is
+     * over. When "switch" has changed by it, valueChanged() and then changed() are emitted. From
+     * then on the knob keeps to its end when the switch is resized, so that a switch may be set
+     * before a layout gives it its size.
+     */
+    void setChecked(bool checked);
+
     /** Sets the colour of the track while the switch is off, without its alpha; repaints nothing.
      */
     void setColorOpen(QColor color);
@@ -246,4 +273,6 @@ private:
     void toggle();
     void step();
     void finish(bool on);
+    void settle(bool on);
+    void moveKnobToEnd(bool on);
 };

@@ -12,7 +12,4 @@ public:
 protected:
     QAccessible::State ownState() const override;
     void click() override;
-
-private:
-    bool isRunning(const QVariant &timer) const;
 };

@@ -78,6 +78,11 @@ QString OlvLineEdit::getText()
     return m_editor ? m_editor->text() : QString();
 }
 
+QLineEdit *OlvLineEdit::lineEdit() const
+{
+    return m_editor;
+}
+
 void OlvLineEdit::setPlaceholderText(const QString &text)
 {
     if (m_editor) {

@@ -15,6 +15,7 @@ constexpr int trackInset = 15;
 constexpr int trackTop = 10;
 constexpr int trackHeight = 10;
 constexpr int trackRadius = 5;
+constexpr int fullProgress = 100;
 
 constexpr char progressProperty[] = "progress";
 constexpr char knobProperty[] = "SliderRound";
@@ -42,6 +43,16 @@ QVariant OlvSlider::getValue()
 void OlvSlider::setValue(const QVariant &value)
 {
     setProperty(progressProperty, value);
+}
+
+void OlvSlider::setSliderPosition(int percent)
+{
+    percent = qBound(0, percent, fullProgress);
+    if (auto *knob = childAtAddress<SliderRound>(this, property(knobProperty))) {
+        knob->follow(percent);
+    } else {
+        setValue(percent);
+    }
 }
 
 void OlvSlider::paintEvent(QPaintEvent * /*event*/)

@@ -41,18 +41,33 @@ int SliderRound::maxX() const
 void SliderRound::setMaxX(int maxX)
 {
     m_maxX = maxX;
+    if (m_follows && !m_pressed) {
+        placeAt(m_progress);
+    }
 }
 
 void SliderRound::dragTo(int progress)
 {
     progress = qBound(0, progress, fullProgress);
+    const QPointer<QWidget> slider(m_slider);
+    m_progress = progress;
+    placeAt(progress); // after which the knob may be gone
+    tell(slider, progress);
+}
+
+void SliderRound::follow(int progress)
+{
+    m_follows = true;
+    dragTo(progress);
+}
+
+void SliderRound::placeAt(int progress)
+{
     // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
     // track has a pixel for it.
     const qint64 x =
         (qBound<qint64>(0, m_maxX, QWIDGETSIZE_MAX) * progress + fullProgress - 1) / fullProgress;
     move(int(x) + (m_pressed ? 0 : SliderMetrics::knobInset), y());
-    m_progress = progress;
-    tell(m_slider, progress);
 }
 
 void SliderRound::paintEvent(QPaintEvent * /*event*/)

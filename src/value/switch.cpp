@@ -6,9 +6,12 @@
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 
+#include <QAbstractEventDispatcher>
 #include <QPainter>
 #include <QPointer>
 #include <QtMath>
+
+#include <algorithm>
 
 namespace {
 
@@ -32,6 +35,25 @@ constexpr int insetDivisor = 10;
 int truncated(double x)
 {
     return int(qBound<double>(-QWIDGETSIZE_MAX, qIsNaN(x) ? 0.0 : x, QWIDGETSIZE_MAX));
+}
+
+QList<QAbstractEventDispatcher::TimerInfo> timersOf(const OlvSwitch *widget)
+{
+    const QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
+    return dispatcher ? dispatcher->registeredTimers(const_cast<OlvSwitch *>(widget))
+                      : QList<QAbstractEventDispatcher::TimerInfo>();
+}
+
+/** From the start of the animation's timer, which comes before the first step. */
+bool isSliding(const OlvSwitch *widget)
+{
+    if (widget->property(moveCountProperty).toInt() != 0) {
+        return true;
+    }
+    const int animation = widget->property(timerIdProperty).toInt();
+    const auto timers = timersOf(widget);
+    return std::any_of(timers.cbegin(), timers.cend(),
+                       [=](const auto &timer) { return timer.timerId == animation; });
 }
 
 } // namespace
@@ -78,6 +100,33 @@ void OlvSwitch::setValue(const QVariant &value)
     setProperty(timerIdProperty, startTimer(stepInterval));
 }
 
+bool OlvSwitch::isChecked() const
+{
+    const bool on = property(switchProperty).toBool();
+    return isSliding(this) ? !on : on;
+}
+
+void OlvSwitch::setChecked(bool checked)
+{
+    // all of them, since each timer event is a step: a second start leaves the first timer running
+    const auto timers = timersOf(this);
+    for (const auto &timer : timers) {
+        killTimer(timer.timerId);
+    }
+    if (SwitchRound *round = knob()) {
+        round->m_staysAtEnd = true;
+    }
+    if (property(switchProperty).toBool() != checked) {
+        settle(checked);
+        return;
+    }
+    const QPointer<OlvSwitch> self(this);
+    moveKnobToEnd(checked);
+    if (self) {
+        setProperty(moveCountProperty, 0);
+    }
+}
+
 void OlvSwitch::setColorOpen(QColor color)
 {
     setProperty(openColorProperty, OlvColorToString(color));
@@ -116,6 +165,9 @@ void OlvSwitch::fitKnob()
     if (SwitchRound *round = knob()) {
         round->resize(height(), height());
         round->setInset(height() / insetDivisor);
+        if (round->m_staysAtEnd && !isSliding(this)) {
+            moveKnobToEnd(property(switchProperty).toBool());
+        }
     }
     setProperty(moveWidthProperty, (width() - height()) / stepCount);
 }
@@ -149,13 +201,25 @@ void OlvSwitch::step()
 
 void OlvSwitch::finish(bool on)
 {
+    killTimer(property(timerIdProperty).toInt());
+    settle(on);
+}
+
+void OlvSwitch::moveKnobToEnd(bool on)
+{
     if (SwitchRound *round = knob()) {
         round->move(on ? width() - height() : 0, 0);
     }
-    killTimer(property(timerIdProperty).toInt());
+}
+
+void OlvSwitch::settle(bool on)
+{
     // whoever hears of a property may delete the switch, an assistive program's helper for example
     const QPointer<OlvSwitch> self(this);
-    setProperty(moveCountProperty, 0);
+    moveKnobToEnd(on);
+    if (self) {
+        setProperty(moveCountProperty, 0);
+    }
     if (self) {
         setProperty(switchProperty, on);
     }

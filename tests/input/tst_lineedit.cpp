@@ -34,6 +34,7 @@ class TestLineEdit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void handsOutItsText();
     void startsEmptyWithItsDefaults();
     void placesItsChildrenAtTheFirstResize();
     void keepsOneSilentSignal();
@@ -56,6 +57,16 @@ private Q_SLOTS:
     void activatesItsWindow();
     void survivesTheLossOfItsChildren();
 };
+
+void TestLineEdit::handsOutItsText()
+{
+    OlvLineEdit edit;
+    QCOMPARE(edit.lineEdit(), edit.findChild<QLineEdit *>());
+    edit.lineEdit()->setText(QStringLiteral("typed"));
+    QCOMPARE(edit.getText(), QStringLiteral("typed"));
+    delete edit.lineEdit();
+    QVERIFY(!edit.lineEdit());
+}
 
 void TestLineEdit::startsEmptyWithItsDefaults()
 {
