@@ -120,7 +120,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void setState(const QString &state);
     void setCheckedByClick(bool checked);
 };
 

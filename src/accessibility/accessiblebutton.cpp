@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "accessibility/accessiblebutton_p.h"
 
+#include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 
 AccessibleButton::AccessibleButton(QWidget *button)
@@ -9,15 +10,15 @@ AccessibleButton::AccessibleButton(QWidget *button)
 
 QString AccessibleButton::ownName() const
 {
-    return property("content").toString();
+    return property(ButtonsProperties::content).toString();
 }
 
 QAccessible::State AccessibleButton::ownState() const
 {
     QAccessible::State state;
-    state.checkable = property("isCheckable").toBool();
-    state.checked = property("isChecked").toBool();
-    state.pressed = property("state").toString() == ButtonState::pressed();
+    state.checkable = property(ButtonsProperties::checkable).toBool();
+    state.checked = property(ButtonsProperties::checked).toBool();
+    state.pressed = property(ButtonsProperties::state).toString() == ButtonState::pressed();
     return state;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "accessibility/accessibleclickable_p.h"
 
+#include "buttons/buttonsproperties_p.h"
+
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPointer>
@@ -68,7 +70,7 @@ void AccessibleClickable::clickWithTheMouse()
 {
     const QPointer<QWidget> button(widget());
     // a release counts only while the pointer is inside
-    const bool isInside = property("hovered").toBool();
+    const bool isInside = property(ButtonsProperties::hovered).toBool();
     if (!isInside) {
         sendCrossing(button, QEvent::Enter);
     }

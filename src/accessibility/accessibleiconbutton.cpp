@@ -3,6 +3,7 @@
 
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 
 #include <QPointer>
@@ -45,16 +46,16 @@ void AccessibleIconButton::doAction(const QString &name)
 
 QString AccessibleIconButton::ownName() const
 {
-    return property("text").toString();
+    return property(ButtonsProperties::text).toString();
 }
 
 QAccessible::State AccessibleIconButton::ownState() const
 {
     auto *tile = qobject_cast<OlvIconButton *>(object());
     QAccessible::State state;
-    state.checkable = property("isCheckable").toBool();
+    state.checkable = property(ButtonsProperties::checkable).toBool();
     state.checked = isChecked(tile);
-    state.pressed = property("state").toString() == ButtonState::pressed();
+    state.pressed = property(ButtonsProperties::state).toString() == ButtonState::pressed();
     return state;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
 #include "painting/canvas_p.h"
@@ -14,14 +15,7 @@
 
 namespace {
 
-constexpr char checkedProperty[] = "isChecked";
-constexpr char checkableProperty[] = "isCheckable";
-constexpr char valueProperty[] = "value";
 constexpr char typeProperty[] = "type";
-constexpr char colorProperty[] = "color";
-constexpr char stateProperty[] = "state";
-constexpr char hoveredProperty[] = "hovered";
-constexpr char contentProperty[] = "content";
 
 constexpr int borderWidth = 2;
 constexpr int roundRadiusDivisor = 2;
@@ -70,13 +64,12 @@ QColor captionColor(const Look &look, const ButtonPalette &palette)
 OlvButton::OlvButton(QWidget *parent)
     : OlvWidget(parent)
 {
-    setProperty(checkedProperty, false);
-    setProperty(checkableProperty, false);
-    setProperty(valueProperty, false);
+    setProperty(ButtonsProperties::checked, false);
+    setProperty(ButtonsProperties::checkable, false);
+    setProperty(ButtonsProperties::value, false);
     setProperty(typeProperty, QString());
-    setProperty(colorProperty, QStringLiteral("primary"));
-    setProperty(stateProperty, ButtonState::resting());
-    setProperty(hoveredProperty, false);
+    setProperty(ButtonsProperties::color, QStringLiteral("primary"));
+    ButtonState::reset(this);
 }
 
 OlvButton::OlvButton(QString text, QWidget *parent)
@@ -88,7 +81,7 @@ OlvButton::OlvButton(QString text, QWidget *parent)
 OlvButton *OlvButton::setOlvStyle(QString color, QString type)
 {
     setProperty(typeProperty, type);
-    setProperty(colorProperty, color);
+    setProperty(ButtonsProperties::color, color);
     update();
     return this;
 }
@@ -100,39 +93,39 @@ void OlvButton::setColor(QStringList shades)
 
 void OlvButton::setText(QString text)
 {
-    setProperty(contentProperty, text);
+    setProperty(ButtonsProperties::content, text);
     update();
 }
 
 void OlvButton::setChecked(bool checked)
 {
-    setProperty(checkedProperty, checked);
+    setProperty(ButtonsProperties::checked, checked);
     update();
 }
 
 bool OlvButton::isChecked()
 {
-    return property(checkedProperty).toBool();
+    return property(ButtonsProperties::checked).toBool();
 }
 
 void OlvButton::setCheckable(bool checkable)
 {
-    setProperty(checkableProperty, checkable);
+    setProperty(ButtonsProperties::checkable, checkable);
 }
 
 bool OlvButton::isCheckable()
 {
-    return property(checkableProperty).toBool();
+    return property(ButtonsProperties::checkable).toBool();
 }
 
 void OlvButton::setValue(const QVariant &value)
 {
-    setProperty(valueProperty, value);
+    setProperty(ButtonsProperties::value, value);
 }
 
 QVariant OlvButton::getValue()
 {
-    return property(valueProperty).toBool();
+    return property(ButtonsProperties::value).toBool();
 }
 
 void OlvButton::click(bool checked)
@@ -147,16 +140,14 @@ void OlvButton::click(bool checked)
 
 void OlvButton::mousePressEvent(QMouseEvent * /*event*/)
 {
-    setState(ButtonState::pressed());
+    ButtonState::press(this);
 }
 
 void OlvButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (!property(hoveredProperty).toBool()) {
-        setState(ButtonState::resting());
+    if (!ButtonState::release(this)) {
         return;
     }
-    setState(ButtonState::hovered());
     const QPointer<OlvButton> self(this);
     Q_EMIT clicked();
     if (self && isCheckable()) {
@@ -166,17 +157,12 @@ void OlvButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 
 void OlvButton::enterEvent(QEvent * /*event*/)
 {
-    setProperty(hoveredProperty, true);
-    setState(ButtonState::hovered());
+    ButtonState::enter(this);
 }
 
 void OlvButton::leaveEvent(QEvent * /*event*/)
 {
-    setProperty(hoveredProperty, false);
-    if (property(stateProperty).toString() != ButtonState::pressed()) {
-        setProperty(stateProperty, ButtonState::resting());
-    }
-    update();
+    ButtonState::leave(this);
 }
 
 void OlvButton::paintEvent(QPaintEvent * /*event*/)
@@ -184,9 +170,10 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const Canvas canvas(painter);
-    const ButtonPalette &palette = buttonPalette(property(colorProperty).toString());
-    const Look look{ property(stateProperty).toString(), property(typeProperty).toString(),
-                     property(checkedProperty).toBool() };
+    const ButtonPalette &palette = buttonPalette(property(ButtonsProperties::color).toString());
+    const Look look{ property(ButtonsProperties::state).toString(),
+                     property(typeProperty).toString(),
+                     property(ButtonsProperties::checked).toBool() };
 
     const int radius =
         height() / (look.type == QLatin1String("round") ? roundRadiusDivisor : radiusDivisor);
@@ -198,18 +185,12 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
         body.stroke(canvas, palette[ButtonPalette::RestingPlainBorder], borderWidth);
     }
 
-    const QString content = property(contentProperty).toString();
+    const QString content = property(ButtonsProperties::content).toString();
     if (!content.isEmpty()) {
         const Caption caption{ content, captionColor(look, palette), QStringLiteral("宋体"),
                                captionPointSize };
         caption.draw(canvas, { body, fill, look.hasBorder() ? borderWidth : 0 });
     }
-}
-
-void OlvButton::setState(const QString &state)
-{
-    setProperty(stateProperty, state);
-    update();
 }
 
 void OlvButton::setCheckedByClick(bool checked)

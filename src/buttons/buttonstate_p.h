@@ -3,7 +3,12 @@
 
 #include <QString>
 
-/** What the property "state" of the buttons holds. */
+class QWidget;
+
+/**
+ * How OlvButton and OlvIconButton follow the mouse, which they keep in the properties "state" and
+ * "hovered". Setting either tells the button's event filters, which may delete the button.
+ */
 namespace ButtonState {
 
 inline QString resting()
@@ -20,5 +25,14 @@ inline QString pressed()
 {
     return QStringLiteral("click");
 }
+
+/** The state of a new button. */
+void reset(QWidget *button);
+
+void enter(QWidget *button);
+void leave(QWidget *button);
+void press(QWidget *button);
+/** Returns whether the release makes a click: the pointer is inside and the button still exists. */
+bool release(QWidget *button);
 
 } // namespace ButtonState

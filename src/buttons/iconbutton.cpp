@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
@@ -13,9 +14,6 @@
 
 namespace {
 
-constexpr char valueProperty[] = "value";
-constexpr char stateProperty[] = "state";
-constexpr char hoveredProperty[] = "hovered";
 constexpr char clickNumberProperty[] = "clickNumber";
 constexpr char clickTimerProperty[] = "clickTimer";
 constexpr char partSizeProperty[] = "partSize";
@@ -23,10 +21,6 @@ constexpr char iconSizeProperty[] = "iconSize";
 constexpr char textSizeProperty[] = "textSize";
 constexpr char familyProperty[] = "family";
 constexpr char iconProperty[] = "icon";
-constexpr char textProperty[] = "text";
-constexpr char colorProperty[] = "color";
-constexpr char checkableProperty[] = "isCheckable";
-constexpr char checkedProperty[] = "isChecked";
 
 constexpr int burstInterval = 400; // milliseconds
 constexpr int partCount = 4;
@@ -44,9 +38,8 @@ constexpr int frameWidth = 1;
 OlvIconButton::OlvIconButton(QWidget *parent)
     : OlvWidget(parent)
 {
-    setProperty(valueProperty, false);
-    setProperty(stateProperty, ButtonState::resting());
-    setProperty(hoveredProperty, false);
+    setProperty(ButtonsProperties::value, false);
+    ButtonState::reset(this);
     auto *timer = new QTimer(this);
     timer->setInterval(burstInterval);
     setProperty(clickNumberProperty, 0);
@@ -92,68 +85,58 @@ QChar OlvIconButton::icon()
 
 void OlvIconButton::setText(const QString &text)
 {
-    setProperty(textProperty, text);
+    setProperty(ButtonsProperties::text, text);
 }
 
 void OlvIconButton::setColor(const QColor &color)
 {
-    setProperty(colorProperty, color.rgba());
+    setProperty(ButtonsProperties::color, color.rgba());
 }
 
 void OlvIconButton::setCheckable(bool checkable)
 {
-    setProperty(checkableProperty, checkable);
-    setProperty(checkedProperty, false);
+    setProperty(ButtonsProperties::checkable, checkable);
+    setProperty(ButtonsProperties::checked, false);
 }
 
 void OlvIconButton::setValue(const QVariant &value)
 {
-    setProperty(valueProperty, value);
+    setProperty(ButtonsProperties::value, value);
 }
 
 QVariant OlvIconButton::getValue()
 {
-    return property(valueProperty);
+    return property(ButtonsProperties::value);
 }
 
 void OlvIconButton::mousePressEvent(QMouseEvent * /*event*/)
 {
-    setProperty(stateProperty, ButtonState::pressed());
-    update();
+    ButtonState::press(this);
 }
 
 void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (!property(hoveredProperty).toBool()) {
-        setProperty(stateProperty, ButtonState::resting());
-        update();
+    if (!ButtonState::release(this)) {
         return;
     }
-    setProperty(stateProperty, ButtonState::hovered());
     const int count = property(clickNumberProperty).toInt();
     setProperty(clickNumberProperty, qMin(count, std::numeric_limits<int>::max() - 1) + 1);
     if (auto *timer = childAtAddress<QTimer>(this, property(clickTimerProperty))) {
         timer->start();
     }
-    setProperty(valueProperty, !property(valueProperty).toBool());
-    setProperty(checkedProperty, !property(checkedProperty).toBool());
+    setProperty(ButtonsProperties::value, !property(ButtonsProperties::value).toBool());
+    setProperty(ButtonsProperties::checked, !property(ButtonsProperties::checked).toBool());
     update();
 }
 
 void OlvIconButton::enterEvent(QEvent * /*event*/)
 {
-    setProperty(hoveredProperty, true);
-    setProperty(stateProperty, ButtonState::hovered());
-    update();
+    ButtonState::enter(this);
 }
 
 void OlvIconButton::leaveEvent(QEvent * /*event*/)
 {
-    setProperty(hoveredProperty, false);
-    if (property(stateProperty).toString() != ButtonState::pressed()) {
-        setProperty(stateProperty, ButtonState::resting());
-    }
-    update();
+    ButtonState::leave(this);
 }
 
 void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
@@ -174,7 +157,7 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
                      property(iconProperty).toString());
     painter.setFont(QFont(QStringLiteral("新宋体"), property(textSizeProperty).toInt()));
     painter.drawText(QRect(0, glyphHeight, width(), partSize), Qt::AlignCenter,
-                     property(textProperty).toString());
+                     property(ButtonsProperties::text).toString());
     Shape::roundedRect(rect(), frameRadius).stroke(Canvas(painter), color, frameWidth);
 }
 
@@ -192,8 +175,8 @@ void OlvIconButton::report()
 
 QColor OlvIconButton::penColor()
 {
-    const QRgb accent = property(colorProperty).toUInt();
-    const QString state = property(stateProperty).toString();
+    const QRgb accent = property(ButtonsProperties::color).toUInt();
+    const QString state = property(ButtonsProperties::state).toString();
     if (state == ButtonState::pressed() || ::isChecked(this)) {
         return QColor(accent);
     }
@@ -207,6 +190,6 @@ QColor OlvIconButton::penColor()
 
 bool isChecked(OlvIconButton *button)
 {
-    return button && button->property(checkableProperty).toBool()
-        && button->property(checkedProperty).toBool();
+    return button && button->property(ButtonsProperties::checkable).toBool()
+        && button->property(ButtonsProperties::checked).toBool();
 }
