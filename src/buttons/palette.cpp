@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "buttons/palette_p.h"
 
+#include <OlvWidgets/foundation.h>
+
+#include <QColor>
+
 #include <utility>
 
 namespace {
@@ -14,17 +18,22 @@ constexpr ButtonPalette warning{ { qRgb(253, 246, 236), qRgb(245, 218, 177), qRg
 constexpr ButtonPalette danger{ { qRgb(254, 240, 240), qRgb(251, 196, 196), qRgb(247, 137, 137),
                                   qRgb(245, 108, 108), qRgb(221, 97, 97) } };
 
-constexpr int shadeCount = 5;
+QStringList inWords(const ButtonPalette &palette)
+{
+    QStringList words;
+    for (QRgb shade : palette.shades) {
+        words << OlvColorToString(QColor(shade));
+    }
+    return words;
+}
 
 /**
- * The shades of applications, the primary ones at first. No scheme reads them: a button of an
- * unknown scheme is red, so that a mistyped name shows.
+ * The shades that the application set, the primary ones at first. They are only kept: no scheme
+ * draws with them.
  */
 QStringList &customShades()
 {
-    static QStringList shades{ QStringLiteral("236,245,255"), QStringLiteral("179,216,255"),
-                               QStringLiteral("102,177,255"), QStringLiteral("64,158,255"),
-                               QStringLiteral("58,142,230") };
+    static QStringList shades = inWords(primary);
     return shades;
 }
 
@@ -46,7 +55,7 @@ const ButtonPalette &buttonPalette(const QString &color)
 
 void setCustomButtonShades(QStringList shades)
 {
-    if (shades.size() >= shadeCount) {
+    if (shades.size() >= int(primary.shades.size())) {
         customShades() = std::move(shades);
     }
 }
