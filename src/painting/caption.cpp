@@ -2,7 +2,7 @@
 #include "painting/caption_p.h"
 
 #include "painting/canvas_p.h"
-#include "painting/keptpixels_p.h"
+#include "painting/pixelcache_p.h"
 
 #include <OlvWidgets/foundation.h>
 
@@ -15,6 +15,8 @@
 
 #include <array>
 #include <atomic>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -184,7 +186,7 @@ public:
     }
     Q_DISABLE_COPY(Store)
 
-    KeptPixels<Key, Pixels> pixels{ bytesOfAll };
+    PixelCache<Key, Pixels> pixels{ bytesOfAll };
 
 private:
     Store() = default;
@@ -213,14 +215,11 @@ void Caption::draw(const Canvas &canvas, const CaptionGround &ground) const
         return;
     }
     const Key key = keyOf(painter, ground, target->format());
-    bool isWritten = false;
-    const Pixels *pixels = Store::instance().pixels.find(key, [&](Key &kept) {
-        // a constant of a plugin's, which may be unloaded
-        kept.text.detach();
-        isWritten = true;
-        return writeAndKeep(painter, ground, *target, key);
-    });
-    if (!isWritten && (!pixels || !pixels->draw(painter))) {
+    PixelCache<Key, Pixels> &cache = Store::instance().pixels;
+    const Pixels *cached = cache.find(key);
+    if (!cached && cache.admits(key)) {
+        writeAndInsert(painter, ground, *target, key);
+    } else if (!cached || !cached->draw(painter)) {
         write(painter, ground);
     }
 }
@@ -229,7 +228,7 @@ bool Caption::mayBeKept(const CaptionGround &ground, const QImage &target) const
 {
     return isWindowFormat(target.format()) && ground.color.rgba64().isOpaque()
         && text.size() <= longestText
-        && Store::instance().pixels.isSmall(ground.shape.rect().size());
+        && Store::instance().pixels.accepts(ground.shape.rect().size());
 }
 
 Caption::Key Caption::keyOf(const QPainter &painter, const CaptionGround &ground,
@@ -252,15 +251,15 @@ Caption::Key Caption::keyOf(const QPainter &painter, const CaptionGround &ground
              painter.layoutDirection() };
 }
 
-Caption::Pixels *Caption::writeAndKeep(QPainter &painter, const CaptionGround &ground,
-                                       const QImage &target, const Key &key) const
+void Caption::writeAndInsert(QPainter &painter, const CaptionGround &ground, const QImage &target,
+                             Key key) const
 {
     const QTransform &transform = painter.deviceTransform();
     const QRect area = ground.shape.rect().translated(int(transform.dx()), int(transform.dy()));
     if (!isExposed(painter, area, target)
         || pointSize * key.dotsPerInchY > largestPixelSize * pointsPerInch) {
         write(painter, ground);
-        return nullptr;
+        return;
     }
     // taken from where Qt has written it: into an image apart it would smooth the glyphs otherwise
     const QImage before = target.copy(area);
@@ -271,7 +270,10 @@ Caption::Pixels *Caption::writeAndKeep(QPainter &painter, const CaptionGround &g
         QFontMetrics(tried).height(); // finds it, as measuring did
         fonts.append(tried);
     }
-    return new Pixels(before, target.copy(area), key, fonts);
+    // its characters may be a constant of a plugin, which may be unloaded
+    key.text.detach();
+    auto pixels = std::make_unique<Pixels>(before, target.copy(area), key, fonts);
+    Store::instance().pixels.insert(key, std::move(pixels));
 }
 
 int Caption::write(QPainter &painter, const CaptionGround &ground) const

@@ -47,8 +47,8 @@ private:
 
     bool mayBeKept(const CaptionGround &ground, const QImage &target) const;
     Key keyOf(const QPainter &painter, const CaptionGround &ground, QImage::Format format) const;
-    Pixels *writeAndKeep(QPainter &painter, const CaptionGround &ground, const QImage &target,
-                         const Key &key) const;
+    void writeAndInsert(QPainter &painter, const CaptionGround &ground, const QImage &target,
+                        Key key) const;
     /** Returns the point size that fits. */
     int write(QPainter &painter, const CaptionGround &ground) const;
 };

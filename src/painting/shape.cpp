@@ -2,7 +2,7 @@
 #include "painting/shape_p.h"
 
 #include "painting/canvas_p.h"
-#include "painting/keptpixels_p.h"
+#include "painting/pixelcache_p.h"
 
 #include <QImage>
 #include <QPainter>
@@ -10,27 +10,28 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
+#include <utility>
 
 namespace {
 
-constexpr int bytesOfAll = 1024 * 1024;
-constexpr int opaque = 255;
+constexpr int maxCacheBytes = 1024 * 1024;
 constexpr int smallestDiameter = 4;
 
-/** The outline's outer half, and a pixel that it may touch. */
+/** How far an outline reaches beyond the shape: its outer half, and a pixel that it may touch. */
 int marginOf(int lineWidth)
 {
     return lineWidth > 0 ? (lineWidth + 1) / 2 + 1 : 0;
 }
 
 /**
- * Whether the shape's pixels are the same wherever it is and whatever it covers.
+ * Whether the shape's pixels are the same at each position and on every background.
  *
- * Qt draws outlines up to a pixel wide line by line, and blends where two lines meet twice. Arcs of
- * a radius of one pixel are flattened this way or that, depending on their position; one pixel more
- * is kept as a distance from there.
+ * Qt draws outlines up to a pixel wide line by line, and blends twice where two lines meet. How it
+ * flattens arcs of a radius of one pixel depends on their position; with one pixel more there is a
+ * margin.
  */
-bool isProven(QSize size, int radius, int lineWidth)
+bool isPositionIndependent(QSize size, int radius, int lineWidth)
 {
     const int diameter = qMin(2 * radius, qMin(size.width(), size.height()));
     return lineWidth != 1 && diameter >= lineWidth + smallestDiameter;
@@ -38,8 +39,8 @@ bool isProven(QSize size, int radius, int lineWidth)
 
 } // namespace
 
-/** What tells one layer from another: a shape's size in one colour, filled or outlined. */
-struct Shape::Layer
+/** What the pixels of a filled shape or of an outline depend on. */
+struct Shape::Key
 {
     Kind kind;
     QSize size;
@@ -47,21 +48,21 @@ struct Shape::Layer
     int lineWidth; ///< 0 for the filled shape
     quint64 color; ///< as a QRgba64
 
-    friend bool operator==(const Layer &a, const Layer &b)
+    friend bool operator==(const Key &a, const Key &b)
     {
         return a.color == b.color && a.size == b.size && a.kind == b.kind && a.radius == b.radius
             && a.lineWidth == b.lineWidth;
     }
 
-    friend uint qHash(const Layer &layer, uint seed)
+    friend uint qHash(const Key &key, uint seed)
     {
-        const std::array<int, 5> numbers{ layer.kind, layer.size.width(), layer.size.height(),
-                                          layer.radius, layer.lineWidth };
-        return qHashRange(numbers.cbegin(), numbers.cend(), ::qHash(layer.color, seed));
+        const std::array<int, 5> numbers{ key.kind, key.size.width(), key.size.height(), key.radius,
+                                          key.lineWidth };
+        return qHashRange(numbers.cbegin(), numbers.cend(), ::qHash(key.color, seed));
     }
 };
 
-/** The pixels of a layer. */
+/** The pixels of a key. */
 class Shape::Pixels
 {
 public:
@@ -86,8 +87,7 @@ private:
     QImage rows(int first, int end, QImage::Format format) const;
 
     QImage m_all;
-    // What follows are rows of the image above, without memory of their own. A rectangle's middle
-    // covers what is below: told so, Qt copies it and blends nothing.
+    // These are rows of m_all and share its memory. Qt copies the opaque ones without blending.
     QImage m_top;
     QImage m_opaque;
     QImage m_bottom;
@@ -99,7 +99,7 @@ Shape::Pixels::Pixels(const QImage &image)
     const auto isOpaque = [&](int row) {
         const auto *pixels = reinterpret_cast<const QRgb *>(m_all.constScanLine(row));
         return std::all_of(pixels, pixels + m_all.width(),
-                           [](QRgb pixel) { return qAlpha(pixel) == opaque; });
+                           [](QRgb pixel) { return qAlpha(pixel) == 255; });
     };
     int first = 0;
     while (first < m_all.height() && !isOpaque(first)) {
@@ -123,22 +123,22 @@ QImage Shape::Pixels::rows(int first, int end, QImage::Format format) const
                        : QImage();
 }
 
-QImage Shape::rasterised(const Layer &layer)
+QImage Shape::rasterised(const Key &key)
 {
-    const int margin = marginOf(layer.lineWidth);
-    QImage image(layer.size + QSize(2 * margin, 2 * margin), QImage::Format_ARGB32_Premultiplied);
+    const int margin = marginOf(key.lineWidth);
+    QImage image(key.size + QSize(2 * margin, 2 * margin), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = QColor::fromRgba64(QRgba64::fromRgba64(layer.color));
-    if (layer.lineWidth > 0) {
-        painter.setPen(QPen(color, layer.lineWidth));
+    const QColor color = QColor::fromRgba64(QRgba64::fromRgba64(key.color));
+    if (key.lineWidth > 0) {
+        painter.setPen(QPen(color, key.lineWidth));
         painter.setBrush(Qt::NoBrush);
     } else {
         painter.setPen(Qt::NoPen);
         painter.setBrush(color);
     }
-    Shape(layer.kind, QRect(QPoint(margin, margin), layer.size), layer.radius).draw(painter);
+    Shape(key.kind, QRect(QPoint(margin, margin), key.size), key.radius).draw(painter);
     return image;
 }
 
@@ -165,7 +165,7 @@ QRect Shape::rect() const
 
 void Shape::fill(const Canvas &canvas, const QColor &color) const
 {
-    if (!drawFromLayer(canvas, { m_kind, m_rect.size(), m_radius, 0, color.rgba64() })) {
+    if (!drawCached(canvas, { m_kind, m_rect.size(), m_radius, 0, color.rgba64() })) {
         QPainter &painter = canvas.painter();
         painter.setPen(Qt::NoPen);
         painter.setBrush(color);
@@ -175,7 +175,7 @@ void Shape::fill(const Canvas &canvas, const QColor &color) const
 
 void Shape::stroke(const Canvas &canvas, const QColor &color, int width) const
 {
-    if (!drawFromLayer(canvas, { m_kind, m_rect.size(), m_radius, width, color.rgba64() })) {
+    if (!drawCached(canvas, { m_kind, m_rect.size(), m_radius, width, color.rgba64() })) {
         QPainter &painter = canvas.painter();
         painter.setPen(QPen(color, width));
         painter.setBrush(Qt::NoBrush);
@@ -183,20 +183,26 @@ void Shape::stroke(const Canvas &canvas, const QColor &color, int width) const
     }
 }
 
-bool Shape::drawFromLayer(const Canvas &canvas, const Layer &layer) const
+bool Shape::drawCached(const Canvas &canvas, const Key &key) const
 {
-    static KeptPixels<Layer, Pixels> layers(bytesOfAll);
-    const int margin = marginOf(layer.lineWidth);
-    if (!layers.isSmall(m_rect.size() + QSize(2 * margin, 2 * margin))
-        || !isProven(m_rect.size(), m_radius, layer.lineWidth) || !canvas.copyTarget()) {
+    static PixelCache<Key, Pixels> cache(maxCacheBytes);
+    const int margin = marginOf(key.lineWidth);
+    if (!canvas.copyTarget() || !cache.accepts(m_rect.size() + QSize(2 * margin, 2 * margin))
+        || !isPositionIndependent(m_rect.size(), m_radius, key.lineWidth)) {
         return false;
     }
-    const Pixels *pixels =
-        layers.find(layer, [&](Layer & /*kept*/) { return new Pixels(rasterised(layer)); });
-    if (pixels) {
-        pixels->draw(canvas.painter(), m_rect.topLeft() - QPoint(margin, margin));
+    const QPoint topLeft = m_rect.topLeft() - QPoint(margin, margin);
+    if (const Pixels *cached = cache.find(key)) {
+        cached->draw(canvas.painter(), topLeft);
+        return true;
     }
-    return pixels;
+    if (!cache.admits(key)) {
+        return false;
+    }
+    auto pixels = std::make_unique<Pixels>(rasterised(key));
+    pixels->draw(canvas.painter(), topLeft);
+    cache.insert(key, std::move(pixels));
+    return true;
 }
 
 bool Shape::isPlain(const QRect &part, int lineWidth) const

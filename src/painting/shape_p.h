@@ -55,13 +55,15 @@ private:
         Ellipse,
     };
 
-    struct Layer;
+    struct Key;
     class Pixels;
 
     Shape(Kind kind, const QRect &rect, int radius);
 
-    static QImage rasterised(const Layer &layer);
-    bool drawFromLayer(const Canvas &canvas, const Layer &layer) const;
+    /** Its pixels on a transparent background, with a margin for the outline. */
+    static QImage rasterised(const Key &key);
+    /** Returns whether it was drawn: false where the shape has to be drawn directly. */
+    bool drawCached(const Canvas &canvas, const Key &key) const;
     void draw(QPainter &painter) const;
 
     Kind m_kind;
