@@ -5,7 +5,6 @@
 #include <OlvWidgets/olvwidgets_export.h>
 #include <OlvWidgets/widget.h>
 
-#include <QPointer>
 #include <QString>
 
 #include <cstddef>
@@ -70,6 +69,8 @@ public:
      * first resize.
      */
     explicit OlvLineEdit(QWidget *parent = nullptr);
+    /** The text and the button go with it. */
+    ~OlvLineEdit() override;
 
     /** The text. */
     QVariant getValue() override;
@@ -116,8 +117,8 @@ protected:
 private:
     int iconWidth(const QString &icon) const;
 
-    QPointer<QLineEdit> m_editor;
-    QPointer<OlvSimpleIconButton> m_pwdButton;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**
@@ -204,8 +205,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    struct Capture;
-
-    std::unique_ptr<Capture> m_capture;
-    QPointer<OlvShortcut> m_held;
+    class Private;
+    const std::unique_ptr<Private> d;
 };

@@ -6,6 +6,7 @@
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 
 namespace {
 
@@ -29,8 +30,17 @@ QString normalState()
 
 } // namespace
 
+/** The parts of a line; an application may find and delete either. */
+class OlvLineEdit::Private
+{
+public:
+    QPointer<QLineEdit> editor;
+    QPointer<OlvSimpleIconButton> pwdButton;
+};
+
 OlvLineEdit::OlvLineEdit(QWidget *parent)
     : OlvWidget(parent)
+    , d(std::make_unique<Private>())
 {
     const QString visible = QStringLiteral("✍");
     const QString invisible = QStringLiteral("※");
@@ -43,17 +53,20 @@ OlvLineEdit::OlvLineEdit(QWidget *parent)
     activateWindow();
     setFocusPolicy(Qt::StrongFocus);
 
-    m_editor = new QLineEdit(this);
-    m_editor->setStyleSheet(QStringLiteral("border: none;background-color:rgba(0,0,0,0)"));
-    m_editor->installEventFilter(this);
+    d->editor = new QLineEdit(this);
+    d->editor->setStyleSheet(QStringLiteral("border: none;background-color:rgba(0,0,0,0)"));
+    d->editor->installEventFilter(this);
 
-    m_pwdButton = new OlvSimpleIconButton(visible, QFont(QStringLiteral("FontAwesome")), this);
-    m_pwdButton->hide();
-    m_pwdButton->setToggle(invisible);
-    connect(m_pwdButton, &QPushButton::clicked, m_editor, [editor = m_editor.data()](bool checked) {
-        editor->setEchoMode(checked ? QLineEdit::Normal : QLineEdit::Password);
-    });
+    d->pwdButton = new OlvSimpleIconButton(visible, QFont(QStringLiteral("FontAwesome")), this);
+    d->pwdButton->hide();
+    d->pwdButton->setToggle(invisible);
+    connect(d->pwdButton, &QPushButton::clicked, d->editor,
+            [editor = d->editor.data()](bool checked) {
+                editor->setEchoMode(checked ? QLineEdit::Normal : QLineEdit::Password);
+            });
 }
+
+OlvLineEdit::~OlvLineEdit() = default;
 
 QVariant OlvLineEdit::getValue()
 {
@@ -65,28 +78,27 @@ void OlvLineEdit::setValue(const QVariant &value)
     setText(value.toString());
 }
 
-// whoever finds the children may delete them: each use asks whether they are still there
 void OlvLineEdit::setText(const QString &text)
 {
-    if (m_editor) {
-        m_editor->setText(text);
+    if (d->editor) {
+        d->editor->setText(text);
     }
 }
 
 QString OlvLineEdit::getText()
 {
-    return m_editor ? m_editor->text() : QString();
+    return d->editor ? d->editor->text() : QString();
 }
 
 QLineEdit *OlvLineEdit::lineEdit() const
 {
-    return m_editor;
+    return d->editor;
 }
 
 void OlvLineEdit::setPlaceholderText(const QString &text)
 {
-    if (m_editor) {
-        m_editor->setPlaceholderText(text);
+    if (d->editor) {
+        d->editor->setPlaceholderText(text);
     }
 }
 
@@ -101,11 +113,11 @@ void OlvLineEdit::setIcon(const QString &icon)
 void OlvLineEdit::setPassWord(bool on)
 {
     setProperty(passwordProperty, on);
-    if (m_pwdButton) {
-        m_pwdButton->setVisible(on);
+    if (d->pwdButton) {
+        d->pwdButton->setVisible(on);
     }
-    if (m_editor) {
-        m_editor->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
+    if (d->editor) {
+        d->editor->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
     }
     resizeEvent(nullptr);
     update();
@@ -113,8 +125,8 @@ void OlvLineEdit::setPassWord(bool on)
 
 void OlvLineEdit::setPwdIcon(const QString &hidden, const QString &shown)
 {
-    if (m_pwdButton) {
-        m_pwdButton->setTextIcon(hidden, shown);
+    if (d->pwdButton) {
+        d->pwdButton->setTextIcon(hidden, shown);
     }
 }
 
@@ -150,28 +162,28 @@ void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
         sized.setPointSize(height() / 2);
     }
     setFont(sized);
-    if (m_editor) {
-        m_editor->setFont(sized);
+    if (d->editor) {
+        d->editor->setFont(sized);
     }
-    if (m_pwdButton) {
-        m_pwdButton->setFont(sized);
+    if (d->pwdButton) {
+        d->pwdButton->setFont(sized);
     }
 
     const int column = iconWidth(property(iconProperty).toString());
     const int pwdWidth = property(passwordProperty).toBool() ? height() : 0;
     setProperty(iconWidthProperty, column);
-    if (m_editor) {
-        m_editor->setGeometry(column, 0, width() - column - pwdWidth, height());
+    if (d->editor) {
+        d->editor->setGeometry(column, 0, width() - column - pwdWidth, height());
     }
-    if (m_pwdButton) {
-        m_pwdButton->setGeometry(width() - height(), 0, height(), height());
+    if (d->pwdButton) {
+        d->pwdButton->setGeometry(width() - height(), 0, height(), height());
     }
 }
 
 void OlvLineEdit::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (m_editor) {
-        m_editor->setFocus(Qt::OtherFocusReason);
+    if (d->editor) {
+        d->editor->setFocus(Qt::OtherFocusReason);
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <utility>
 
@@ -20,10 +21,8 @@ constexpr int frameRadius = 3;
 constexpr int frameWidth = 1;
 constexpr QRgb focusedColor = qRgb(32, 32, 32);
 
-} // namespace
-
 /** The keys that were noted. */
-struct OlvShortcutEdit::Capture
+struct Capture
 {
     bool ctrl = false;
     bool shift = false;
@@ -56,15 +55,24 @@ struct OlvShortcutEdit::Capture
     }
 };
 
+} // namespace
+
+class OlvShortcutEdit::Private
+{
+public:
+    Capture capture;
+    QPointer<OlvShortcut> held;
+};
+
 OlvShortcutEdit::OlvShortcutEdit(QWidget *parent)
     : OlvWidget(parent)
-    , m_capture(std::make_unique<Capture>())
+    , d(std::make_unique<Private>())
 {
     qRegisterMetaType<OlvShortcut *>("OlvShortcut*");
     setWindowFlags(Qt::FramelessWindowHint);
     setProperty(hasShortcutProperty, false);
     setFocusPolicy(Qt::StrongFocus);
-    setProperty(captureProperty, reinterpret_cast<qulonglong>(m_capture.get()));
+    setProperty(captureProperty, reinterpret_cast<qulonglong>(&d->capture));
     setToolTip(QStringLiteral("请直接在键盘上输入新的快捷键"));
 }
 
@@ -76,7 +84,7 @@ OlvShortcutEdit::OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent)
 
 OlvShortcutEdit::~OlvShortcutEdit()
 {
-    delete m_held;
+    delete d->held;
 }
 
 OlvShortcut *OlvShortcutEdit::shortcut()
@@ -84,8 +92,8 @@ OlvShortcut *OlvShortcutEdit::shortcut()
     // The properties are open to anybody's writing: they can hide the shortcut, but not name
     // another.
     const bool isHeld = property(hasShortcutProperty).toBool()
-        && property(shortcutProperty).toULongLong() == reinterpret_cast<qulonglong>(m_held.data());
-    return isHeld ? m_held.data() : nullptr;
+        && property(shortcutProperty).toULongLong() == reinterpret_cast<qulonglong>(d->held.data());
+    return isHeld ? d->held.data() : nullptr;
 }
 
 QVariant OlvShortcutEdit::getValue()
@@ -109,13 +117,13 @@ bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
     const bool isActive = candidate->active();
     // an application's own shortcut may do anything in its operations
     if (!self || !candidate || !isActive) {
-        if (!self || candidate != m_held) {
+        if (!self || candidate != d->held) {
             delete candidate;
         }
         return false;
     }
-    if (candidate != m_held) {
-        const QPointer<OlvShortcut> before(std::exchange(m_held, candidate));
+    if (candidate != d->held) {
+        const QPointer<OlvShortcut> before(std::exchange(d->held, candidate));
         if (before && property(hasShortcutProperty).toBool()) {
             before->destroy();
         }
@@ -139,7 +147,7 @@ void OlvShortcutEdit::clear()
         return;
     }
     const QPointer<OlvShortcutEdit> self(this);
-    delete m_held;
+    delete d->held;
     if (self) {
         setProperty(hasShortcutProperty, false);
     }
@@ -147,36 +155,36 @@ void OlvShortcutEdit::clear()
 
 void OlvShortcutEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (!m_capture->recording) {
-        *m_capture = Capture();
-        m_capture->key = Qt::Key_unknown;
-        m_capture->recording = true;
+    if (!d->capture.recording) {
+        d->capture = Capture();
+        d->capture.key = Qt::Key_unknown;
+        d->capture.recording = true;
     }
-    if (bool *modifier = m_capture->modifier(event->key())) {
+    if (bool *modifier = d->capture.modifier(event->key())) {
         *modifier = true;
     } else {
-        m_capture->key = event->key();
+        d->capture.key = event->key();
     }
 }
 
 void OlvShortcutEdit::keyReleaseEvent(QKeyEvent *event)
 {
-    if (bool *modifier = m_capture->modifier(event->key())) {
+    if (bool *modifier = d->capture.modifier(event->key())) {
         *modifier = false;
-    } else if (m_capture->key != Qt::Key_unknown) {
+    } else if (d->capture.key != Qt::Key_unknown) {
         const QPointer<OlvShortcutEdit> self(this);
-        setShortcut(new OlvShortcut(m_capture->qtKey(), m_capture->ctrl, m_capture->shift,
-                                    m_capture->alt, m_capture->meta));
+        setShortcut(new OlvShortcut(d->capture.qtKey(), d->capture.ctrl, d->capture.shift,
+                                    d->capture.alt, d->capture.meta));
         if (!self) {
             return;
         }
         update();
     }
     // Once a key has been noted it stays noted, so that recording ends only with modifiers alone.
-    const bool isEmpty = !m_capture->ctrl && !m_capture->shift && !m_capture->alt
-        && !m_capture->meta && m_capture->key == Qt::Key_unknown;
+    const bool isEmpty = !d->capture.ctrl && !d->capture.shift && !d->capture.alt
+        && !d->capture.meta && d->capture.key == Qt::Key_unknown;
     if (isEmpty) {
-        m_capture->recording = false;
+        d->capture.recording = false;
     }
 }
 
