@@ -50,14 +50,22 @@ QString nameOf(Qt::Key key)
 
 } // namespace
 
+class OlvShortcut::Private
+{
+public:
+    Qt::Key key = Qt::Key_unknown;
+    Qt::KeyboardModifiers modifiers;
+};
+
 OlvShortcut::OlvShortcut(Qt::Key key, bool ctrl, bool shift, bool alt, bool meta, QObject *parent)
     : QObject(parent)
-    , m_key(key)
+    , d(std::make_unique<Private>())
 {
-    m_modifiers.setFlag(Qt::ControlModifier, ctrl);
-    m_modifiers.setFlag(Qt::ShiftModifier, shift);
-    m_modifiers.setFlag(Qt::AltModifier, alt);
-    m_modifiers.setFlag(Qt::MetaModifier, meta);
+    d->key = key;
+    d->modifiers.setFlag(Qt::ControlModifier, ctrl);
+    d->modifiers.setFlag(Qt::ShiftModifier, shift);
+    d->modifiers.setFlag(Qt::AltModifier, alt);
+    d->modifiers.setFlag(Qt::MetaModifier, meta);
     livingShortcuts().insert(this);
 }
 
@@ -70,7 +78,7 @@ OlvShortcut::~OlvShortcut()
 bool OlvShortcut::active()
 {
     ShortcutBackend *backend = ShortcutBackend::instance();
-    return backend && backend->grab(this, m_key, m_modifiers);
+    return backend && backend->grab(this, d->key, d->modifiers);
 }
 
 void OlvShortcut::destroy()
@@ -82,15 +90,15 @@ void OlvShortcut::destroy()
 
 QString OlvShortcut::toString()
 {
-    if (!isWithoutText(m_key)) {
-        return QKeySequence(int(m_modifiers) | m_key).toString(QKeySequence::NativeText);
+    if (!isWithoutText(d->key)) {
+        return QKeySequence(int(d->modifiers) | d->key).toString(QKeySequence::NativeText);
     }
     // the text of the modifiers comes with a key behind it: a space takes its place
     const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
     QString text =
-        QKeySequence(int(m_modifiers) | Qt::Key_Space).toString(QKeySequence::NativeText);
+        QKeySequence(int(d->modifiers) | Qt::Key_Space).toString(QKeySequence::NativeText);
     text.chop(space.size());
-    return text + nameOf(m_key);
+    return text + nameOf(d->key);
 }
 
 OlvShortcut *OlvShortcut::fromAddress(qulonglong address)

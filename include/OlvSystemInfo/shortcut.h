@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 /**
  * @file shortcut.h
  * Keyboard shortcuts that work on the whole desktop.
@@ -75,6 +77,6 @@ Q_SIGNALS:
 private:
     Q_DISABLE_COPY(OlvShortcut)
 
-    Qt::Key m_key;
-    Qt::KeyboardModifiers m_modifiers;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
