@@ -4,7 +4,6 @@
 #include <OlvSystemInfo/shortcut.h>
 
 #include <QSocketNotifier>
-#include <QTimer>
 
 #include <cstdlib>
 
@@ -50,6 +49,7 @@ bool X11Backend::grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers 
         return true;
     }
     const QVector<X11Key> keys = m_keymap->keysOf(key, modifiers);
+    readEventsSoon();
     // The server would grant this connection the same keys again, and letting go of either would
     // let go of both.
     if (keys.isEmpty() || !isFree(keys) || !grabKeys(keys)) {
@@ -64,6 +64,7 @@ void X11Backend::release(OlvShortcut *shortcut)
     const Registration registration = m_registrations.take(shortcut);
     if (!registration.keys.isEmpty() && isAlive()) {
         ungrabKeys(registration.keys);
+        readEventsSoon();
     }
 }
 
@@ -99,7 +100,6 @@ bool X11Backend::grabKeys(const QVector<X11Key> &keys)
     if (!granted) {
         ungrabKeys(keys);
     }
-    readEventsSoon();
     return granted && isAlive();
 }
 
@@ -135,8 +135,10 @@ OlvShortcut *X11Backend::holderOf(X11Key key) const
 
 void X11Backend::readEventsSoon()
 {
-    // Waiting for an answer takes events from the socket, of which the notifier then says nothing.
-    QTimer::singleShot(0, this, [this] { readEvents(); });
+    // Sending a request and waiting for a reply also move the events that have arrived from the
+    // socket to the queue of the connection, and the notifier only watches the socket.
+    QMetaObject::invokeMethod(
+        this, [this] { readEvents(); }, Qt::QueuedConnection);
 }
 
 void X11Backend::readEvents()
@@ -153,6 +155,7 @@ void X11Backend::readEvents()
     if (m_mappingChanged) {
         m_mappingChanged = false;
         followMapping();
+        readEventsSoon();
     }
     for (const QPointer<OlvShortcut> &shortcut : qAsConst(activations)) {
         if (shortcut) {
