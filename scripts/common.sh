@@ -18,7 +18,7 @@ display_packages=(xvfb openbox x11-utils)
 picture_packages=(optipng xdotool imagemagick picom hsetroot)
 test_packages=(
     "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev
-    qtbase5-private-dev at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
+    qtbase5-private-dev libqt5sql5-sqlite at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     qttools5-dev qttools5-dev-tools dpkg-dev
     abigail-tools python3 doxygen
 )

@@ -70,7 +70,8 @@ int main(int argc, char **argv)
     }
     // the utilities come last: theirs ends the process-wide list of clean-up callables
     const QVector<Picture> pictures = buttonPictures() + inputPictures() + valuePictures()
-        + framePictures() + containerPictures() + foundationPictures() + utilityPictures();
+        + framePictures() + containerPictures() + formPictures() + foundationPictures()
+        + utilityPictures();
     for (const Picture &picture : pictures) {
         if (!write(picture, QDir(arguments.last()))) {
             errors << "The picture of " << picture.className << " could not be written\n";

@@ -27,6 +27,7 @@ QVector<Picture> inputPictures();
 QVector<Picture> valuePictures();
 QVector<Picture> framePictures();
 QVector<Picture> containerPictures();
+QVector<Picture> formPictures();
 
 /** Lets the event loop run until the time, in milliseconds, is over. */
 void settle(int milliseconds = 50);

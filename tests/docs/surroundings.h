@@ -5,9 +5,11 @@
 #include <OlvWidgets/OlvWidgets>
 
 #include <QApplication>
+#include <QDataWidgetMapper>
 #include <QDebug>
 #include <QLabel>
 #include <QPushButton>
+#include <QStandardItemModel>
 #include <QThread>
 
 // The examples of the classes' documentation stand in what they take for granted: files named after
@@ -238,6 +240,28 @@ inline QPoint placeOf(const QWidget &window, OlvResizeItem::ResizeType type)
     }
     return {};
 }
+
+/** As QSqlTableModel has it. */
+struct Table : QStandardItemModel
+{
+    Table()
+        : QStandardItemModel(1, 3)
+    { }
+    int fieldIndex(const QString &name) const
+    {
+        return QStringList({ "name", "notify", "volume" }).indexOf(name);
+    }
+};
+
+class RecordForm : public QWidget
+{
+public:
+    explicit RecordForm(Table *model){
+#include "OlvValueDelegate.inc"
+    } OlvLineEdit *name = new OlvLineEdit(this);
+    OlvSwitch *notify = new OlvSwitch(this);
+    OlvSlider *volume = new OlvSlider(this);
+};
 
 class BarWindow : public QWidget
 {

@@ -109,6 +109,17 @@ private Q_SLOTS:
         Q_EMIT recorder.key->activated();
         QCOMPARE(recorder.started, 1);
     }
+    void recordsAreShownAndStored()
+    {
+        Table table;
+        table.setData(table.index(0, 1), true, Qt::EditRole);
+        table.setData(table.index(0, 2), 60, Qt::EditRole);
+        RecordForm form(&table);
+        QVERIFY(form.notify->isChecked());
+        QCOMPARE(form.volume->getValue(), QVariant(60));
+        form.notify->setChecked(false);
+        QCOMPARE(table.index(0, 1).data(Qt::EditRole), QVariant(false));
+    }
     void sliderSetsTheVolume()
     {
         Mixer mixer;
