@@ -83,7 +83,6 @@ private Q_SLOTS:
     void knowsWhichChildHasTheFocus();
     void hasTheColorsOfItsPalette();
     void tellsOnlyWhileSomebodyLooks();
-    void tellsOfWidgetsMadeWhileSomebodyLooks();
     void tellsNothingTwice();
     void tellsNothingOfAWidgetThatGoes();
 };
@@ -340,15 +339,6 @@ void TestAccessibility::tellsOnlyWhileSomebodyLooks()
         button.setText(QStringLiteral("Save as"));
         QCOMPARE(assistant.heardOf(&button), QStringList{ QStringLiteral("name Save as") });
     }
-}
-
-void TestAccessibility::tellsOfWidgetsMadeWhileSomebodyLooks()
-{
-    Assistant assistant;
-    OlvButton button(QStringLiteral("Save"));
-    button.show();
-    button.setText(QStringLiteral("Store"));
-    QCOMPARE(assistant.heardOf(&button), QStringList{ QStringLiteral("name Store") });
 }
 
 void TestAccessibility::tellsNothingTwice()

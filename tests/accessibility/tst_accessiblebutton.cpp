@@ -29,8 +29,6 @@ private Q_SLOTS:
     void isPressed();
     void isPressedAsByTheMouse();
     void disabledIsNotPressed();
-    void survivesDeletionByItsSlots_data();
-    void survivesDeletionByItsSlots();
     void tellsOfClicks();
     void tellsOfPropertiesThatAreOverwritten_data();
     void tellsOfPropertiesThatAreOverwritten();
@@ -166,29 +164,6 @@ void TestAccessibleButton::disabledIsNotPressed()
     accessible(&button)->actionInterface()->doAction(toggle());
     accessible(&button)->actionInterface()->doAction(QStringLiteral("none"));
     QCOMPARE(clicked.count(), 0);
-}
-
-void TestAccessibleButton::survivesDeletionByItsSlots_data()
-{
-    QTest::addColumn<bool>("whenToggled");
-    QTest::newRow("clicked") << false;
-    QTest::newRow("toggled") << true;
-}
-
-void TestAccessibleButton::survivesDeletionByItsSlots()
-{
-    QFETCH(const bool, whenToggled);
-    const Assistant assistant;
-    const QPointer<OlvButton> button(new OlvButton(QStringLiteral("Close")));
-    button->setCheckable(true);
-    button->show();
-    if (whenToggled) {
-        connect(button, &OlvButton::toggled, this, [&] { delete button; });
-    } else {
-        connect(button, &OlvButton::clicked, this, [&] { delete button; });
-    }
-    QVERIFY(act(button, press()));
-    QVERIFY(!button);
 }
 
 void TestAccessibleButton::tellsOfClicks()

@@ -55,7 +55,6 @@ private Q_SLOTS:
     void buttonsOfABarAreToggled();
     void maximiseTellsItsNewName();
     void exclusionIsTold();
-    void survivesDeletionByItsSlots();
     void survivesDeletionByWhoeverHearsOfItsGlyph();
     void otherPushButtonsAreAsQtHasThem();
     void glyphsAreNoNames_data();
@@ -159,14 +158,6 @@ void TestAccessibleGlyphButton::exclusionIsTold()
     QCOMPARE(assistant.heardOf(bar.windowButton(OlvControlBar::Top)),
              QStringList{ QStringLiteral("state checked") });
     QVERIFY(!accessible(bar.windowButton(OlvControlBar::Top))->state().checked);
-}
-
-void TestAccessibleGlyphButton::survivesDeletionByItsSlots()
-{
-    const QPointer<Bar> bar(new Bar);
-    connect(bar, &OlvControlBar::changed, this, [&] { delete bar; });
-    QVERIFY(act(bar->windowButton(OlvControlBar::Close), press()));
-    QVERIFY(!bar);
 }
 
 void TestAccessibleGlyphButton::survivesDeletionByWhoeverHearsOfItsGlyph()

@@ -24,14 +24,12 @@ class TestAccessibleSwitch : public QObject
 
 private Q_SLOTS:
     void isCheckableAndChecked();
-    void isCalledAsTheApplicationSays();
     void isToggled_data();
     void isToggled();
     void ignoresTogglesUntilItHasSwitched();
     void ignoresTogglesBehindAClick();
     void isToggledBesideOtherTimers();
     void disabledIsNotToggled();
-    void survivesDeletionByItsSlots();
     void survivesItsDeletionByWhoeverHearsThatItHasSwitched();
     void tellsWhenItHasSwitched();
     void tellsOfAnOverwrittenProperty();
@@ -46,14 +44,6 @@ void TestAccessibleSwitch::isCheckableAndChecked()
     QVERIFY(accessible(&widget)->state().checked);
     QCOMPARE(accessible(&widget)->actionInterface()->actionNames(),
              (QStringList{ toggle(), press() }));
-}
-
-void TestAccessibleSwitch::isCalledAsTheApplicationSays()
-{
-    OlvSwitch widget;
-    QCOMPARE(nameOf(&widget), QString());
-    widget.setAccessibleName(QStringLiteral("Wi-Fi"));
-    QCOMPARE(nameOf(&widget), QStringLiteral("Wi-Fi"));
 }
 
 void TestAccessibleSwitch::isToggled_data()
@@ -117,16 +107,6 @@ void TestAccessibleSwitch::disabledIsNotToggled()
     widget.setEnabled(false);
     accessible(&widget)->actionInterface()->doAction(toggle());
     QVERIFY(isResting(widget));
-}
-
-void TestAccessibleSwitch::survivesDeletionByItsSlots()
-{
-    const Assistant assistant;
-    const QPointer<OlvSwitch> widget(new OlvSwitch);
-    widget->show();
-    connect(widget, &OlvSwitch::valueChanged, this, [&] { delete widget; });
-    QVERIFY(act(widget, toggle()));
-    QTRY_VERIFY_WITH_TIMEOUT(!widget, 20000);
 }
 
 void TestAccessibleSwitch::survivesItsDeletionByWhoeverHearsThatItHasSwitched()

@@ -3,7 +3,6 @@
 
 #include <QHBoxLayout>
 #include <QMetaMethod>
-#include <QPointer>
 #include <QPushButton>
 #include <QSpacerItem>
 #include <QTest>
@@ -76,9 +75,6 @@ private Q_SLOTS:
     void readsTheIndexAtEachClick();
     void shortIconListsLeaveButtonsBlank();
     void formsGetGlyphsAndBracesNone();
-    void survivesDeletionFromItsSignals_data();
-    void survivesDeletionFromItsSignals();
-    void survivesTheLossOfAButton();
     void survivesAClickWhileAButtonIsDestroyed();
 };
 
@@ -337,45 +333,6 @@ void TestControlBar::formsGetGlyphsAndBracesNone()
     }
     buttonOf(*inForm, OlvControlBar::Max)->click();
     QCOMPARE(buttonOf(*inForm, OlvControlBar::Max)->text(), QString(QChar(0xf2d2)));
-}
-
-void TestControlBar::survivesDeletionFromItsSignals_data()
-{
-    QTest::addColumn<int>("place");
-    QTest::addColumn<bool>("wholeBar");
-    for (int place = 0; place < 7; ++place) {
-        for (const bool wholeBar : { false, true }) {
-            QTest::addRow("button %d, %s", place, wholeBar ? "the bar" : "the button")
-                << place << wholeBar;
-        }
-    }
-}
-
-void TestControlBar::survivesDeletionFromItsSignals()
-{
-    QFETCH(int, place);
-    QFETCH(bool, wholeBar);
-    const QPointer<Bar> bar(new Bar({ QStringLiteral("a") }));
-    const QPointer<QPushButton> button(bar->button(place));
-    bar->windowButton(OlvControlBar::Bottom)->setChecked(true);
-    const auto destroy = [=] {
-        delete (wholeBar ? static_cast<QWidget *>(bar) : button.data());
-    };
-    connect(bar, &OlvControlBar::changed, this, destroy);
-    connect(bar, &OlvControlBar::custom, this, destroy);
-    button->click();
-    QVERIFY(button.isNull());
-    QCOMPARE(bar.isNull(), wholeBar);
-    delete bar;
-}
-
-void TestControlBar::survivesTheLossOfAButton()
-{
-    Bar bar;
-    QPushButton *top = bar.windowButton(OlvControlBar::Top);
-    delete bar.windowButton(OlvControlBar::Bottom);
-    top->click();
-    QCOMPARE(bar.record, QStringList({ QStringLiteral("changed 2 1") }));
 }
 
 void TestControlBar::survivesAClickWhileAButtonIsDestroyed()

@@ -53,8 +53,6 @@ private Q_SLOTS:
     void knobKeepsItsFirstInsetUntilTheFirstResize();
     void consumesItsEvents();
     void getValueReturnsThePropertyAsItStands();
-    void survivesDeletionFromItsSignals_data();
-    void survivesDeletionFromItsSignals();
     void survivesDeletionByWhoeverFiltersItsProperties_data();
     void survivesDeletionByWhoeverFiltersItsProperties();
     void survivesHostileProperties_data();
@@ -180,41 +178,6 @@ void TestSwitch::getValueReturnsThePropertyAsItStands()
     QCOMPARE(toggle.getValue(), QVariant(QStringLiteral("on")));
     toggle.setProperty("switch", QVariant());
     QVERIFY(!toggle.getValue().isValid());
-}
-
-void TestSwitch::survivesDeletionFromItsSignals_data()
-{
-    QTest::addColumn<bool>("fromChanged");
-    QTest::addColumn<bool>("realTimer");
-    QTest::newRow("valueChanged") << false << false;
-    QTest::newRow("changed") << true << false;
-    QTest::newRow("valueChanged, real timer") << false << true;
-    QTest::newRow("changed, real timer") << true << true;
-}
-
-void TestSwitch::survivesDeletionFromItsSignals()
-{
-    QFETCH(bool, fromChanged);
-    QFETCH(bool, realTimer);
-    auto *parent = new QWidget;
-    const QPointer<OlvSwitch> toggle(new OlvSwitch(parent));
-    QSignalSpy changed(toggle, &OlvSwitch::changed);
-    if (fromChanged) {
-        connect(toggle, &OlvSwitch::changed, this, [=] { delete parent; });
-    } else {
-        connect(toggle, &OlvWidget::valueChanged, this, [=] { delete parent; });
-    }
-    if (realTimer) {
-        toggle->setValue(true);
-        QTRY_VERIFY(toggle.isNull());
-    } else {
-        for (int i = 0; i < 5; ++i) {
-            QVERIFY(toggle);
-            tick(*toggle);
-        }
-        QVERIFY(toggle.isNull());
-    }
-    QCOMPARE(changed.count(), fromChanged ? 1 : 0);
 }
 
 void TestSwitch::survivesDeletionByWhoeverFiltersItsProperties_data()

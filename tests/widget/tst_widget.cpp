@@ -50,7 +50,6 @@ private Q_SLOTS:
     void getsNoInputMethodEventsUnlessOpened();
     void tellsEveryCommit();
     void signalsBeforeTheBaseHandlesTheEvent();
-    void survivesASlotThatDeletesIt();
 };
 
 void TestWidget::isAPlainWidgetInItsParent()
@@ -185,14 +184,6 @@ void TestWidget::signalsBeforeTheBaseHandlesTheEvent()
     QVERIFY(acceptedWhenSignalled);
     // QWidget ignores the event; nothing of ours accepts it again
     QVERIFY(!event.isAccepted());
-}
-
-void TestWidget::survivesASlotThatDeletesIt()
-{
-    const QPointer<NumberWidget> widget(new NumberWidget);
-    connect(widget, &OlvWidget::inputMethodCommit, this, [=] { delete widget; });
-    commit(widget, {}, QStringLiteral("x"));
-    QVERIFY(widget.isNull());
 }
 
 QTEST_MAIN(TestWidget)
