@@ -3,7 +3,6 @@
 
 #include <OlvButton>
 
-#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -18,15 +17,10 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void hoversUnderThePointer();
-    void pressesAndClicks();
     void draggedOutItStaysPressedAndHearsOfItAfterTheRelease_data();
     void draggedOutItStaysPressedAndHearsOfItAfterTheRelease();
     void draggedOutAndInAgainItClicksOnce();
     void releasedOverItAfterAPressElsewhereDoesNothing();
-    void rightButtonClicks();
-    void doubleClickClicksTwice();
-    void togglesWhenCheckable();
-    void mayBeDeletedByItsClick();
 
 private:
     QString state() const
@@ -79,17 +73,6 @@ void TestButtonOnServer::hoversUnderThePointer()
     QVERIFY(!hovered());
 }
 
-void TestButtonOnServer::pressesAndClicks()
-{
-    m_input.moveTo(*m_button, m_inside);
-    m_input.press();
-    QTRY_COMPARE(state(), QStringLiteral("click"));
-    QCOMPARE(m_clicked->count(), 0);
-    m_input.release();
-    QTRY_COMPARE(m_clicked->count(), 1);
-    QCOMPARE(state(), QStringLiteral("hover"));
-}
-
 void TestButtonOnServer::draggedOutItStaysPressedAndHearsOfItAfterTheRelease_data()
 {
     QTest::addColumn<QPoint>("place");
@@ -137,44 +120,6 @@ void TestButtonOnServer::releasedOverItAfterAPressElsewhereDoesNothing()
     m_input.release();
     QTRY_COMPARE(state(), QStringLiteral("hover"));
     QCOMPARE(m_clicked->count(), 0);
-}
-
-void TestButtonOnServer::rightButtonClicks()
-{
-    m_input.moveTo(*m_button, m_inside);
-    m_input.click(RealInput::Right);
-    QTRY_COMPARE(m_clicked->count(), 1);
-}
-
-void TestButtonOnServer::doubleClickClicksTwice()
-{
-    m_input.moveTo(*m_button, m_inside);
-    m_input.click();
-    // the window manager looks at every press first: one behind the other, not two at a time
-    QTRY_COMPARE(m_clicked->count(), 1);
-    m_input.click();
-    QTRY_COMPARE(m_clicked->count(), 2);
-}
-
-void TestButtonOnServer::togglesWhenCheckable()
-{
-    m_button->setCheckable(true);
-    QSignalSpy toggled(m_button, &OlvButton::toggled);
-    m_input.moveTo(*m_button, m_inside);
-    m_input.click();
-    QTRY_COMPARE(toggled.count(), 1);
-    QVERIFY(toggled.first().first().toBool());
-    QVERIFY(m_button->isChecked());
-}
-
-void TestButtonOnServer::mayBeDeletedByItsClick()
-{
-    const QPointer<OlvButton> button(m_button);
-    connect(m_button, &OlvButton::clicked, this, [=] { delete button; });
-    m_input.moveTo(*m_button, m_inside);
-    m_input.click();
-    QTRY_VERIFY(button.isNull());
-    QTest::qWait(50);
 }
 
 QTEST_MAIN(TestButtonOnServer)

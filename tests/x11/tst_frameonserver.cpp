@@ -18,10 +18,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void followsThePointerExactly();
-    void staysWhenPressedOutsideTheArea();
     void resizesExactly_data();
     void resizesExactly();
-    void minimumSizeHolds();
     void maximisedItIsNeitherMovedNorResized();
 
 private:
@@ -89,17 +87,6 @@ void TestFrameOnServer::followsThePointerExactly()
     QCOMPARE(onServer(), QRect(200, 50, 400, 300));
 }
 
-void TestFrameOnServer::staysWhenPressedOutsideTheArea()
-{
-    m_input.moveTo({ 150, 141 });
-    m_input.press();
-    m_input.moveTo({ 300, 300 });
-    QTest::qWait(100);
-    m_input.release();
-    QTest::qWait(50);
-    QVERIFY(isAt(QRect(100, 100, 400, 300)));
-}
-
 void TestFrameOnServer::resizesExactly_data()
 {
     QTest::addColumn<QPoint>("from");
@@ -115,16 +102,6 @@ void TestFrameOnServer::resizesExactly()
     QFETCH(QSize, grows);
     drag(from, { 150, 90 }, { 0, 0 }, grows);
     QCOMPARE(onServer(), QRect(QPoint(100, 100), QSize(400, 300) + grows));
-}
-
-void TestFrameOnServer::minimumSizeHolds()
-{
-    m_window->setMinimumSize(350, 280);
-    m_input.moveTo({ 492, 392 });
-    m_input.press();
-    m_input.moveTo({ 150, 150 });
-    QTRY_VERIFY(isAt(QRect(100, 100, 350, 280)));
-    m_input.release();
 }
 
 void TestFrameOnServer::maximisedItIsNeitherMovedNorResized()

@@ -2,7 +2,6 @@
 #include "realinput.h"
 
 #include <OlvLineEdit>
-#include <OlvSimpleIconButton>
 
 #include <QLineEdit>
 #include <QTest>
@@ -15,7 +14,6 @@ class TestLineEditOnServer : public QObject
 private Q_SLOTS:
     void aClickPutsTheCaretIntoTheText_data();
     void aClickPutsTheCaretIntoTheText();
-    void theEyeShowsThePassword();
 };
 
 void TestLineEditOnServer::aClickPutsTheCaretIntoTheText_data()
@@ -54,25 +52,6 @@ void TestLineEditOnServer::aClickPutsTheCaretIntoTheText()
     input.moveTo(other, { 5, 5 });
     input.click();
     QTRY_COMPARE(edit->property("state").toString(), QStringLiteral("normal"));
-}
-
-void TestLineEditOnServer::theEyeShowsThePassword()
-{
-    OlvLineEdit edit;
-    edit.resize(240, 40);
-    edit.setPassWord(true);
-    edit.setText(QStringLiteral("secret"));
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowActive(&edit));
-    auto *editor = edit.findChild<QLineEdit *>();
-    QCOMPARE(editor->displayText(), QString(6, editor->displayText().at(0)));
-
-    RealInput input;
-    input.moveTo(edit, { 220, 20 });
-    input.click();
-    QTRY_COMPARE(editor->displayText(), QStringLiteral("secret"));
-    input.click();
-    QTRY_VERIFY(editor->displayText() != QStringLiteral("secret"));
 }
 
 QTEST_MAIN(TestLineEditOnServer)

@@ -27,7 +27,6 @@ private Q_SLOTS:
     void modifiersThatNoKeyGivesAreThoseOfHabit_data();
     void modifiersThatNoKeyGivesAreThoseOfHabit();
     void connectionGoesWithTheApplication();
-    void aServerThatCannotBeHadIsInactive();
     void aDeadConnectionIsInactive();
 
 private:
@@ -188,13 +187,6 @@ void TestShortcutRegistration::connectionGoesWithTheApplication()
     const int without = QProcess::execute(program, QStringList());
     QVERIFY(without >= 0);
     QCOMPARE(QProcess::execute(program, { QStringLiteral("shortcut") }), without);
-}
-
-void TestShortcutRegistration::aServerThatCannotBeHadIsInactive()
-{
-    QCOMPARE(QProcess::execute(QStringLiteral(OLV_SHORTCUT_AND_LEAVE),
-                               { QStringLiteral("shortcut"), QStringLiteral("no display") }),
-             255);
 }
 
 void TestShortcutRegistration::aDeadConnectionIsInactive()
