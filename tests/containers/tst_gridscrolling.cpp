@@ -13,7 +13,6 @@ private Q_SLOTS:
     void barMovesTheGrid();
     void wheelScrolls_data();
     void wheelScrolls();
-    void wheelReadsTheTurnAsQtDid();
     void wheelDoesNothingInAWindow();
     void wheelStaysWithTheGrid_data();
     void wheelStaysWithTheGrid();
@@ -95,24 +94,6 @@ void TestGridScrolling::wheelScrolls()
     barOf(*scene.grid)->setValue(start);
     wheel(*scene.grid, angle);
     QCOMPARE(barOf(*scene.grid)->value(), value);
-}
-
-void TestGridScrolling::wheelReadsTheTurnAsQtDid()
-{
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    for (int x = -240; x <= 240; x += 60) {
-        for (int y = -240; y <= 240; y += 60) {
-            const QWheelEvent event(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(x, y),
-                                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            Scene scene(true);
-            scene.grid->addWidget(makeTile(scene.grid, 50, 1170));
-            barOf(*scene.grid)->setValue(20);
-            wheel(*scene.grid, QPoint(x, y));
-            QCOMPARE(barOf(*scene.grid)->value(), event.delta() < 0 ? 40 : 0);
-        }
-    }
-    QT_WARNING_POP
 }
 
 void TestGridScrolling::wheelDoesNothingInAWindow()

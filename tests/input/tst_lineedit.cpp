@@ -39,7 +39,6 @@ private Q_SLOTS:
     void placesItsChildrenAtTheFirstResize();
     void keepsOneSilentSignal();
     void valueIsTheText();
-    void editsTextWithTheKeyboard();
     void fontIsHalfAsManyPointsAsItIsHigh_data();
     void fontIsHalfAsManyPointsAsItIsHigh();
     void makesRoomForTheIcon_data();
@@ -143,14 +142,6 @@ void TestLineEdit::valueIsTheText()
     QCOMPARE(edit.getText(), QString());
     edit.setPlaceholderText(QStringLiteral("name"));
     QCOMPARE(editorOf(edit)->placeholderText(), QStringLiteral("name"));
-}
-
-void TestLineEdit::editsTextWithTheKeyboard()
-{
-    SizedLineEdit edit;
-    QTest::keyClicks(editorOf(edit), QStringLiteral("Hello"));
-    QTest::keyClick(editorOf(edit), Qt::Key_Backspace);
-    QCOMPARE(edit.getText(), QStringLiteral("Hell"));
 }
 
 void TestLineEdit::fontIsHalfAsManyPointsAsItIsHigh_data()

@@ -19,8 +19,6 @@ private Q_SLOTS:
     void survivesSlotsThatDoAnything();
     void survivesShortcutsThatDeleteIt();
     void survivesAClearThatDeletesIt();
-    void keepsItsShortcutThatIsRefusedNow();
-    void survivesTheLossOfItsShortcut();
     void hostilePropertiesNameNoShortcut_data();
     void hostilePropertiesNameNoShortcut();
 };
@@ -118,28 +116,6 @@ void TestShortcutEditMisuse::survivesAClearThatDeletesIt()
     edit->clear();
     QVERIFY(edit.isNull());
     QCOMPARE(takeRecord().count(QStringLiteral("one deleted")), 1);
-}
-
-void TestShortcutEditMisuse::keepsItsShortcutThatIsRefusedNow()
-{
-    auto *shortcut = new FakeShortcut(QStringLiteral("one"));
-    OlvShortcutEdit edit(shortcut);
-    shortcut->grantable = false;
-    takeRecord();
-    QVERIFY(!edit.setShortcut(shortcut));
-    QCOMPARE(takeRecord(), QStringList({ QStringLiteral("one active") }));
-    QCOMPARE(edit.shortcut(), shortcut);
-}
-
-void TestShortcutEditMisuse::survivesTheLossOfItsShortcut()
-{
-    OlvShortcutEdit edit(new FakeShortcut(QStringLiteral("one")));
-    delete edit.shortcut();
-    QCOMPARE(edit.shortcut(), nullptr);
-    QCOMPARE(edit.getValue(), QVariant(QStringLiteral("nullptr")));
-    QVERIFY(!edit.grab().isNull());
-    QVERIFY(edit.setShortcut(new FakeShortcut(QStringLiteral("two"))));
-    QCOMPARE(edit.getValue(), QVariant(QStringLiteral("two")));
 }
 
 void TestShortcutEditMisuse::hostilePropertiesNameNoShortcut_data()

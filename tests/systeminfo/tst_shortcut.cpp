@@ -2,7 +2,6 @@
 #include <OlvShortcut>
 
 #include <QElapsedTimer>
-#include <QKeySequence>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QTest>
@@ -17,7 +16,6 @@ private Q_SLOTS:
     void isNotActiveWithoutAServer();
     void readsAsUsersExpect_data();
     void readsAsUsersExpect();
-    void canBeReplacedByAnApplications();
     void isFoundByItsAddressWhileItLives();
 };
 
@@ -81,35 +79,6 @@ void TestShortcut::readsAsUsersExpect()
     };
     OlvShortcut shortcut(Qt::Key(key), has('c'), has('s'), has('a'), has('m'));
     QCOMPARE(shortcut.toString(), text);
-}
-
-void TestShortcut::canBeReplacedByAnApplications()
-{
-    class Own : public OlvShortcut
-    {
-    public:
-        Own()
-            : OlvShortcut(Qt::Key_A, false, false, false, false)
-        { }
-        bool active() override
-        {
-            return true;
-        }
-        void destroy() override
-        {
-            destroyed = true;
-        }
-        QString toString() override
-        {
-            return QStringLiteral("own");
-        }
-        bool destroyed = false;
-    } own;
-    OlvShortcut *shortcut = &own;
-    QVERIFY(shortcut->active());
-    QCOMPARE(shortcut->toString(), QStringLiteral("own"));
-    shortcut->destroy();
-    QVERIFY(own.destroyed);
 }
 
 void TestShortcut::isFoundByItsAddressWhileItLives()

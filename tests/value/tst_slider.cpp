@@ -14,15 +14,12 @@ class TestSlider : public QObject
 
 private Q_SLOTS:
     void startsAtZeroWithItsKnobAtRest();
-    void takesAParentAndNoFlags();
     void keepsItsHeight();
     void hasAMetaObjectWithNothingOfItsOwn();
     void setValueMovesNothingAndTellsNobody();
     void valuesAndLimitsRepaintNothing();
     void getValueConvertsThePropertyToInt_data();
     void getValueConvertsThePropertyToInt();
-    void survivesAPropertyThatHoldsAnotherNumber_data();
-    void survivesAPropertyThatHoldsAnotherNumber();
     void drawsTheTrack_data();
     void drawsTheTrack();
     void drawsTheTrackWhateverTheValue();
@@ -32,7 +29,10 @@ private Q_SLOTS:
 
 void TestSlider::startsAtZeroWithItsKnobAtRest()
 {
-    OlvSlider slider;
+    QWidget parent;
+    OlvSlider slider(&parent);
+    QCOMPARE(slider.parentWidget(), &parent);
+    QVERIFY(!slider.isWindow());
     QCOMPARE(slider.size(), QSize(200, 30));
     QCOMPARE(slider.property("progress"), QVariant(0));
     QCOMPARE(slider.property("progress").userType(), int(QMetaType::Int));
@@ -44,14 +44,6 @@ void TestSlider::startsAtZeroWithItsKnobAtRest()
     QCOMPARE(slider.children(), QObjectList({ knob }));
     QCOMPARE(knob->geometry(), QRect(5, 5, 20, 20));
     QCOMPARE(knob->maxX(), 170);
-}
-
-void TestSlider::takesAParentAndNoFlags()
-{
-    QWidget parent;
-    auto *slider = new OlvSlider(&parent);
-    QCOMPARE(slider->parentWidget(), &parent);
-    QVERIFY(!slider->isWindow());
 }
 
 void TestSlider::keepsItsHeight()
@@ -121,27 +113,6 @@ void TestSlider::getValueConvertsThePropertyToInt()
     QCOMPARE(slider.property("progress"), stored);
     QCOMPARE(slider.getValue(), QVariant(value));
     QCOMPARE(slider.getValue().userType(), int(QMetaType::Int));
-}
-
-void TestSlider::survivesAPropertyThatHoldsAnotherNumber_data()
-{
-    QTest::addColumn<QVariant>("number");
-    QTest::newRow("zero") << QVariant(0);
-    QTest::newRow("wild") << QVariant(qulonglong(0xdeadbeef));
-    QTest::newRow("text") << QVariant(QStringLiteral("knob"));
-    QTest::newRow("invalid") << QVariant();
-}
-
-void TestSlider::survivesAPropertyThatHoldsAnotherNumber()
-{
-    QFETCH(QVariant, number);
-    OlvSlider slider;
-    slider.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&slider));
-    auto *knob = slider.findChild<QWidget *>();
-    slider.setProperty("SliderRound", number);
-    slider.resize(100, 30);
-    QCOMPARE(static_cast<SliderRound *>(knob)->maxX(), 170);
 }
 
 void TestSlider::drawsTheTrack_data()
