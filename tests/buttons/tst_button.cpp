@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "paintwatch.h"
 #include "pointer.h"
+#include "propertyrecord.h"
 
 #include <OlvButton>
 
@@ -15,7 +16,11 @@ QString stateOf(const OlvButton &button)
     return button.property("state").toString();
 }
 
+using Call = void (*)(OlvButton &button);
+
 } // namespace
+
+Q_DECLARE_METATYPE(Call)
 
 class TestButton : public QObject
 {
@@ -102,29 +107,10 @@ void TestButton::hasTwoSignalsAndASlotInOrder()
 void TestButton::setsStyleWithTheColourFirst()
 {
     OlvButton button;
-    QList<QByteArray> order;
-    class Watcher : public QObject
-    {
-    public:
-        explicit Watcher(QList<QByteArray> *names)
-            : m_names(names)
-        { }
-        bool eventFilter(QObject *watched, QEvent *event) override
-        {
-            if (event->type() == QEvent::DynamicPropertyChange) {
-                m_names->append(static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName());
-            }
-            return QObject::eventFilter(watched, event);
-        }
-
-    private:
-        QList<QByteArray> *m_names;
-    } watcher(&order);
-    button.installEventFilter(&watcher);
+    const PropertyRecord record(&button);
     QCOMPARE(button.setOlvStyle(QStringLiteral("success"), QStringLiteral("plain")), &button);
-    QCOMPARE(button.property("color").toString(), QStringLiteral("success"));
-    QCOMPARE(button.property("type").toString(), QStringLiteral("plain"));
-    QCOMPARE(order, QList<QByteArray>({ "type", "color" }));
+    QCOMPARE(record.lines,
+             QStringList({ QStringLiteral("type plain"), QStringLiteral("color success") }));
 }
 
 void TestButton::settersStoreTheirProperties()
@@ -146,78 +132,37 @@ void TestButton::settersStoreTheirProperties()
 
 void TestButton::repaintsOnlyWhereItSaysSo_data()
 {
-    QTest::addColumn<QString>("call");
+    QTest::addColumn<Call>("call");
     QTest::addColumn<bool>("repaints");
-    QTest::newRow("setOlvStyle") << QStringLiteral("setOlvStyle") << true;
-    QTest::newRow("setText") << QStringLiteral("setText") << true;
-    QTest::newRow("setChecked") << QStringLiteral("setChecked") << true;
-    QTest::newRow("setCheckable") << QStringLiteral("setCheckable") << false;
-    QTest::newRow("setColor") << QStringLiteral("setColor") << false;
-    QTest::newRow("setValue") << QStringLiteral("setValue") << false;
-    QTest::newRow("enter") << QStringLiteral("enter") << true;
-    QTest::newRow("leave") << QStringLiteral("leave") << true;
-    QTest::newRow("press") << QStringLiteral("press") << true;
-    QTest::newRow("release outside") << QStringLiteral("release outside") << true;
-    QTest::newRow("release inside") << QStringLiteral("release inside") << true;
+    const auto row = [](const char *name, bool repaints, Call call) {
+        QTest::newRow(name) << call << repaints;
+    };
+    row("setOlvStyle", true, [](OlvButton &button) { button.setOlvStyle({}, {}); });
+    row("setText", true, [](OlvButton &button) { button.setText({}); });
+    row("setChecked", true, [](OlvButton &button) { button.setChecked(false); });
+    row("setCheckable", false, [](OlvButton &button) { button.setCheckable(true); });
+    row("setColor", false, [](OlvButton &button) { button.setColor(QStringList()); });
+    row("setValue", false, [](OlvButton &button) { button.setValue(true); });
+    row("enter", true, [](OlvButton &button) { Pointer::enter(button); });
+    row("leave", true, [](OlvButton &button) { Pointer::leave(button); });
+    row("press", true, [](OlvButton &button) { Pointer::press(button); });
+    row("release outside", true, [](OlvButton &button) { Pointer::release(button); });
+    row("release inside", true, [](OlvButton &button) {
+        button.setProperty("hovered", true);
+        Pointer::release(button);
+    });
 }
 
 void TestButton::repaintsOnlyWhereItSaysSo()
 {
-    QFETCH(QString, call);
+    QFETCH(Call, call);
     QFETCH(bool, repaints);
     OlvButton button;
     PaintWatch watch(button);
     QVERIFY(watch.showWindow());
-    const QHash<QString, std::function<void()>> calls{
-        { QStringLiteral("setOlvStyle"),
-          [&] {
-              button.setOlvStyle({}, {});
-          } },
-        { QStringLiteral("setText"),
-          [&] {
-              button.setText({});
-          } },
-        { QStringLiteral("setChecked"),
-          [&] {
-              button.setChecked(false);
-          } },
-        { QStringLiteral("setCheckable"),
-          [&] {
-              button.setCheckable(true);
-          } },
-        { QStringLiteral("setColor"),
-          [&] {
-              button.setColor(QStringList());
-          } },
-        { QStringLiteral("setValue"),
-          [&] {
-              button.setValue(true);
-          } },
-        { QStringLiteral("enter"),
-          [&] {
-              Pointer::enter(button);
-          } },
-        { QStringLiteral("leave"),
-          [&] {
-              Pointer::leave(button);
-          } },
-        { QStringLiteral("press"),
-          [&] {
-              Pointer::press(button);
-          } },
-        { QStringLiteral("release outside"),
-          [&] {
-              Pointer::release(button);
-          } },
-        { QStringLiteral("release inside"),
-          [&] {
-              button.setProperty("hovered", true);
-              Pointer::release(button);
-          } },
-    };
     // the second call finds every value as it is already, and asks for the repaint all the same
     for (int round = 1; round <= 2; ++round) {
-        calls.value(call)();
+        call(button);
         QCOMPARE(watch.takeWhole(), repaints ? 1 : 0);
     }
 }

@@ -14,7 +14,6 @@ private Q_SLOTS:
     void addsNothingToTheMetaObject();
     void hasItsStyleSheetWhole();
     void togglingChangesTheStyleSheetWhole();
-    void toggleShowsTheGlyphOfItsState();
     void toggleReadsTheGlyphsAtEachClick();
     void eachToggleAddsAConnection();
     void toggleUsesTheArgumentOfTheSignal();
@@ -22,7 +21,6 @@ private Q_SLOTS:
     void settingGlyphsShowsTheOneForTheState();
     void withoutToggleClicksLeaveTheCaption();
     void looksGreyAndDark();
-    void mayBeDeletedByItsClick();
 };
 
 void TestSimpleIconButton::startsAsACheckableSquare()
@@ -70,18 +68,6 @@ void TestSimpleIconButton::togglingChangesTheStyleSheetWhole()
                        "rgb(32,32,32)}QPushButton:checked{color:rgb(32,32,32)}"));
     QCOMPARE(button.property("deable"), QVariant(QStringLiteral("A")));
     QCOMPARE(button.property("enable"), QVariant(QStringLiteral("B")));
-    QCOMPARE(button.text(), QStringLiteral("A"));
-}
-
-void TestSimpleIconButton::toggleShowsTheGlyphOfItsState()
-{
-    OlvSimpleIconButton button(QStringLiteral("A"), QFont());
-    button.setToggle(QStringLiteral("B"));
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QVERIFY(button.isChecked());
-    QCOMPARE(button.text(), QStringLiteral("B"));
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QVERIFY(!button.isChecked());
     QCOMPARE(button.text(), QStringLiteral("A"));
 }
 
@@ -183,16 +169,6 @@ void TestSimpleIconButton::looksGreyAndDark()
     button.setEnabled(true);
     button.setChecked(true);
     QCOMPARE(colorOf(button), QColor(32, 32, 32));
-}
-
-void TestSimpleIconButton::mayBeDeletedByItsClick()
-{
-    auto *button = new OlvSimpleIconButton(QStringLiteral("A"), QFont());
-    const QPointer<OlvSimpleIconButton> watched(button);
-    connect(button, &QPushButton::clicked, this, [=] { delete watched; });
-    button->setToggle(QStringLiteral("B"));
-    button->click();
-    QVERIFY(watched.isNull());
 }
 
 QTEST_MAIN(TestSimpleIconButton)

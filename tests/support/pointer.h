@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 #include <QWidget>
 
@@ -37,6 +39,24 @@ inline void click(QWidget &widget, Qt::MouseButton button = Qt::LeftButton)
     enter(widget);
     press(widget, button);
     release(widget, button);
+}
+
+/** Sends the events that are named: "enter press leave release". */
+inline void play(QWidget &widget, const QString &events)
+{
+    const QStringList names = events.split(QLatin1Char(' '));
+    for (const QString &name : names) {
+        if (name == QLatin1String("enter")) {
+            enter(widget);
+        } else if (name == QLatin1String("leave")) {
+            leave(widget);
+        } else if (name == QLatin1String("press")) {
+            press(widget);
+        } else {
+            QCOMPARE(name, QStringLiteral("release"));
+            release(widget);
+        }
+    }
 }
 
 } // namespace Pointer
