@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/input.h>
 
+#include "input/shortcutcapture_p.h"
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 
@@ -21,46 +22,12 @@ constexpr int frameRadius = 3;
 constexpr int frameWidth = 1;
 constexpr QRgb focusedColor = qRgb(32, 32, 32);
 
-/** The keys that were noted. */
-struct Capture
-{
-    bool ctrl = false;
-    bool shift = false;
-    bool alt = false;
-    bool meta = false;
-    int key = 0;
-    bool recording = false;
-
-    /** The key that was noted; Qt::Key_unknown, which no shortcut can have, for what is no key. */
-    Qt::Key qtKey() const
-    {
-        return key >= 0 && key < Qt::Key_unknown ? Qt::Key(key) : Qt::Key_unknown;
-    }
-
-    /** The flag of a modifier; null for every other key. */
-    bool *modifier(int pressed)
-    {
-        switch (pressed) {
-        case Qt::Key_Control:
-            return &ctrl;
-        case Qt::Key_Shift:
-            return &shift;
-        case Qt::Key_Alt:
-            return &alt;
-        case Qt::Key_Meta:
-            return &meta;
-        default:
-            return nullptr;
-        }
-    }
-};
-
 } // namespace
 
 class OlvShortcutEdit::Private
 {
 public:
-    Capture capture;
+    ShortcutCapture capture;
     QPointer<OlvShortcut> held;
 };
 
@@ -156,7 +123,7 @@ void OlvShortcutEdit::clear()
 void OlvShortcutEdit::keyPressEvent(QKeyEvent *event)
 {
     if (!d->capture.recording) {
-        d->capture = Capture();
+        d->capture = ShortcutCapture();
         d->capture.key = Qt::Key_unknown;
         d->capture.recording = true;
     }

@@ -6,7 +6,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <cstddef>
 #include <limits>
+
+static_assert(offsetof(ShortcutCapture, ctrl) == 0 && offsetof(ShortcutCapture, shift) == 1
+                  && offsetof(ShortcutCapture, alt) == 2 && offsetof(ShortcutCapture, meta) == 3
+                  && offsetof(ShortcutCapture, key) == 4
+                  && offsetof(ShortcutCapture, recording) == 8,
+              "programs may read the fields at the address that the property holds");
 
 class TestShortcutCapture : public QObject
 {

@@ -1,27 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "input/shortcutcapture_p.h"
+
 #include <OlvShortcutEdit>
 
 #include <QString>
 
-/** The fields of the capture record, in their order, as the property's address shows them. */
-struct Capture
+inline ShortcutCapture captureOf(const OlvShortcutEdit &edit)
 {
-    bool ctrl;
-    bool shift;
-    bool alt;
-    bool meta;
-    int key;
-    bool recording;
-};
-
-inline Capture captureOf(const OlvShortcutEdit &edit)
-{
-    return *reinterpret_cast<const Capture *>(edit.property("Temp").toULongLong());
+    return *reinterpret_cast<const ShortcutCapture *>(edit.property("Temp").toULongLong());
 }
 
-inline QString textOf(const Capture &capture)
+inline QString textOf(const ShortcutCapture &capture)
 {
     return QStringLiteral("%1%2%3%4 %5 %6")
         .arg(capture.ctrl ? QStringLiteral("c") : QString(),
