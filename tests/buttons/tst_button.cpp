@@ -5,7 +5,6 @@
 
 #include <OlvButton>
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -29,7 +28,6 @@ class TestButton : public QObject
 private Q_SLOTS:
     void startsAtRestWithItsDefaults();
     void takesACaptionAndAParent();
-    void hasTwoSignalsAndASlotInOrder();
     void setsStyleWithTheColourFirst();
     void settersStoreTheirProperties();
     void repaintsOnlyWhereItSaysSo_data();
@@ -72,36 +70,6 @@ void TestButton::takesACaptionAndAParent()
     QCOMPARE(captioned->parentWidget(), &parent);
     QCOMPARE(captioned->property("content"), QVariant(QStringLiteral("确定")));
     QCOMPARE(captioned->property("color").toString(), QStringLiteral("primary"));
-}
-
-void TestButton::hasTwoSignalsAndASlotInOrder()
-{
-    const QMetaObject &meta = OlvButton::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvButton");
-    QCOMPARE(meta.superClass(), &OlvWidget::staticMetaObject);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
-    struct Method
-    {
-        QMetaMethod::MethodType type;
-        QByteArray signature;
-        QList<QByteArray> parameters;
-    };
-    const QVector<Method> methods{
-        { QMetaMethod::Signal, "clicked()", {} },
-        { QMetaMethod::Signal, "toggled(bool)", { "checked" } },
-        { QMetaMethod::Slot, "click(bool)", { "checked" } },
-        { QMetaMethod::Slot, "click()", {} },
-    };
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), methods.count());
-    for (int i = 0; i < methods.count(); ++i) {
-        const QMetaMethod method = meta.method(meta.methodOffset() + i);
-        QCOMPARE(method.methodType(), methods.at(i).type);
-        QCOMPARE(method.methodSignature(), methods.at(i).signature);
-        QCOMPARE(method.parameterNames(), methods.at(i).parameters);
-        QCOMPARE(method.access(), QMetaMethod::Public);
-    }
-    QVERIFY(meta.method(meta.methodOffset() + 3).attributes() & QMetaMethod::Cloned);
 }
 
 void TestButton::setsStyleWithTheColourFirst()

@@ -3,7 +3,6 @@
 #include "pointer.h"
 #include "tile.h"
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -18,7 +17,6 @@ private Q_SLOTS:
     void derivesItsSizesFromItsWidth_data();
     void derivesItsSizesFromItsWidth();
     void setsTheRestOfItsPropertiesInTheirTypes();
-    void hasTwoSignalsInOrder();
     void checkableUnchecksWhateverTheArgument();
     void freeFunctionNeedsBothFlags();
     void valueIsKeptAsItStands();
@@ -92,18 +90,6 @@ void TestIconButton::setsTheRestOfItsPropertiesInTheirTypes()
     QCOMPARE(tile.dynamicPropertyNames().mid(5),
              QList<QByteArray>(
                  { "partSize", "iconSize", "textSize", "family", "icon", "text", "color" }));
-}
-
-void TestIconButton::hasTwoSignalsInOrder()
-{
-    const QMetaObject &meta = OlvIconButton::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvIconButton");
-    QCOMPARE(meta.superClass(), &OlvWidget::staticMetaObject);
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("clicked()"));
-    QCOMPARE(meta.method(meta.methodOffset() + 1).methodSignature(), QByteArray("dClicked()"));
-    QCOMPARE(meta.method(meta.methodOffset() + 1).methodType(), QMetaMethod::Signal);
 }
 
 void TestIconButton::checkableUnchecksWhateverTheArgument()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OlvSimpleIconButton>
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -11,7 +10,6 @@ class TestSimpleIconButton : public QObject
 
 private Q_SLOTS:
     void startsAsACheckableSquare();
-    void addsNothingToTheMetaObject();
     void hasItsStyleSheetWhole();
     void togglingChangesTheStyleSheetWhole();
     void toggleReadsTheGlyphsAtEachClick();
@@ -37,16 +35,6 @@ void TestSimpleIconButton::startsAsACheckableSquare()
     QCOMPARE(button->size(), QSize(30, 30));
     QVERIFY(!button->property("deable").isValid());
     QVERIFY(!button->property("enable").isValid());
-}
-
-void TestSimpleIconButton::addsNothingToTheMetaObject()
-{
-    const QMetaObject &meta = OlvSimpleIconButton::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvSimpleIconButton");
-    QCOMPARE(meta.superClass(), &QPushButton::staticMetaObject);
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
 }
 
 void TestSimpleIconButton::hasItsStyleSheetWhole()

@@ -2,7 +2,6 @@
 #include <OlvControlBar>
 
 #include <QHBoxLayout>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QSpacerItem>
 #include <QTest>
@@ -60,7 +59,6 @@ class TestControlBar : public QObject
 
 private Q_SLOTS:
     void statesHaveTheirNumbers();
-    void hasTwoSignalsInOrder();
     void isARowAtTheRightEnd();
     void windowButtonsHaveTheirLooks_data();
     void windowButtonsHaveTheirLooks();
@@ -86,22 +84,6 @@ void TestControlBar::statesHaveTheirNumbers()
     QCOMPARE(int(OlvControlBar::Min), 3);
     QCOMPARE(int(OlvControlBar::Max), 4);
     QCOMPARE(int(OlvControlBar::Close), 5);
-}
-
-void TestControlBar::hasTwoSignalsInOrder()
-{
-    const QMetaObject &meta = OlvControlBar::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvControlBar");
-    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
-    const QMetaMethod changed = meta.method(meta.methodOffset());
-    QCOMPARE(changed.methodSignature(), QByteArray("changed(OlvControlBar::WindowState,bool)"));
-    QCOMPARE(changed.parameterNames(), QList<QByteArray>({ "state", "checked" }));
-    const QMetaMethod custom = meta.method(meta.methodOffset() + 1);
-    QCOMPARE(custom.methodSignature(), QByteArray("custom(int)"));
-    QCOMPARE(custom.parameterNames(), QList<QByteArray>({ "index" }));
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
 }
 
 void TestControlBar::isARowAtTheRightEnd()

@@ -9,7 +9,6 @@ class TestDragWidget : public QObject
 
 private Q_SLOTS:
     void isAPlainWidgetWhateverItIsTold();
-    void hasAMetaObjectWithItsNameAlone();
 };
 
 void TestDragWidget::isAPlainWidgetWhateverItIsTold()
@@ -25,15 +24,6 @@ void TestDragWidget::isAPlainWidgetWhateverItIsTold()
         QVERIFY(widget->children().isEmpty());
         QVERIFY(widget->dynamicPropertyNames().isEmpty());
     }
-}
-
-void TestDragWidget::hasAMetaObjectWithItsNameAlone()
-{
-    const QMetaObject &meta = OlvDragWidget::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvDragWidget");
-    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
 }
 
 QTEST_MAIN(TestDragWidget)

@@ -2,7 +2,6 @@
 #include "fakeshortcut.h"
 #include "shortcutcapture.h"
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -13,7 +12,6 @@ class TestShortcutEdit : public QObject
 private Q_SLOTS:
     void init();
     void startsEmptyWithItsDefaults();
-    void hasASignalAndTwoSlotsInOrder();
     void takesAShortcutOver();
     void replacesTheOneBefore();
     void deletesOneThatCannotBeHad();
@@ -47,23 +45,6 @@ void TestShortcutEdit::startsEmptyWithItsDefaults()
     QCOMPARE(edit.shortcut(), nullptr);
     QCOMPARE(edit.getValue(), QVariant(QStringLiteral("nullptr")));
     QVERIFY(QMetaType::type("OlvShortcut*") != QMetaType::UnknownType);
-}
-
-void TestShortcutEdit::hasASignalAndTwoSlotsInOrder()
-{
-    const QMetaObject &meta = OlvShortcutEdit::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvShortcutEdit");
-    QCOMPARE(meta.superClass(), &OlvWidget::staticMetaObject);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 3);
-    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(),
-             QByteArray("shortcutChanged(OlvShortcut*)"));
-    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
-    QCOMPARE(meta.method(meta.methodOffset() + 1).methodSignature(),
-             QByteArray("setShortcut(OlvShortcut*)"));
-    QCOMPARE(meta.method(meta.methodOffset() + 1).typeName(), "bool");
-    QCOMPARE(meta.method(meta.methodOffset() + 1).methodType(), QMetaMethod::Slot);
-    QCOMPARE(meta.method(meta.methodOffset() + 2).methodSignature(), QByteArray("clear()"));
 }
 
 void TestShortcutEdit::takesAShortcutOver()

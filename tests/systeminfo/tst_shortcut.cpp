@@ -2,7 +2,6 @@
 #include <OlvShortcut>
 
 #include <QElapsedTimer>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QTest>
 
@@ -12,21 +11,11 @@ class TestShortcut : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void hasOneSignal();
     void isNotActiveWithoutAServer();
     void readsAsUsersExpect_data();
     void readsAsUsersExpect();
     void isFoundByItsAddressWhileItLives();
 };
-
-void TestShortcut::hasOneSignal()
-{
-    const QMetaObject &meta = OlvShortcut::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvShortcut");
-    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
-    QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("activated()"));
-}
 
 void TestShortcut::isNotActiveWithoutAServer()
 {

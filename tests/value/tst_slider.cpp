@@ -15,7 +15,6 @@ class TestSlider : public QObject
 private Q_SLOTS:
     void startsAtZeroWithItsKnobAtRest();
     void keepsItsHeight();
-    void hasAMetaObjectWithNothingOfItsOwn();
     void setValueMovesNothingAndTellsNobody();
     void valuesAndLimitsRepaintNothing();
     void getValueConvertsThePropertyToInt_data();
@@ -53,17 +52,6 @@ void TestSlider::keepsItsHeight()
     QCOMPARE(slider.size(), QSize(90, 30));
     QCOMPARE(slider.minimumHeight(), 30);
     QCOMPARE(slider.maximumHeight(), 30);
-}
-
-void TestSlider::hasAMetaObjectWithNothingOfItsOwn()
-{
-    const QMetaObject &meta = OlvSlider::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvSlider");
-    QCOMPARE(meta.superClass(), &OlvWidget::staticMetaObject);
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
-    QCOMPARE(SliderRound::staticMetaObject.className(), "QWidget");
 }
 
 void TestSlider::setValueMovesNothingAndTellsNobody()

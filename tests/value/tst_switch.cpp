@@ -4,7 +4,6 @@
 #include <OlvPluginEventFilter>
 
 #include <QDynamicPropertyChangeEvent>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -48,7 +47,6 @@ class TestSwitch : public QObject
 private Q_SLOTS:
     void startsOffWithItsDefaults();
     void namesItsChildrenAndListeners();
-    void hasOneSignalWithAnUnnamedParameter();
     void resizingFitsTheKnobWhereItStands();
     void knobKeepsItsFirstInsetUntilTheFirstResize();
     void consumesItsEvents();
@@ -95,19 +93,6 @@ void TestSwitch::namesItsChildrenAndListeners()
     QCOMPARE(toggle.children().count(), 2);
     QCOMPARE(toggle.children().at(0), knobOf(toggle));
     QVERIFY(dynamic_cast<OlvPluginEventFilter *>(toggle.children().at(1)));
-}
-
-void TestSwitch::hasOneSignalWithAnUnnamedParameter()
-{
-    const QMetaObject &meta = OlvSwitch::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvSwitch");
-    QCOMPARE(meta.superClass(), &OlvWidget::staticMetaObject);
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    const QMetaMethod changed = meta.method(meta.methodOffset());
-    QCOMPARE(changed.methodType(), QMetaMethod::Signal);
-    QCOMPARE(changed.methodSignature(), QByteArray("changed(bool)"));
-    QCOMPARE(SwitchRound::staticMetaObject.className(), "QWidget");
 }
 
 void TestSwitch::resizingFitsTheKnobWhereItStands()

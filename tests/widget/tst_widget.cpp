@@ -2,7 +2,6 @@
 #include <OlvWidget>
 
 #include <QInputMethodEvent>
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -43,7 +42,6 @@ class TestWidget : public QObject
 private Q_SLOTS:
     void isAPlainWidgetInItsParent();
     void parentMayBeLeftOut();
-    void hasTwoSignalsWithUnnamedParametersAndNothingElse();
     void virtualsStandBehindThoseOfQWidgetInOrder();
     void valueGoesThroughTheBase();
     void opensToTheInputMethod();
@@ -69,27 +67,6 @@ void TestWidget::parentMayBeLeftOut()
     NumberWidget widget;
     QVERIFY(!widget.parentWidget());
     QVERIFY(widget.isWindow());
-}
-
-void TestWidget::hasTwoSignalsWithUnnamedParametersAndNothingElse()
-{
-    const QMetaObject &meta = OlvWidget::staticMetaObject;
-    QCOMPARE(meta.className(), "OlvWidget");
-    QCOMPARE(meta.superClass(), &QWidget::staticMetaObject);
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
-    QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
-
-    const QMetaMethod valueChanged = meta.method(meta.methodOffset());
-    QCOMPARE(valueChanged.methodType(), QMetaMethod::Signal);
-    QCOMPARE(valueChanged.methodSignature(), QByteArray("valueChanged(QVariant)"));
-    QCOMPARE(valueChanged.parameterNames(), QList<QByteArray>({ "" }));
-
-    const QMetaMethod commit = meta.method(meta.methodOffset() + 1);
-    QCOMPARE(commit.methodType(), QMetaMethod::Signal);
-    QCOMPARE(commit.methodSignature(), QByteArray("inputMethodCommit(QString)"));
-    QCOMPARE(commit.parameterNames(), QList<QByteArray>({ "" }));
 }
 
 void TestWidget::virtualsStandBehindThoseOfQWidgetInOrder()
