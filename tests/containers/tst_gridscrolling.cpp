@@ -39,7 +39,7 @@ void TestGridScrolling::scrollsByTheRestOfTheHeight()
     QFETCH(int, tileHeight);
     QFETCH(int, maximum);
     QFETCH(bool, shown);
-    Scene scene(true);
+    GridScene scene(true);
     barOf(*scene.grid)->setMaximum(0);
     scene.grid->addWidget(makeTile(scene.grid, 50, tileHeight));
     QCOMPARE(!barOf(*scene.grid)->isHidden(), shown);
@@ -49,7 +49,7 @@ void TestGridScrolling::scrollsByTheRestOfTheHeight()
 
 void TestGridScrolling::barMovesTheGrid()
 {
-    Scene scene(true);
+    GridScene scene(true);
     auto *tile = makeTile(scene.grid, 50, 1170); // 1000 pixels more than fit
     scene.grid->addWidget(tile);
     barOf(*scene.grid)->setValue(7);
@@ -89,7 +89,7 @@ void TestGridScrolling::wheelScrolls()
     QFETCH(QPoint, angle);
     QFETCH(int, start);
     QFETCH(int, value);
-    Scene scene(true);
+    GridScene scene(true);
     scene.grid->addWidget(makeTile(scene.grid, 50, 1170)); // a maximum of 40
     barOf(*scene.grid)->setValue(start);
     wheel(*scene.grid, angle);
@@ -98,7 +98,7 @@ void TestGridScrolling::wheelScrolls()
 
 void TestGridScrolling::wheelDoesNothingInAWindow()
 {
-    Scene scene(false);
+    GridScene scene(false);
     scene.grid->addWidget(makeTile(scene.grid, 50, 900));
     wheel(*scene.grid, QPoint(0, -120));
     QCOMPARE(scene.grid->pos(), QPoint(1, 1));
@@ -132,7 +132,7 @@ void TestGridScrolling::wheelStaysWithTheGrid()
 
 void TestGridScrolling::barFollowsTheHeightOfTheViewport()
 {
-    Scene scene(true);
+    GridScene scene(true);
     scene.grid->addWidget(makeTile(scene.grid, 50, 670)); // 700 pixels high
     scene.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&scene.window));
@@ -161,7 +161,7 @@ void TestGridScrolling::barFollowsTheHeightOfTheViewport()
 
 void TestGridScrolling::keepsItsPlaceWhenItIsEmptiedWhileScrolled()
 {
-    Scene scene(true);
+    GridScene scene(true);
     auto *tile = makeTile(scene.grid, 50, 1170);
     scene.grid->addWidget(tile);
     scene.window.show();

@@ -5,7 +5,18 @@
 #include <QPointer>
 #include <QTest>
 
-#include <memory>
+#include <utility>
+
+namespace {
+
+using Tiles = QList<QWidget *>;
+
+/** Prepares a scene, and tells with which event its grid is deleted. */
+using Moment = std::pair<QObject *, QEvent::Type> (*)(GridScene &scene, const Tiles &tiles);
+
+} // namespace
+
+Q_DECLARE_METATYPE(Moment)
 
 class TestGridSurvival : public QObject
 {
@@ -13,7 +24,7 @@ class TestGridSurvival : public QObject
 
 private Q_SLOTS:
     void forgetsWidgetsThatDie();
-    void survivesEitherOrderOfDestruction();
+    void survivesWhatOutlivesIt();
     void survivesMisuse();
     void survivesAWidgetThatDeletesAnother_data();
     void survivesAWidgetThatDeletesAnother();
@@ -23,14 +34,12 @@ private Q_SLOTS:
     void survivesTheLossOfItsBar();
     void survivesTheLossOfItsLabel();
     void survivesNumbersThatNoWidgetHas();
-    void survivesATileThatDeletesItWhenMoved_data();
-    void survivesATileThatDeletesItWhenMoved();
     void readsTheMarginAfreshForEachWidget();
 };
 
 void TestGridSurvival::forgetsWidgetsThatDie()
 {
-    Scene scene(true);
+    GridScene scene(true);
     auto *first = makeTile(scene.grid, 50);
     auto *second = makeTile(scene.grid, 50);
     auto *outside = new QWidget;
@@ -47,28 +56,20 @@ void TestGridSurvival::forgetsWidgetsThatDie()
     QVERIFY(!labelOf(*scene.grid)->isHidden());
 }
 
-void TestGridSurvival::survivesEitherOrderOfDestruction()
+void TestGridSurvival::survivesWhatOutlivesIt()
 {
-    for (const bool barFirst : { true, false }) {
-        Scene scene(true);
+    {
+        GridScene scene(true);
         scene.grid->addWidget(makeTile(scene.grid, 50, 1170));
         QScrollBar *bar = barOf(*scene.grid);
-        if (barFirst) {
-            delete bar;
-            wheel(*scene.grid, QPoint(0, -120));
-            scene.viewport->resize(200, 100);
-            scene.grid->addWidget(makeTile(scene.grid, 60));
-            QCOMPARE(scene.grid->pos(), QPoint(0, 0));
-        } else {
-            delete scene.grid;
-            bar->setValue(3);
-            scene.viewport->resize(200, 100);
-        }
+        delete scene.grid;
+        bar->setValue(3);
+        scene.viewport->resize(200, 100);
     }
     // a widget of the grid that outlives it
     auto *outside = new QWidget;
     {
-        Scene scene(true);
+        GridScene scene(true);
         scene.grid->addWidget(outside);
     }
     delete outside;
@@ -76,31 +77,22 @@ void TestGridSurvival::survivesEitherOrderOfDestruction()
 
 void TestGridSurvival::survivesMisuse()
 {
-    OlvGridLayout alone;
-    alone.addWidget(makeTile(&alone, 50));
-    alone.addWidget(static_cast<QWidget *>(nullptr));
-    alone.addWidget(QList<QWidget *>({ nullptr, nullptr }));
-    alone.resized();
-    wheel(alone, QPoint(0, -120));
-    QVERIFY(!alone.insWidget(nullptr, alone.findChild<QWidget *>()));
-
-    Scene scene(true);
+    GridScene scene(true);
     auto *tile = makeTile(scene.grid, 50);
-    scene.grid->addWidget(tile);
+    scene.grid->addWidget(QList<QWidget *>({ nullptr, tile, nullptr }));
+    QVERIFY(!scene.grid->insWidget(nullptr, tile));
     for (const int margin : { -20, 0, 1 << 30, -(1 << 30) }) {
         scene.grid->setMargin(margin);
         scene.grid->setSpacing(margin);
     }
     scene.grid->setMargin(15);
     QCOMPARE(tile->pos(), QPoint(15, 15));
-    for (const char *name : { "isSubWindow", "ScrollBar", "ResizeTimer" }) {
-        for (const QVariant &value : { QVariant(), QVariant(0xdeadbeefULL),
-                                       QVariant(QStringLiteral("x")), QVariant(true) }) {
-            scene.grid->setProperty(name, value);
-            scene.grid->reUi();
-            scene.grid->resized();
-            wheel(*scene.grid, QPoint(0, -120));
-        }
+    for (const QVariant &value :
+         { QVariant(), QVariant(0xdeadbeefULL), QVariant(QStringLiteral("x")), QVariant(true) }) {
+        scene.grid->setProperty("isSubWindow", value);
+        scene.grid->reUi();
+        scene.grid->resized();
+        wheel(*scene.grid, QPoint(0, -120));
     }
     // a tile that deletes its grid
     auto *grid = new OlvGridLayout(scene.viewport);
@@ -125,7 +117,7 @@ void TestGridSurvival::survivesAWidgetThatDeletesAnother()
 {
     QFETCH(int, victim);
     QFETCH(int, lastX);
-    Scene scene(true);
+    GridScene scene(true);
     QList<QWidget *> tiles;
     for (int i = 0; i < 4; ++i) {
         tiles.append(makeTile(scene.grid, 50));
@@ -145,58 +137,55 @@ void TestGridSurvival::survivesAWidgetThatDeletesAnother()
 
 void TestGridSurvival::survivesItsOwnDeletion_data()
 {
-    QTest::addColumn<QString>("moment");
-    for (const char *moment :
-         { "a widget moves", "the last widget moves", "the bar scrolls", "the bar is shown",
-           "the bar is placed", "the view has settled", "the window is resized" }) {
-        QTest::newRow(moment) << QString::fromLatin1(moment);
-    }
+    QTest::addColumn<bool>("embedded");
+    QTest::addColumn<Moment>("moment");
+    const auto row = [](const char *name, bool embedded, Moment moment) {
+        QTest::newRow(name) << embedded << moment;
+    };
+    row("a widget moves", true, [](GridScene &, const Tiles &tiles) {
+        return std::make_pair<QObject *>(tiles.first(), QEvent::Move);
+    });
+    row("a widget moves into a row of its own", true, [](GridScene &, const Tiles &tiles) {
+        tiles.first()->resize(5000, 50);
+        return std::make_pair<QObject *>(tiles.first(), QEvent::Move);
+    });
+    row("the last widget moves", true, [](GridScene &, const Tiles &tiles) {
+        return std::make_pair<QObject *>(tiles.last(), QEvent::Move);
+    });
+    row("the bar is shown", true, [](GridScene &scene, const Tiles &) {
+        return std::make_pair<QObject *>(barOf(*scene.grid), QEvent::Show);
+    });
+    row("the bar is placed", true, [](GridScene &scene, const Tiles &) {
+        scene.viewport->resize(310, 220);
+        return std::make_pair<QObject *>(barOf(*scene.grid), QEvent::Resize);
+    });
+    row("the view has settled", true, [](GridScene &scene, const Tiles &tiles) {
+        // the bar is shown already, so that it hears of its new place at once
+        scene.grid->addWidget(tiles);
+        scene.viewport->resize(310, 220);
+        return std::make_pair<QObject *>(barOf(*scene.grid), QEvent::Resize);
+    });
+    row("the window is resized", false, [](GridScene &scene, const Tiles &) {
+        return std::make_pair<QObject *>(&scene.window, QEvent::Resize);
+    });
 }
 
 void TestGridSurvival::survivesItsOwnDeletion()
 {
-    QFETCH(QString, moment);
-    Scene scene(moment != QLatin1String("the window is resized"));
+    QFETCH(bool, embedded);
+    QFETCH(Moment, moment);
+    GridScene scene(embedded);
     const QPointer<OlvGridLayout> grid(scene.grid);
     // no children of the grid: they live on, and so does what is told of the event
-    QList<QWidget *> tiles;
+    Tiles tiles;
     for (int i = 0; i < 3; ++i) {
         tiles.append(makeTile(scene.viewport, 50, 1170));
     }
     scene.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&scene.window));
-    const auto destroy = [&] {
-        delete grid;
-    };
-    const auto when = [&](QObject *object, QEvent::Type type) {
-        return std::make_unique<OnEvent>(object, type, destroy);
-    };
-    std::unique_ptr<OnEvent> event;
-    if (moment == QLatin1String("a widget moves")) {
-        event = when(tiles.first(), QEvent::Move);
-    } else if (moment == QLatin1String("the last widget moves")) {
-        event = when(tiles.last(), QEvent::Move);
-    } else if (moment == QLatin1String("the bar scrolls")) {
-        scene.grid->addWidget(tiles);
-        barOf(*scene.grid)->setValue(40);
-        connect(barOf(*scene.grid), &QScrollBar::valueChanged, this, destroy);
-        for (QWidget *tile : qAsConst(tiles)) {
-            tile->resize(50, 300);
-        }
-    } else if (moment == QLatin1String("the bar is shown")) {
-        event = when(barOf(*scene.grid), QEvent::Show);
-    } else if (moment == QLatin1String("the bar is placed")) {
-        event = when(barOf(*scene.grid), QEvent::Resize);
-        scene.viewport->resize(310, 220);
-    } else if (moment == QLatin1String("the view has settled")) {
-        // the bar is shown already, so that it hears of its new place at once
-        scene.grid->addWidget(tiles);
-        event = when(barOf(*scene.grid), QEvent::Resize);
-        scene.viewport->resize(310, 220);
-    } else if (moment == QLatin1String("the window is resized")) {
-        event = when(&scene.window, QEvent::Resize);
-    }
-    scene.grid->addWidget(tiles);
+    const auto event = moment(scene, tiles);
+    const OnEvent deletion(event.first, event.second, [&] { delete grid; });
+    grid->addWidget(tiles);
     QTRY_VERIFY(grid.isNull());
     // nothing of it is left that could be called
     scene.viewport->resize(400, 300);
@@ -205,36 +194,26 @@ void TestGridSurvival::survivesItsOwnDeletion()
 
 void TestGridSurvival::survivesTheLossOfItsBar_data()
 {
-    QTest::addColumn<QString>("moment");
-    for (const char *moment : { "a widget moves", "the bar scrolls", "the grid is resized" }) {
-        QTest::newRow(moment) << QString::fromLatin1(moment);
-    }
+    QTest::addColumn<bool>("whileArranging");
+    QTest::newRow("a widget moves") << true;
+    QTest::newRow("the grid is resized") << false;
 }
 
 void TestGridSurvival::survivesTheLossOfItsBar()
 {
-    QFETCH(QString, moment);
-    Scene scene(true);
+    QFETCH(bool, whileArranging);
+    GridScene scene(true);
     QWidget *tile = makeTile(scene.grid, 50, 1170);
     scene.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&scene.window));
     const QPointer<QScrollBar> bar(barOf(*scene.grid));
-    const auto destroy = [=] {
-        delete bar;
-    };
     const OnEvent onMove(tile, QEvent::Move, [&] {
-        if (moment == QLatin1String("a widget moves")) {
-            destroy();
+        if (whileArranging) {
+            delete bar;
         }
     });
     scene.grid->addWidget(tile);
-    if (moment == QLatin1String("the bar scrolls")) {
-        bar->setValue(40);
-        connect(bar, &QScrollBar::valueChanged, this, destroy);
-        tile->resize(50, 300);
-        scene.grid->reUi();
-    }
-    const OnEvent onResize(scene.grid, QEvent::Resize, destroy);
+    const OnEvent onResize(scene.grid, QEvent::Resize, [&] { delete bar; });
     scene.viewport->resize(320, 220);
     QTRY_COMPARE(scene.grid->width(), 320);
     QVERIFY(bar.isNull());
@@ -246,7 +225,7 @@ void TestGridSurvival::survivesTheLossOfItsBar()
 
 void TestGridSurvival::survivesTheLossOfItsLabel()
 {
-    Scene scene(true);
+    GridScene scene(true);
     delete labelOf(*scene.grid);
     scene.grid->reUi();
     QCOMPARE(scene.grid->height(), 200);
@@ -258,7 +237,7 @@ void TestGridSurvival::survivesTheLossOfItsLabel()
 
 void TestGridSurvival::survivesNumbersThatNoWidgetHas()
 {
-    Scene scene(true);
+    GridScene scene(true);
     for (int i = 0; i < 5; ++i) {
         scene.grid->addWidget(makeTile(scene.grid, 50, 1170));
     }
@@ -277,44 +256,9 @@ void TestGridSurvival::survivesNumbersThatNoWidgetHas()
     QCOMPARE(barOf(*scene.grid)->value(), 0);
 }
 
-void TestGridSurvival::survivesATileThatDeletesItWhenMoved_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::newRow("into the row") << 50;
-    QTest::newRow("into a row of its own") << 5000;
-}
-
-void TestGridSurvival::survivesATileThatDeletesItWhenMoved()
-{
-    QFETCH(int, width);
-    class Deleter : public QWidget
-    {
-    public:
-        using QWidget::QWidget;
-
-        QPointer<QWidget> deleted;
-
-    protected:
-        void moveEvent(QMoveEvent * /*event*/) override
-        {
-            delete deleted;
-        }
-    };
-    Scene scene(true);
-    const QPointer<OlvGridLayout> grid(scene.grid);
-    // beside the grid, for it goes with the grid otherwise
-    auto *tile = new Deleter(scene.viewport);
-    tile->resize(width, 50);
-    scene.window.show();
-    tile->deleted = grid;
-    grid->addWidget(QList<QWidget *>({ tile, makeTile(scene.viewport, 50) }));
-    QVERIFY(grid.isNull());
-    QCOMPARE(tile->x(), 15);
-}
-
 void TestGridSurvival::readsTheMarginAfreshForEachWidget()
 {
-    Scene scene(true);
+    GridScene scene(true);
     auto *first = makeTile(scene.grid, 40);
     auto *second = makeTile(scene.grid, 40);
     scene.window.show();

@@ -9,6 +9,14 @@
 
 #include <utility>
 
+namespace {
+
+using Deed = void (*)(OlvShortcutEdit *edit);
+
+} // namespace
+
+Q_DECLARE_METATYPE(Deed)
+
 class TestShortcutEditMisuse : public QObject
 {
     Q_OBJECT
@@ -30,34 +38,31 @@ void TestShortcutEditMisuse::init()
 
 void TestShortcutEditMisuse::survivesSlotsThatDoAnything_data()
 {
-    QTest::addColumn<QString>("action");
     QTest::addColumn<bool>("fromValueChanged");
-    for (const char *action : { "delete", "clear", "replace", "delete the shortcut" }) {
-        for (const bool fromValueChanged : { false, true }) {
-            QTest::addRow("%s, %s", action, fromValueChanged ? "valueChanged" : "shortcutChanged")
-                << QString::fromLatin1(action) << fromValueChanged;
-        }
-    }
+    QTest::addColumn<Deed>("deed");
+    QTest::addColumn<QString>("value");
+    const QString none = QStringLiteral("nullptr");
+    const auto add = [](const char *name, const QString &value, Deed deed) {
+        QTest::addRow("%s, shortcutChanged", name) << false << deed << value;
+        QTest::addRow("%s, valueChanged", name) << true << deed << value;
+    };
+    add("delete", QString(), [](OlvShortcutEdit *edit) { delete edit; });
+    add("clear", none, [](OlvShortcutEdit *edit) { edit->clear(); });
+    add("delete the shortcut", none, [](OlvShortcutEdit *edit) { delete edit->shortcut(); });
+    add("replace", QStringLiteral("two"),
+        [](OlvShortcutEdit *edit) { edit->setShortcut(new FakeShortcut(QStringLiteral("two"))); });
 }
 
 void TestShortcutEditMisuse::survivesSlotsThatDoAnything()
 {
-    QFETCH(QString, action);
     QFETCH(bool, fromValueChanged);
+    QFETCH(Deed, deed);
+    QFETCH(QString, value);
     const QPointer<OlvShortcutEdit> edit(new OlvShortcutEdit);
     bool done = false;
     const auto act = [&] {
-        if (std::exchange(done, true)) {
-            return;
-        }
-        if (action == QLatin1String("delete")) {
-            delete edit;
-        } else if (action == QLatin1String("clear")) {
-            edit->clear();
-        } else if (action == QLatin1String("replace")) {
-            edit->setShortcut(new FakeShortcut(QStringLiteral("two")));
-        } else {
-            delete edit->shortcut();
+        if (!std::exchange(done, true)) {
+            deed(edit);
         }
     };
     if (fromValueChanged) {
@@ -67,17 +72,12 @@ void TestShortcutEditMisuse::survivesSlotsThatDoAnything()
     }
     QVERIFY(edit->setShortcut(new FakeShortcut(QStringLiteral("one"))));
     QVERIFY(done);
-    if (edit) {
-        QCOMPARE(edit->getValue().toString(),
-                 action == QLatin1String("replace") ? QStringLiteral("two")
-                                                    : QStringLiteral("nullptr"));
-    }
+    QCOMPARE(edit ? edit->getValue().toString() : QString(), value);
     delete edit;
     // whatever happened, each shortcut was deleted once
     const QStringList record = takeRecord();
     QCOMPARE(record.count(QStringLiteral("one deleted")), 1);
-    QCOMPARE(record.count(QStringLiteral("two deleted")),
-             action == QLatin1String("replace") ? 1 : 0);
+    QCOMPARE(record.count(QStringLiteral("two deleted")), value == QLatin1String("two") ? 1 : 0);
 }
 
 void TestShortcutEditMisuse::survivesShortcutsThatDeleteIt()

@@ -16,8 +16,8 @@ QVector<Emission> barEmissions()
         return new OlvControlBar({ 0x61, 0x62, 0x63, 0x64, 0x65, 0x66, 0x67, 0x68 }, parent,
                                  { QStringLiteral("one"), QStringLiteral("two") });
     };
-    const auto buttonAt = [](int index) -> Helper {
-        return [=](const QWidget *bar) -> QObject * {
+    const auto buttonAt = [](int index) -> Finder {
+        return [=](const QWidget *bar) {
             return bar->findChildren<QPushButton *>().value(index);
         };
     };
@@ -27,14 +27,14 @@ QVector<Emission> barEmissions()
             clickMouse(static_cast<QWidget *>(buttonAt(i)(sender)));
         };
         // the two in the middle are those that exclude each other
-        const QMap<QString, Helper> helpers{ { QStringLiteral("button"), buttonAt(i) },
-                                             { QStringLiteral("bottom"), buttonAt(3) },
-                                             { QStringLiteral("top"), buttonAt(4) } };
+        const QVector<Victim> helpers{ { "button", buttonAt(i) },
+                                       { "bottom", buttonAt(3) },
+                                       { "top", buttonAt(4) } };
         if (i < 2) {
-            emissions.append({ QStringLiteral("OlvControlBar::custom %1").arg(i), makeBar,
+            emissions.append({ "OlvControlBar::custom " + QByteArray::number(i), makeBar,
                                toSignal<OlvControlBar>(&OlvControlBar::custom), click, helpers });
         } else {
-            emissions.append({ QStringLiteral("OlvControlBar::changed %1").arg(i - 2), makeBar,
+            emissions.append({ "OlvControlBar::changed " + QByteArray::number(i - 2), makeBar,
                                toSignal<OlvControlBar>(&OlvControlBar::changed), click, helpers });
         }
     }
@@ -73,31 +73,21 @@ QVector<Emission> containerEmissions()
     const auto makePanel = [](QWidget *parent) -> QWidget * {
         return new OlvFlexWidget(200, 100, parent);
     };
-    const QMap<QString, Helper> gridHelpers{
-        { QStringLiteral("bar"), inProperty<QScrollBar>("ScrollBar") },
-        { QStringLiteral("timer"), inProperty<QTimer>("ResizeTimer") },
-        { QStringLiteral("label"), ofClass<QLabel>() },
-    };
-    const QMap<QString, Helper> panelHelpers{
-        { QStringLiteral("timer"), inProperty<QTimer>("resizeTimer") },
-        { QStringLiteral("mover"), ofClass<OlvMoveWidget>() },
-        { QStringLiteral("resizer"), ofClass<OlvResizeWidget>() },
-        { QStringLiteral("handle"), ofClass<OlvResizeItem>() },
-    };
+    const QVector<Victim> gridHelpers{ { "bar", inProperty<QScrollBar>("ScrollBar") },
+                                       { "timer", inProperty<QTimer>("ResizeTimer") },
+                                       { "label", ofClass<QLabel>() } };
+    const QVector<Victim> panelHelpers{ { "timer", inProperty<QTimer>("resizeTimer") },
+                                        { "mover", ofClass<OlvMoveWidget>() },
+                                        { "resizer", ofClass<OlvResizeWidget>() },
+                                        { "handle", ofClass<OlvResizeItem>() } };
     return {
-        { QStringLiteral("bar of OlvGridLayout, wheel"), makeGrid, toBar, turn, gridHelpers },
-        { QStringLiteral("bar of OlvGridLayout, reflow"), makeGrid, toBar, shrink, gridHelpers },
-        { QStringLiteral("timer of OlvGridLayout"), makeGrid, toTimer("ResizeTimer"),
+        { "bar of OlvGridLayout, wheel", makeGrid, toBar, turn, gridHelpers },
+        { "bar of OlvGridLayout, reflow", makeGrid, toBar, shrink, gridHelpers },
+        { "timer of OlvGridLayout", makeGrid, toTimer("ResizeTimer"),
           [](QWidget *sender) { hurry(sender, "ResizeTimer"); }, gridHelpers },
-        { QStringLiteral("timer of OlvFlexWidget"), makePanel, toTimer("resizeTimer"),
+        { "timer of OlvFlexWidget", makePanel, toTimer("resizeTimer"),
           [](QWidget *sender) { hurry(sender, "resizeTimer"); }, panelHelpers },
     };
-}
-
-const QVector<Emission> &emissions()
-{
-    static const QVector<Emission> all = barEmissions() + containerEmissions();
-    return all;
 }
 
 } // namespace
@@ -113,14 +103,14 @@ private Q_SLOTS:
 
 void TestDeletionInHelpers::survives_data()
 {
-    Deletion::addRows(emissions());
+    Deletion::addRows(barEmissions() + containerEmissions());
 }
 
 void TestDeletionInHelpers::survives()
 {
-    QFETCH(int, index);
-    QFETCH(QString, victim);
-    Deletion::check(emissions().at(index), victim);
+    QFETCH(Deletion::Emission, emission);
+    QFETCH(Deletion::Finder, victim);
+    Deletion::check(emission, victim);
 }
 
 QTEST_MAIN(TestDeletionInHelpers)

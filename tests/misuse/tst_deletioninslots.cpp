@@ -12,10 +12,9 @@ namespace {
 
 using namespace Deletion;
 
-template <typename Widget>
-Emission inputMethod(const char *name, const QMap<QString, Helper> &helpers)
+template <typename Widget> Emission inputMethod(const char *name, const QVector<Victim> &helpers)
 {
-    return { QStringLiteral("%1::inputMethodCommit").arg(QLatin1String(name)), make<Widget>,
+    return { QByteArray(name) + "::inputMethodCommit", make<Widget>,
              toSignal<Widget>(&OlvWidget::inputMethodCommit),
              [](QWidget *sender) {
                  QInputMethodEvent event;
@@ -25,21 +24,20 @@ Emission inputMethod(const char *name, const QMap<QString, Helper> &helpers)
              helpers };
 }
 
-QMap<QString, Helper> editHelpers()
+QVector<Victim> editHelpers()
 {
-    return { { QStringLiteral("text"), ofClass<QLineEdit>() },
-             { QStringLiteral("button"), ofClass<OlvSimpleIconButton>() } };
+    return { { "text", ofClass<QLineEdit>() }, { "button", ofClass<OlvSimpleIconButton>() } };
 }
 
-QMap<QString, Helper> switchHelpers()
+QVector<Victim> switchHelpers()
 {
-    return { { QStringLiteral("knob"), inProperty<SwitchRound>("round") },
-             { QStringLiteral("filter"), ofClass<OlvPluginEventFilter>() } };
+    return { { "knob", inProperty<SwitchRound>("round") },
+             { "filter", ofClass<OlvPluginEventFilter>() } };
 }
 
-QMap<QString, Helper> shortcutHelper()
+QVector<Victim> shortcutHelper()
 {
-    return { { QStringLiteral("shortcut"), [](const QWidget *edit) -> QObject * {
+    return { { "shortcut", [](const QWidget *edit) {
                   return OlvShortcut::fromAddress(edit->property("OlvShortcut").toULongLong());
               } } };
 }
@@ -48,12 +46,11 @@ QVector<Emission> inputMethodEmissions()
 {
     return {
         inputMethod<OlvButton>("OlvButton", {}),
-        inputMethod<OlvIconButton>(
-            "OlvIconButton", { { QStringLiteral("timer"), inProperty<QTimer>("clickTimer") } }),
+        inputMethod<OlvIconButton>("OlvIconButton",
+                                   { { "timer", inProperty<QTimer>("clickTimer") } }),
         inputMethod<OlvLineEdit>("OlvLineEdit", editHelpers()),
         inputMethod<OlvShortcutEdit>("OlvShortcutEdit", {}),
-        inputMethod<OlvSlider>(
-            "OlvSlider", { { QStringLiteral("knob"), inProperty<SliderRound>("SliderRound") } }),
+        inputMethod<OlvSlider>("OlvSlider", { { "knob", inProperty<SliderRound>("SliderRound") } }),
         inputMethod<OlvSwitch>("OlvSwitch", switchHelpers()),
     };
 }
@@ -71,8 +68,7 @@ QVector<Emission> buttonEmissions()
     };
     const auto clicked = toSignal<OlvButton>(&OlvButton::clicked);
     const auto toggled = toSignal<OlvButton>(&OlvButton::toggled);
-    const QMap<QString, Helper> timer{ { QStringLiteral("timer"),
-                                         inProperty<QTimer>("clickTimer") } };
+    const QVector<Victim> timer{ { "timer", inProperty<QTimer>("clickTimer") } };
     const auto makeStar = [](QWidget *parent) -> QWidget * {
         return new OlvSimpleIconButton(QStringLiteral("a"), QFont(), parent);
     };
@@ -95,30 +91,22 @@ QVector<Emission> buttonEmissions()
         };
     };
     return {
-        { QStringLiteral("OlvButton::clicked, mouse"), make<OlvButton>, clicked, clickMouse, {} },
-        { QStringLiteral("OlvButton::clicked, checkable, mouse"),
-          makeCheckable,
-          clicked,
-          clickMouse,
-          {} },
-        { QStringLiteral("OlvButton::clicked, code"), make<OlvButton>, clicked, byCode, {} },
-        { QStringLiteral("OlvButton::clicked, checkable, code"),
-          makeCheckable,
-          clicked,
-          byCode,
-          {} },
-        { QStringLiteral("OlvButton::toggled, mouse"), makeCheckable, toggled, clickMouse, {} },
-        { QStringLiteral("OlvButton::toggled, code"), makeCheckable, toggled, byCode, {} },
-        { QStringLiteral("OlvIconButton::clicked"), make<OlvIconButton>,
+        { "OlvButton::clicked, mouse", make<OlvButton>, clicked, clickMouse, {} },
+        { "OlvButton::clicked, checkable, mouse", makeCheckable, clicked, clickMouse, {} },
+        { "OlvButton::clicked, code", make<OlvButton>, clicked, byCode, {} },
+        { "OlvButton::clicked, checkable, code", makeCheckable, clicked, byCode, {} },
+        { "OlvButton::toggled, mouse", makeCheckable, toggled, clickMouse, {} },
+        { "OlvButton::toggled, code", makeCheckable, toggled, byCode, {} },
+        { "OlvIconButton::clicked", make<OlvIconButton>,
           toSignal<OlvIconButton>(&OlvIconButton::clicked), bursts(1), timer },
-        { QStringLiteral("OlvIconButton::dClicked"), make<OlvIconButton>,
+        { "OlvIconButton::dClicked", make<OlvIconButton>,
           toSignal<OlvIconButton>(&OlvIconButton::dClicked), bursts(2), timer },
-        { QStringLiteral("OlvSimpleIconButton::clicked, after the toggle"),
+        { "OlvSimpleIconButton::clicked, after the toggle",
           makeStar,
           toggleThenSlot,
           clickMouse,
           {} },
-        { QStringLiteral("OlvSimpleIconButton::clicked, before the toggle"),
+        { "OlvSimpleIconButton::clicked, before the toggle",
           makeStar,
           slotThenToggle,
           clickMouse,
@@ -152,17 +140,16 @@ QVector<Emission> inputEmissions()
         return new OlvShortcutEdit(new FakeShortcut(QStringLiteral("before")), parent);
     };
     return {
-        { QStringLiteral("password button of OlvLineEdit"), make<OlvLineEdit>, onPwdButton,
-          pressPwdButton, editHelpers() },
-        { QStringLiteral("OlvShortcutEdit::shortcutChanged"), make<OlvShortcutEdit>, changed, hand,
+        { "password button of OlvLineEdit", make<OlvLineEdit>, onPwdButton, pressPwdButton,
+          editHelpers() },
+        { "OlvShortcutEdit::shortcutChanged", make<OlvShortcutEdit>, changed, hand,
           shortcutHelper() },
-        { QStringLiteral("OlvShortcutEdit::shortcutChanged, in place of one"), holding, changed,
-          hand, shortcutHelper() },
-        { QStringLiteral("OlvShortcutEdit::shortcutChanged, by setValue"), holding, changed,
-          handAddress, shortcutHelper() },
-        { QStringLiteral("OlvShortcutEdit::valueChanged"), make<OlvShortcutEdit>, value, hand,
+        { "OlvShortcutEdit::shortcutChanged, in place of one", holding, changed, hand,
           shortcutHelper() },
-        { QStringLiteral("OlvShortcutEdit::valueChanged, by setValue"), holding, value, handAddress,
+        { "OlvShortcutEdit::shortcutChanged, by setValue", holding, changed, handAddress,
+          shortcutHelper() },
+        { "OlvShortcutEdit::valueChanged", make<OlvShortcutEdit>, value, hand, shortcutHelper() },
+        { "OlvShortcutEdit::valueChanged, by setValue", holding, value, handAddress,
           shortcutHelper() },
     };
 }
@@ -182,22 +169,11 @@ QVector<Emission> valueEmissions()
     const auto value = toSignal<OlvWidget>(&OlvWidget::valueChanged);
     const auto changed = toSignal<OlvSwitch>(&OlvSwitch::changed);
     return {
-        { QStringLiteral("OlvSwitch::valueChanged"), make<OlvSwitch>, value, byTicks,
-          switchHelpers() },
-        { QStringLiteral("OlvSwitch::valueChanged, real timer"), make<OlvSwitch>, value, byTimer,
-          switchHelpers() },
-        { QStringLiteral("OlvSwitch::changed"), make<OlvSwitch>, changed, byTicks,
-          switchHelpers() },
-        { QStringLiteral("OlvSwitch::changed, real timer"), make<OlvSwitch>, changed, byTimer,
-          switchHelpers() },
+        { "OlvSwitch::valueChanged", make<OlvSwitch>, value, byTicks, switchHelpers() },
+        { "OlvSwitch::valueChanged, real timer", make<OlvSwitch>, value, byTimer, switchHelpers() },
+        { "OlvSwitch::changed", make<OlvSwitch>, changed, byTicks, switchHelpers() },
+        { "OlvSwitch::changed, real timer", make<OlvSwitch>, changed, byTimer, switchHelpers() },
     };
-}
-
-const QVector<Emission> &emissions()
-{
-    static const QVector<Emission> all =
-        inputMethodEmissions() + buttonEmissions() + inputEmissions() + valueEmissions();
-    return all;
 }
 
 } // namespace
@@ -213,14 +189,15 @@ private Q_SLOTS:
 
 void TestDeletionInSlots::survives_data()
 {
-    Deletion::addRows(emissions());
+    Deletion::addRows(inputMethodEmissions() + buttonEmissions() + inputEmissions()
+                      + valueEmissions());
 }
 
 void TestDeletionInSlots::survives()
 {
-    QFETCH(int, index);
-    QFETCH(QString, victim);
-    Deletion::check(emissions().at(index), victim);
+    QFETCH(Deletion::Emission, emission);
+    QFETCH(Deletion::Finder, victim);
+    Deletion::check(emission, victim);
 }
 
 QTEST_MAIN(TestDeletionInSlots)

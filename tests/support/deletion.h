@@ -4,7 +4,6 @@
 #include "mouse.h"
 #include "pointer.h"
 
-#include <QMap>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -17,17 +16,24 @@
 namespace Deletion {
 
 using Slot = std::function<void()>;
-using Helper = std::function<QObject *(const QWidget *)>;
+using Finder = std::function<QObject *(QWidget *sender)>;
+
+/** An object that a slot deletes. */
+struct Victim
+{
+    const char *name;
+    Finder find;
+};
 
 /** A way in which a widget comes to emit one of its signals, or a helper of its comes to. */
 struct Emission
 {
-    QString name;
+    QByteArray name;
     std::function<QWidget *(QWidget *parent)> make;
     std::function<void(QWidget *sender, const Slot &slot)> connectTo;
     /** Ends with the emission, or starts what leads to it. */
     std::function<void(QWidget *sender)> emitNow;
-    QMap<QString, Helper> helpers;
+    QVector<Victim> helpers;
 };
 
 template <typename Widget> QWidget *make(QWidget *parent)
@@ -44,7 +50,7 @@ std::function<void(QWidget *, const Slot &)> toSignal(Signal signal)
 }
 
 /** The helper whose address a property holds, while it lives. */
-template <typename Object> Helper inProperty(const char *name)
+template <typename Object> Finder inProperty(const char *name)
 {
     return [=](const QWidget *widget) -> QObject * {
         const QList<QObject *> objects = widget->window()->findChildren<QObject *>();
@@ -59,7 +65,7 @@ template <typename Object> Helper inProperty(const char *name)
     };
 }
 
-template <typename Object> Helper ofClass()
+template <typename Object> Finder ofClass()
 {
     return [](const QWidget *widget) -> QObject * {
         for (QObject *child : widget->children()) {
@@ -72,7 +78,7 @@ template <typename Object> Helper ofClass()
 }
 
 /** Fires a timer that is a helper as soon as the event loop runs. */
-inline void hurry(const QWidget *widget, const char *property)
+inline void hurry(QWidget *widget, const char *property)
 {
     auto *timer = static_cast<QTimer *>(inProperty<QTimer>(property)(widget));
     if (timer) {
@@ -89,23 +95,28 @@ inline void clickMouse(QWidget *widget)
     }
 }
 
-/** A row for each emission with each of its victims. */
+/** A row for each emission with each of its victims: the sender, its parent and the helpers. */
 inline void addRows(const QVector<Emission> &emissions)
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("victim");
-    for (int i = 0; i < emissions.size(); ++i) {
-        const Emission &emission = emissions.at(i);
-        QStringList victims{ QStringLiteral("sender"), QStringLiteral("parent") };
-        victims += emission.helpers.keys();
-        for (const QString &victim : qAsConst(victims)) {
-            QTest::addRow("%s: %s", qPrintable(emission.name), qPrintable(victim)) << i << victim;
+    QTest::addColumn<Emission>("emission");
+    QTest::addColumn<Finder>("victim");
+    const Victim sender{ "sender", [](QWidget *widget) {
+                            return widget;
+                        } };
+    const Victim parent{ "parent", [](QWidget *widget) {
+                            return widget->parent();
+                        } };
+    for (const Emission &emission : emissions) {
+        const QVector<Victim> victims = QVector<Victim>{ sender, parent } + emission.helpers;
+        for (const Victim &victim : victims) {
+            QTest::addRow("%s: %s", emission.name.constData(), victim.name)
+                << emission << victim.find;
         }
     }
 }
 
 /** Has a slot delete the victim while the emission happens; fails unless all else lives on. */
-inline void check(const Emission &emission, const QString &victim)
+inline void check(const Emission &emission, const Finder &victim)
 {
     QWidget window;
     window.resize(400, 300);
@@ -115,27 +126,22 @@ inline void check(const Emission &emission, const QString &victim)
     window.show();
     QPointer<QObject> target;
     bool emitted = false;
+    bool isHelper = false;
     emission.connectTo(sender, [&] {
         if (std::exchange(emitted, true)) {
             return;
         }
-        if (victim == QLatin1String("sender")) {
-            target = sender;
-        } else if (victim == QLatin1String("parent")) {
-            target = parent;
-        } else {
-            target = emission.helpers.value(victim)(sender);
-        }
+        target = victim(sender);
+        isHelper = target != sender && target != parent;
         QVERIFY(target);
         delete target;
     });
     emission.emitNow(sender);
     QTRY_VERIFY(emitted);
     QVERIFY(target.isNull());
-    const bool isWhole = victim != QLatin1String("sender") && victim != QLatin1String("parent");
-    QCOMPARE(!sender.isNull(), isWhole);
+    QCOMPARE(!sender.isNull(), isHelper);
     QVERIFY(!window.grab().isNull());
-    if (isWhole) {
+    if (isHelper) {
         // what is left works on
         emission.emitNow(sender);
         sender->resize(sender->size() + QSize(10, 10));
@@ -145,3 +151,6 @@ inline void check(const Emission &emission, const QString &victim)
 }
 
 } // namespace Deletion
+
+Q_DECLARE_METATYPE(Deletion::Emission)
+Q_DECLARE_METATYPE(Deletion::Finder)

@@ -27,9 +27,9 @@ inline QScrollBar *barOf(const OlvGridLayout &grid)
 }
 
 /** A grid in a viewport, which is a child of a window, or in the window itself. */
-struct Scene
+struct GridScene
 {
-    explicit Scene(bool embedded, QSize size = { 300, 200 })
+    explicit GridScene(bool embedded, QSize size = { 300, 200 })
         : viewport(embedded ? new QWidget(&window) : &window)
     {
         viewport->resize(size);

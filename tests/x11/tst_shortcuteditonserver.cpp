@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "keyplay.h"
 #include "otherprogram.h"
-#include "realinput.h"
+#include "shortcutkeys.h"
 
 #include <OlvShortcutEdit>
 
 #include <QSignalSpy>
 #include <QTest>
-
-namespace {
-
-// symbols of X's keysymdef.h
-constexpr quint32 symbolControl = 0xffe3;
-constexpr quint32 symbolShift = 0xffe1;
-constexpr quint32 symbolF5 = 0xffc2;
-constexpr int maskControl = 4;
-
-} // namespace
 
 class TestShortcutEditOnServer : public QObject
 {
@@ -135,16 +125,13 @@ void TestShortcutEditOnServer::clearingAndDestroyingReleaseIt()
         };
         return QTest::qWaitFor(said) && other.lines().value(0) == QLatin1String("held");
     };
-    const auto makeShortcut = [] {
-        return new OlvShortcut(Qt::Key_F5, true, false, false, false);
-    };
     auto *edit = new OlvShortcutEdit;
-    QVERIFY(edit->setShortcut(makeShortcut()));
+    QVERIFY(edit->setShortcut(ctrl(Qt::Key_F5)));
     QVERIFY(!canBeHeldElsewhere());
     edit->clear();
     QVERIFY(canBeHeldElsewhere());
 
-    QVERIFY(QTest::qWaitFor([&] { return edit->setShortcut(makeShortcut()); }));
+    QVERIFY(QTest::qWaitFor([&] { return edit->setShortcut(ctrl(Qt::Key_F5)); }));
     QVERIFY(!canBeHeldElsewhere());
     delete edit;
     QVERIFY(canBeHeldElsewhere());
@@ -152,7 +139,7 @@ void TestShortcutEditOnServer::clearingAndDestroyingReleaseIt()
 
 void TestShortcutEditOnServer::combinationThatIsTakenLeavesTheOneBefore()
 {
-    OlvShortcutEdit edit(new OlvShortcut(Qt::Key_F6, true, false, false, false));
+    OlvShortcutEdit edit(ctrl(Qt::Key_F6));
     OtherProgram other(
         { QStringLiteral("hold"), QString::number(symbolF5), QString::number(maskControl) });
     QTRY_COMPARE(other.lines().value(0), QStringLiteral("held"));
