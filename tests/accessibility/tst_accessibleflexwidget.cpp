@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
+#include "deferred.h"
 
 #include <OlvFlexWidget>
 
-#include <QEventLoop>
 #include <QTest>
-#include <QTimer>
 
 class TestAccessibleFlexWidget : public QObject
 {
@@ -22,10 +21,7 @@ private Q_SLOTS:
 
 void TestAccessibleFlexWidget::cleanup()
 {
-    // what a handle has put off to the event loop is no leak once that has run
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
+    runDeferred();
 }
 
 void TestAccessibleFlexWidget::isAWindowOrAPane()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
+#include "fakeshortcut.h"
 
 #include <OlvShortcutEdit>
 
@@ -10,41 +11,21 @@
 
 namespace {
 
-/** A shortcut that can always be had. */
-class FreeShortcut : public OlvShortcut
+QString controlF5()
+{
+    return QStringLiteral("Ctrl+F5");
+}
+
+QString controlF6()
+{
+    return QStringLiteral("Ctrl+F6");
+}
+
+/** Shortcuts that all lie at the same address, one after the other. */
+class SamePlaceShortcut : public FakeShortcut
 {
 public:
-    explicit FreeShortcut(Qt::Key key)
-        : OlvShortcut(key, true, false, false, false)
-    { }
-    bool active() override
-    {
-        return true;
-    }
-};
-
-/** One with a text that no keys would give it. */
-class NamedShortcut : public FreeShortcut
-{
-public:
-    explicit NamedShortcut(const QString &name)
-        : FreeShortcut(Qt::Key_F5)
-        , m_name(name)
-    { }
-    QString toString() override
-    {
-        return m_name;
-    }
-
-private:
-    QString m_name;
-};
-
-/** Ones that all lie at the same address, one after the other. */
-class SamePlaceShortcut : public FreeShortcut
-{
-public:
-    using FreeShortcut::FreeShortcut;
+    using FakeShortcut::FakeShortcut;
     static void *operator new(size_t size)
     {
         static std::max_align_t place[64];
@@ -53,17 +34,15 @@ public:
     static void operator delete(void * /*place*/) { }
 };
 
-/** One that counts how often it is asked. */
-class CountingShortcut : public FreeShortcut
+/** A shortcut that counts how often it is asked for its text. */
+class CountingShortcut : public FakeShortcut
 {
 public:
-    CountingShortcut()
-        : FreeShortcut(Qt::Key_F5)
-    { }
+    using FakeShortcut::FakeShortcut;
     QString toString() override
     {
         ++asked;
-        return FreeShortcut::toString();
+        return FakeShortcut::toString();
     }
 
     int asked = 0;
@@ -110,7 +89,7 @@ void TestAccessibleShortcutEdit::itsValueIsTheShortcut()
 {
     OlvShortcutEdit edit;
     QCOMPARE(valueOf(edit), QString());
-    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F5)));
+    QVERIFY(edit.setShortcut(new FakeShortcut(controlF5())));
     QCOMPARE(valueOf(edit), QStringLiteral("Ctrl+F5"));
     edit.clear();
     QCOMPARE(valueOf(edit), QString());
@@ -118,7 +97,7 @@ void TestAccessibleShortcutEdit::itsValueIsTheShortcut()
 
 void TestAccessibleShortcutEdit::isReadAsAText()
 {
-    OlvShortcutEdit edit(new FreeShortcut(Qt::Key_F5));
+    OlvShortcutEdit edit(new FakeShortcut(controlF5()));
     edit.resize(200, 30);
     edit.show();
     QAccessibleTextInterface *text = accessible(&edit)->textInterface();
@@ -177,7 +156,7 @@ void TestAccessibleShortcutEdit::isReadByTheWord()
     QFETCH(int, offset);
     QFETCH(QString, read);
     QFETCH(int, start);
-    OlvShortcutEdit edit(new NamedShortcut(name));
+    OlvShortcutEdit edit(new FakeShortcut(name));
     int first = 0;
     int last = 0;
     QCOMPARE(accessible(&edit)->textInterface()->textAtOffset(
@@ -213,7 +192,7 @@ void TestAccessibleShortcutEdit::standsEveryPartOfTheText()
     QFETCH(int, start);
     QFETCH(int, end);
     QFETCH(QString, part);
-    OlvShortcutEdit edit(new FreeShortcut(Qt::Key_F5));
+    OlvShortcutEdit edit(new FakeShortcut(controlF5()));
     QAccessibleTextInterface *text = accessible(&edit)->textInterface();
     QCOMPARE(text->text(start, end), part);
     edit.clear();
@@ -237,9 +216,9 @@ void TestAccessibleShortcutEdit::tellsOfEveryChange()
     Assistant assistant;
     OlvShortcutEdit edit;
     edit.show();
-    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F5)));
+    QVERIFY(edit.setShortcut(new FakeShortcut(controlF5())));
     QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text  > Ctrl+F5") });
-    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F6)));
+    QVERIFY(edit.setShortcut(new FakeShortcut(controlF6())));
     QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text Ctrl+F5 > Ctrl+F6") });
     edit.setProperty("HasOlvShortcut", false);
     QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text Ctrl+F6 > ") });
@@ -247,26 +226,26 @@ void TestAccessibleShortcutEdit::tellsOfEveryChange()
 
 void TestAccessibleShortcutEdit::tellsOfAShortcutThatIsDeleted()
 {
-    OlvShortcutEdit edit(new FreeShortcut(Qt::Key_F5));
+    OlvShortcutEdit edit(new FakeShortcut(controlF5()));
     edit.show();
     Assistant assistant;
     QStringList heard;
     delete edit.shortcut();
     QTRY_COMPARE((heard += assistant.heardOf(&edit)),
                  QStringList{ QStringLiteral("text Ctrl+F5 > ") });
-    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F6)));
+    QVERIFY(edit.setShortcut(new FakeShortcut(controlF6())));
     delete edit.shortcut();
     QTRY_COMPARE((heard += assistant.heardOf(&edit)).last(), QStringLiteral("text Ctrl+F6 > "));
 }
 
 void TestAccessibleShortcutEdit::tellsOfAShortcutInThePlaceOfTheOneBefore()
 {
-    OlvShortcutEdit edit(new SamePlaceShortcut(Qt::Key_F5));
+    OlvShortcutEdit edit(new SamePlaceShortcut(controlF5()));
     edit.show();
     Assistant assistant;
     const QVariant place = edit.property("OlvShortcut");
     delete edit.shortcut();
-    QVERIFY(edit.setShortcut(new SamePlaceShortcut(Qt::Key_F6)));
+    QVERIFY(edit.setShortcut(new SamePlaceShortcut(controlF6())));
     QCOMPARE(edit.property("OlvShortcut"), place);
     QCOMPARE(assistant.heardOf(&edit), QStringList{ QStringLiteral("text Ctrl+F5 > Ctrl+F6") });
 }
@@ -277,14 +256,14 @@ void TestAccessibleShortcutEdit::standsAShortcutThatASlotDeletes()
     connect(&edit, &OlvShortcutEdit::shortcutChanged, this, [&] { delete edit.shortcut(); });
     edit.show();
     Assistant assistant; // hears of the signal after that slot
-    QVERIFY(edit.setShortcut(new FreeShortcut(Qt::Key_F5)));
+    QVERIFY(edit.setShortcut(new FakeShortcut(controlF5())));
     QCOMPARE(assistant.heardOf(&edit),
              (QStringList{ QStringLiteral("text  > Ctrl+F5"), QStringLiteral("text Ctrl+F5 > ") }));
 }
 
 void TestAccessibleShortcutEdit::asksTheShortcutOnlyWhileSomebodyLooks()
 {
-    auto *shortcut = new CountingShortcut;
+    auto *shortcut = new CountingShortcut(controlF5());
     OlvShortcutEdit edit(shortcut);
     QVERIFY(accessible(&edit));
     shortcut->asked = 0;

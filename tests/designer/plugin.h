@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QEventLoop>
 #include <QList>
 #include <QPluginLoader>
 #include <QStringList>
-#include <QTimer>
 #include <QXmlStreamReader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -45,12 +43,4 @@ inline QStringList dynamicProperties(const QString &domXml)
         }
     }
     return xml.hasError() ? QStringList{ xml.errorString() } : names;
-}
-
-/** Runs what a panel has put off to the event loop, which is no leak then. */
-inline void runPutOffWork()
-{
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
 }

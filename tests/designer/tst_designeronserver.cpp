@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "forms.h"
 #include "plugin.h"
 
 #include <OlvGridLayout>
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -92,12 +92,9 @@ QString geometryElement(const QRect &geometry)
 /** The widget element of what the plugin drops, at @p geometry. */
 QString placed(const QString &className, const QRect &geometry)
 {
-    static const QRegularExpression element(QStringLiteral("<widget.*</widget>"));
     static const QRegularExpression place(
         QStringLiteral("<property name=\"geometry\">.*?</property>"));
-    return element.match(pluginWidget(className)->domXml())
-        .captured()
-        .replace(place, geometryElement(geometry));
+    return elementOf(pluginWidget(className)->domXml()).replace(place, geometryElement(geometry));
 }
 
 /** A form into which each widget has been dropped once, the grid inside its viewport. */
@@ -157,14 +154,8 @@ void TestDesignerOnServer::initTestCase()
     m_seen = QJsonDocument::fromJson(read(QStringLiteral("report.json"))).object();
     QVERIFY2(!m_seen.isEmpty(), m_errors.constData());
 
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(OLV_PLUGINS "/designer"));
-    QBuffer savedForm;
-    savedForm.setData(read(QStringLiteral("form.ui")));
-    QVERIFY(savedForm.open(QIODevice::ReadOnly));
-    m_saved.reset(loader.load(&savedForm));
-    QVERIFY2(m_saved, qPrintable(loader.errorString()));
+    m_saved = loadForm(QString::fromUtf8(read(QStringLiteral("form.ui"))), nullptr);
+    QVERIFY(m_saved);
 
     const QString pictures = qEnvironmentVariable("OLV_PICTURES");
     if (!pictures.isEmpty()) {

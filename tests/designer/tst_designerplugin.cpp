@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "deferred.h"
+#include "forms.h"
 #include "plugin.h"
 
 #include <QBuffer>
@@ -72,7 +74,7 @@ private:
 
 void TestDesignerPlugin::cleanup()
 {
-    runPutOffWork();
+    runDeferred();
 }
 
 void TestDesignerPlugin::addClasses()
@@ -169,16 +171,10 @@ void TestDesignerPlugin::makesTheWidgetWithASensibleSize()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, properties);
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(OLV_PLUGINS "/designer"));
-    QBuffer form;
-    form.setData(pluginWidget(name)->domXml().toUtf8());
-    QVERIFY(form.open(QIODevice::ReadOnly));
     QWidget parent; // the grid would resize its window
     QWidget viewport(&parent);
-    const std::unique_ptr<QWidget> widget(loader.load(&form, &viewport));
-    QVERIFY2(widget, qPrintable(loader.errorString()));
+    const std::unique_ptr<QWidget> widget = loadForm(pluginWidget(name)->domXml(), &viewport);
+    QVERIFY(widget);
     QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), name);
     QVERIFY(widget->objectName().startsWith(QLatin1String("olv")));
     QVERIFY(widget->width() >= 24 && widget->width() <= 240);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // One form with every widget, loaded at run time and compiled by uic: both give the same widgets,
 // which look as they do when they are made in code.
+#include "forms.h"
 #include "ui_everywidget.h"
 
 #include <QFile>
 #include <QTest>
-#include <QUiLoader>
 
 #include <memory>
 
@@ -13,14 +13,9 @@ namespace {
 
 std::unique_ptr<QWidget> loadedForm()
 {
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(OLV_PLUGINS "/designer"));
     QFile file(QStringLiteral(OLV_FORMS "/everywidget.ui"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return nullptr;
-    }
-    return std::unique_ptr<QWidget>(loader.load(&file));
+    return file.open(QIODevice::ReadOnly) ? loadForm(QString::fromUtf8(file.readAll()), nullptr)
+                                          : nullptr;
 }
 
 std::unique_ptr<QWidget> compiledForm()
@@ -44,21 +39,16 @@ class TestForms : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
     void init();
     void cleanup();
-    void hasEveryWidget_data();
     void hasEveryWidget();
-    void setsTheDynamicProperties_data();
     void setsTheDynamicProperties();
-    void looksAsTheWidgetsMadeInCodeDo_data();
     void looksAsTheWidgetsMadeInCodeDo();
-    void givesTheBarItsGlyphs_data();
     void givesTheBarItsGlyphs();
-    void putsChildrenIntoThePanel_data();
     void putsChildrenIntoThePanel();
 
 private:
-    static void addWays();
     template <class Widget = QWidget> Widget *find(const char *name)
     {
         // a class of the library that has no Q_OBJECT cannot be asked for; none is in the form
@@ -68,7 +58,7 @@ private:
     std::unique_ptr<QWidget> m_form;
 };
 
-void TestForms::addWays()
+void TestForms::initTestCase_data()
 {
     QTest::addColumn<bool>("compiled");
     QTest::newRow("loaded by QUiLoader") << false;
@@ -77,7 +67,7 @@ void TestForms::addWays()
 
 void TestForms::init()
 {
-    QFETCH(bool, compiled);
+    QFETCH_GLOBAL(bool, compiled);
     m_form = compiled ? compiledForm() : loadedForm();
     QVERIFY(m_form);
     m_form->show();
@@ -87,11 +77,6 @@ void TestForms::init()
 void TestForms::cleanup()
 {
     m_form.reset();
-}
-
-void TestForms::hasEveryWidget_data()
-{
-    addWays();
 }
 
 void TestForms::hasEveryWidget()
@@ -116,11 +101,6 @@ void TestForms::hasEveryWidget()
     QCOMPARE(find("grid")->property("isSubWindow"), QVariant(false));
 }
 
-void TestForms::setsTheDynamicProperties_data()
-{
-    addWays();
-}
-
 void TestForms::setsTheDynamicProperties()
 {
     auto *save = find<OlvButton>("save");
@@ -136,11 +116,6 @@ void TestForms::setsTheDynamicProperties()
     QCOMPARE(find("wifi")->property("closeColor"), QVariant(QStringLiteral("64,158,255")));
     QCOMPARE(find<OlvSlider>("volume")->getValue(), QVariant(40));
     QCOMPARE(find("note")->property("headerWay"), QVariant(int(OlvFlexWidget::HeaderLeft)));
-}
-
-void TestForms::looksAsTheWidgetsMadeInCodeDo_data()
-{
-    addWays();
 }
 
 void TestForms::looksAsTheWidgetsMadeInCodeDo()
@@ -173,11 +148,6 @@ void TestForms::looksAsTheWidgetsMadeInCodeDo()
     QCOMPARE(pictureOf(find("wifi")), pictureOf(&wifi));
 }
 
-void TestForms::givesTheBarItsGlyphs_data()
-{
-    addWays();
-}
-
 void TestForms::givesTheBarItsGlyphs()
 {
     const QList<QPushButton *> buttons = find("bar")->findChildren<QPushButton *>();
@@ -185,11 +155,6 @@ void TestForms::givesTheBarItsGlyphs()
     for (const QPushButton *button : buttons) {
         QCOMPARE(button->text().size(), 1);
     }
-}
-
-void TestForms::putsChildrenIntoThePanel_data()
-{
-    addWays();
 }
 
 void TestForms::putsChildrenIntoThePanel()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What Designer is told about a new widget of a form, and which values it gives it.
+#include "deferred.h"
 #include "forms.h"
 #include "plugin.h"
 
@@ -116,7 +117,7 @@ private:
 
 void TestNewWidgets::cleanup()
 {
-    runPutOffWork();
+    runDeferred();
 }
 
 void TestNewWidgets::addClasses()

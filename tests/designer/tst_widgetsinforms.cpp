@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How new widgets behave in forms, and whether what Designer says about that is true.
+#include "deferred.h"
 #include "forms.h"
 #include "plugin.h"
 
@@ -41,7 +42,7 @@ private Q_SLOTS:
 
 void TestWidgetsInForms::cleanup()
 {
-    runPutOffWork();
+    runDeferred();
 }
 
 void TestWidgetsInForms::haveThePoliciesAndLeastSizesThatLayoutsNeed_data()

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "deferred.h"
 #include "pointer.h"
 #include "surroundings.h"
 
-#include <QEventLoop>
 #include <QTest>
-#include <QTimer>
 
 #include <memory>
 
@@ -16,10 +15,7 @@ class TestClassExamples : public QObject
 private Q_SLOTS:
     void cleanup()
     {
-        // what a widget has put off to the event loop is no leak once that has run
-        QEventLoop loop;
-        QTimer::singleShot(5, &loop, &QEventLoop::quit);
-        loop.exec();
+        runDeferred();
     }
     void intCounts()
     {

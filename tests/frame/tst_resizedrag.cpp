@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "deferred.h"
 #include "resizehandles.h"
 
 #include <OlvResizeWidget>

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -16,8 +17,6 @@ constexpr int watchedTime = 600; // milliseconds
 constexpr int deferredTime = 100;
 /** Longer than any widget takes to settle, the flex panel's two seconds included. */
 constexpr int settlingTime = 10000;
-
-using Make = std::function<QWidget *(QWidget *)>;
 
 /** Notes everything that @p root and what lies in it are woken for. */
 class Watcher : public QObject
@@ -81,114 +80,24 @@ void letTimePass(int time)
     loop.exec();
 }
 
-/** Shows @p window with a widget in it, which it returns; null when the window does not come. */
-QWidget *showWithin(QWidget &window, const Make &make)
+/** Waits until @p window settles, calls @p act, and tells what the window is woken for then. */
+QStringList unrestOf(
+    QWidget &window, const std::function<void()> &act = [] {})
 {
-    window.resize(300, 200);
-    QWidget *widget = make(&window);
-    widget->setGeometry(10, 10, 150, 120);
-    window.show();
-    widget->show();
-    return QTest::qWaitForWindowExposed(&window) ? widget : nullptr;
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(Make)
-
-class TestIdle : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void restsOnceItIsShown_data();
-    void restsOnceItIsShown();
-    void restsAgainAfterUse_data();
-    void restsAgainAfterUse();
-    void doesNothingWhileHidden_data();
-    void doesNothingWhileHidden();
-
-private:
-    void addWidgets();
-};
-
-void TestIdle::addWidgets()
-{
-    QTest::addColumn<Make>("make");
-    const auto add = [](const char *name, const Make &make) {
-        QTest::newRow(name) << make;
-    };
-    add("button", [](QWidget *parent) { return new OlvButton(QStringLiteral("Save"), parent); });
-    add("icon button", [](QWidget *parent) {
-        return new OlvIconButton(QLatin1Char('M'), QStringLiteral("Mail"), QStringLiteral("Sans"),
-                                 parent, 80, 80);
-    });
-    add("simple icon button", [](QWidget *parent) {
-        return new OlvSimpleIconButton(QStringLiteral("*"), QFont(), parent);
-    });
-    add("line edit", [](QWidget *parent) {
-        auto *edit = new OlvLineEdit(parent);
-        edit->setPassWord(true);
-        return edit;
-    });
-    add("shortcut editor", [](QWidget *parent) { return new OlvShortcutEdit(parent); });
-    add("switch", [](QWidget *parent) { return new OlvSwitch(parent); });
-    add("slider", [](QWidget *parent) { return new OlvSlider(parent); });
-    add("control bar", [](QWidget *parent) { return new OlvControlBar({}, parent); });
-    add("window that is moved and resized", [](QWidget *parent) {
-        auto *window = new QWidget(parent);
-        (new OlvMoveWidget(window))->setMoveArea(QRect());
-        new OlvResizeWidget(window, 5);
-        return window;
-    });
-    add("flow grid", [](QWidget *parent) {
-        auto *viewport = new QWidget(parent);
-        auto *grid = new OlvGridLayout(viewport);
-        for (int i = 0; i < 30; ++i) {
-            grid->addWidget(new OlvButton(QString::number(i), grid));
-        }
-        grid->resized();
-        return viewport;
-    });
-    add("flex panel", [](QWidget *parent) {
-        auto *panel = new OlvFlexWidget(150, 120, parent);
-        panel->setHeaderWay(OlvFlexWidget::HeaderTop, Qt::red);
-        return panel;
-    });
-}
-
-void TestIdle::restsOnceItIsShown_data()
-{
-    addWidgets();
-}
-
-void TestIdle::restsOnceItIsShown()
-{
-    QFETCH(Make, make);
-    QWidget window;
-    QVERIFY(showWithin(window, make));
     letTimePass(deferredTime);
-    QTRY_COMPARE_WITH_TIMEOUT(runningTimers(&window), QStringList(), settlingTime);
+    if (!QTest::qWaitFor([&] { return runningTimers(&window).isEmpty(); }, settlingTime)) {
+        return runningTimers(&window);
+    }
     QCoreApplication::processEvents();
-
     const Watcher watcher(&window);
+    act();
     letTimePass(watchedTime);
-    QCOMPARE(watcher.seen(), QStringList());
-    QCOMPARE(runningTimers(&window), QStringList());
+    return watcher.seen() + runningTimers(&window);
 }
 
-void TestIdle::restsAgainAfterUse_data()
+/** Has the pointer click in a widget, and types a letter. */
+void use(QWidget *widget)
 {
-    addWidgets();
-}
-
-void TestIdle::restsAgainAfterUse()
-{
-    QFETCH(Make, make);
-    QWidget window;
-    QWidget *widget = showWithin(window, make);
-    QVERIFY(widget);
-
     const QPoint centre = widget->rect().center();
     QWidget *hit = widget->childAt(centre) ? widget->childAt(centre) : widget;
     const QPoint place = hit->mapFrom(widget, centre);
@@ -196,37 +105,103 @@ void TestIdle::restsAgainAfterUse()
     QTest::mouseClick(hit, Qt::LeftButton, Qt::NoModifier, place);
     QTest::keyClick(widget, Qt::Key_A);
     widget->resize(140, 110);
-    QTest::mouseMove(&window, QPoint(290, 190));
-    window.setFocus();
-    letTimePass(deferredTime);
-    QTRY_COMPARE_WITH_TIMEOUT(runningTimers(&window), QStringList(), settlingTime);
-    QCoreApplication::processEvents();
-
-    const Watcher watcher(&window);
-    letTimePass(watchedTime);
-    QCOMPARE(watcher.seen(), QStringList());
 }
 
-void TestIdle::doesNothingWhileHidden_data()
+} // namespace
+
+/** A window with one of each widget, which wakes up for nothing. */
+class TestIdle : public QObject
 {
-    addWidgets();
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void restsOnceItIsShown();
+    void restsAgainAfterUse();
+    void doesNothingWhileHidden();
+
+private:
+    void add(QWidget *widget);
+
+    std::unique_ptr<QWidget> m_window;
+    QWidgetList m_widgets;
+};
+
+void TestIdle::add(QWidget *widget)
+{
+    widget->setGeometry(10 + 160 * m_widgets.size(), 10, 150, 120);
+    m_widgets << widget;
+}
+
+void TestIdle::init()
+{
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(1800, 200);
+    QWidget *window = m_window.get();
+    add(new OlvButton(QStringLiteral("Save"), window));
+    add(new OlvIconButton(QLatin1Char('M'), QStringLiteral("Mail"), QStringLiteral("Sans"), window,
+                          80, 80));
+    add(new OlvSimpleIconButton(QStringLiteral("*"), QFont(), window));
+    auto *edit = new OlvLineEdit(window);
+    edit->setPassWord(true);
+    add(edit);
+    add(new OlvShortcutEdit(window));
+    add(new OlvSwitch(window));
+    add(new OlvSlider(window));
+    add(new OlvControlBar({}, window));
+    auto *movable = new QWidget(window);
+    (new OlvMoveWidget(movable))->setMoveArea(QRect());
+    new OlvResizeWidget(movable, 5);
+    add(movable);
+    auto *viewport = new QWidget(window);
+    auto *grid = new OlvGridLayout(viewport);
+    for (int i = 0; i < 30; ++i) {
+        grid->addWidget(new OlvButton(QString::number(i), grid));
+    }
+    grid->resized();
+    add(viewport);
+    auto *panel = new OlvFlexWidget(150, 120, window);
+    panel->setHeaderWay(OlvFlexWidget::HeaderTop, Qt::red);
+    add(panel);
+}
+
+void TestIdle::cleanup()
+{
+    m_window.reset();
+    m_widgets.clear();
+}
+
+void TestIdle::restsOnceItIsShown()
+{
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    for (const QWidget *widget : qAsConst(m_widgets)) {
+        QVERIFY(widget->isVisible());
+    }
+    QCOMPARE(unrestOf(*m_window), QStringList());
+}
+
+void TestIdle::restsAgainAfterUse()
+{
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    for (QWidget *widget : qAsConst(m_widgets)) {
+        use(widget);
+    }
+    QTest::mouseMove(m_window.get(), m_window->rect().bottomRight());
+    m_window->setFocus();
+    QCOMPARE(unrestOf(*m_window), QStringList());
 }
 
 void TestIdle::doesNothingWhileHidden()
 {
-    QFETCH(Make, make);
-    QWidget window;
-    QWidget *widget = make(&window);
-    widget->resize(150, 120);
-    letTimePass(deferredTime);
-    QTRY_COMPARE_WITH_TIMEOUT(runningTimers(&window), QStringList(), settlingTime);
-    QCoreApplication::processEvents();
-
-    const Watcher watcher(&window);
-    widget->update();
-    letTimePass(watchedTime);
-    QCOMPARE(watcher.seen(), QStringList());
-    QCOMPARE(runningTimers(&window), QStringList());
+    const auto updateAll = [&] {
+        for (QWidget *widget : qAsConst(m_widgets)) {
+            widget->update();
+        }
+    };
+    QCOMPARE(unrestOf(*m_window, updateAll), QStringList());
 }
 
 QTEST_MAIN(TestIdle)

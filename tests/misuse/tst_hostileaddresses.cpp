@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "deferred.h"
 #include "gridscene.h"
 #include "pointer.h"
 #include "sizedswitch.h"
@@ -188,53 +189,39 @@ Holder cornerOfResizer()
              } };
 }
 
-const QVector<Holder> &holders()
-{
-    static const QVector<Holder> all{ knobOfSwitch(),   knobOfSlider(), barOfGrid(),
-                                      timerOfGrid(),    timerOfTile(),  timerOfPanel(),
-                                      cornerOfResizer() };
-    return all;
-}
-
-void addHolders()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < holders().size(); ++i) {
-        QTest::newRow(holders().at(i).property) << i;
-    }
-}
-
 } // namespace
+
+Q_DECLARE_METATYPE(Holder)
 
 class TestHostileAddresses : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
     void cleanup();
-    void propertyThatNamesNoHelperUsesNone_data();
     void propertyThatNamesNoHelperUsesNone();
-    void propertyThatNamesAnothersHelperUsesNone_data();
     void propertyThatNamesAnothersHelperUsesNone();
-    void propertyThatNamesADeadHelperUsesNone_data();
     void propertyThatNamesADeadHelperUsesNone();
 };
 
-void TestHostileAddresses::cleanup()
+void TestHostileAddresses::initTestCase_data()
 {
-    // has what the handles of panels defer to the event loop done, and freed with that
-    QTest::qWait(20);
+    QTest::addColumn<Holder>("holder");
+    for (const Holder &holder : { knobOfSwitch(), knobOfSlider(), barOfGrid(), timerOfGrid(),
+                                  timerOfTile(), timerOfPanel(), cornerOfResizer() }) {
+        QTest::newRow(holder.property) << holder;
+    }
 }
 
-void TestHostileAddresses::propertyThatNamesNoHelperUsesNone_data()
+void TestHostileAddresses::cleanup()
 {
-    addHolders();
+    runDeferred();
 }
 
 void TestHostileAddresses::propertyThatNamesNoHelperUsesNone()
 {
-    QFETCH(int, index);
-    const Holder &holder = holders().at(index);
+    QFETCH_GLOBAL(Holder, holder);
     QWidget parent;
     QWidget *widget = holder.make(&parent);
     QObject *owner = holder.owner(widget);
@@ -258,15 +245,9 @@ void TestHostileAddresses::propertyThatNamesNoHelperUsesNone()
     QVERIFY(holder.look(helper) != before);
 }
 
-void TestHostileAddresses::propertyThatNamesAnothersHelperUsesNone_data()
-{
-    addHolders();
-}
-
 void TestHostileAddresses::propertyThatNamesAnothersHelperUsesNone()
 {
-    QFETCH(int, index);
-    const Holder &holder = holders().at(index);
+    QFETCH_GLOBAL(Holder, holder);
     QWidget parent;
     QWidget *widget = holder.make(&parent);
     QWidget *other = holder.make(&parent);
@@ -279,15 +260,9 @@ void TestHostileAddresses::propertyThatNamesAnothersHelperUsesNone()
     QVERIFY(holder.look(helper) != before);
 }
 
-void TestHostileAddresses::propertyThatNamesADeadHelperUsesNone_data()
-{
-    addHolders();
-}
-
 void TestHostileAddresses::propertyThatNamesADeadHelperUsesNone()
 {
-    QFETCH(int, index);
-    const Holder &holder = holders().at(index);
+    QFETCH_GLOBAL(Holder, holder);
     QWidget parent;
     QWidget *widget = holder.make(&parent);
     const qulonglong dead = numberOf(holder.helper(widget));

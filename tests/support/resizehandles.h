@@ -5,9 +5,6 @@
 
 #include <OlvResizeItem>
 
-#include <QEventLoop>
-#include <QTimer>
-
 /** The handles of a widget that can be resized; null for those that it has not. */
 struct Handles
 {
@@ -43,12 +40,4 @@ inline void drag(OlvResizeItem *handle, QPointF from, QPointF to)
 {
     Mouse::press(handle, from);
     Mouse::move(handle, to);
-}
-
-/** What a handle has put off to the event loop is no leak once that has run. */
-inline void runDeferred()
-{
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
 }
