@@ -6,7 +6,8 @@ include(GenerateExportHeader)
 # Gives the library <target> its public headers, which lie in include/<target>/, and everything that
 # is made from them: the export header, one forwarding header per exported class (so that
 # "#include <OlvSlider>" works) and the umbrella header <<target>/<target>>. Nothing but what these
-# headers declare is exported.
+# headers declare is exported. The target's property OLV_PUBLIC_HEADERS lists what <target>/ may be
+# followed by in an #include, but the classes.
 function(olv_public_headers target)
     string(TOLOWER ${target} lower)
     string(TOUPPER ${target} upper)
@@ -40,6 +41,8 @@ function(olv_public_headers target)
     endforeach()
     olv_write_if_changed(${generated_dir}/${target}/${target} "${umbrella}")
     list(APPEND installed ${generated_dir}/${target}/${target})
+
+    set_property(TARGET ${target} PROPERTY OLV_PUBLIC_HEADERS ${ARGN} ${target})
 
     target_include_directories(${target} PUBLIC
         $<BUILD_INTERFACE:${source_dir}>

@@ -33,6 +33,12 @@ fail() {
     exit 1
 }
 
+# project_version: as CMakeLists.txt has it.
+project_version() {
+    sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' "$root/CMakeLists.txt" | grep . ||
+        fail "CMakeLists.txt names no version"
+}
+
 # install_packages PACKAGE...: installs those of the Debian packages that are missing.
 install_packages() {
     local package missing=()
