@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -24,7 +25,8 @@ constexpr int suffixLength = 4; // ".ttf"
 constexpr int firstFontId = 0;
 constexpr double referenceDotsPerInch = 96.0;
 
-bool bIsReady = false;
+// released by the job and acquired by readers, who then see the fonts and the screen's size as well
+std::atomic<bool> bIsReady{ false };
 
 QString fontKey(const QString &fileName)
 {
@@ -88,7 +90,7 @@ private:
 };
 
 // What the job leaves behind: plain stores that applications read without a lock. Each has a
-// function of its own, so that tests/support/threads.supp can name these four and no other.
+// function of its own, so that tests/support/threads.supp can name these three and no other.
 
 void storeFontId(const QString &fileName, int id)
 {
@@ -98,11 +100,6 @@ void storeFontId(const QString &fileName, int id)
 void storeDesktopSize(const QSize &size)
 {
     OlvGlobal::desktopSize = size;
-}
-
-void storeReadyFlag()
-{
-    bIsReady = true;
 }
 
 void storeScale(double scale)
@@ -131,7 +128,7 @@ void measureScreen()
     storeDesktopSize(screen->size());
     const double dotsPerInch = screen->logicalDotsPerInch();
     // the flag comes before the last measure: applications poll the flag for the fonts' sake
-    storeReadyFlag();
+    bIsReady.store(true, std::memory_order_release);
     storeScale(dotsPerInch / referenceDotsPerInch);
 }
 
@@ -163,7 +160,7 @@ void OlvGlobal::init()
 
 bool OlvGlobal::isReady()
 {
-    return bIsReady;
+    return bIsReady.load(std::memory_order_acquire);
 }
 
 QStringList OlvGlobal::getFiles(QString directory)
