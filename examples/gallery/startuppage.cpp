@@ -65,9 +65,14 @@ Page *createStartUpPage(QWidget *parent)
         screen->setText(QStringLiteral("%1 × %2 pixels")
                             .arg(OlvGlobal::desktopSize.width())
                             .arg(OlvGlobal::desktopSize.height()));
-        scale->setText(QString::number(OlvGlobal::DPI));
         icons->setFont(OlvGlobal::getFont(QStringLiteral("FontAwesome"), glyphSize));
         page->log(QStringLiteral("OlvGlobal::isReady() is true"));
+        // the scale is stored just after the flag, so it is read when the flag is seen again later
+        QTimer::singleShot(pollInterval, page, [=] {
+            if (OlvGlobal::isReady()) {
+                scale->setText(QString::number(OlvGlobal::DPI));
+            }
+        });
     });
     poll->start(pollInterval);
     return page;

@@ -230,8 +230,8 @@ private:
  * label.setFont(OlvGlobal::getFont(QStringLiteral("FontAwesome"), 12));
  * @endcode
  *
- * Nothing in the library waits for the fonts, and nothing is locked: before isReady() has returned
- * true, #OlvPluginFonts, #desktopSize, #DPI and getFont() race with the font job.
+ * Nothing in the library waits for the fonts, and readers lock nothing: before isReady() has
+ * returned true, #OlvPluginFonts, #desktopSize, #DPI and getFont() race with the font job.
  */
 class OLVWIDGETS_EXPORT OlvGlobal
 {
@@ -248,14 +248,21 @@ public:
      * gives the empty key); of two files with one key the later one in the listing wins. The job
      * then records the size of the primary screen and its dots per inch.
      *
-     * A missing directory registers nothing; a file that Qt cannot load is recorded with the id -1.
+     * A missing directory registers nothing. A file that Qt cannot load is recorded with the id -1.
      * Without a primary screen the measures are not recorded and isReady() stays false; without a
-     * QGuiApplication nothing is done at all. Call it once: a second call registers every file a
-     * second time. A program that ends while the job is running waits for the file in hand: the
-     * library for at most 5 seconds, Qt for as long as it reads it.
+     * QGuiApplication nothing is done at all. Where the system has no thread to give, a warning is
+     * printed, nothing is registered and isReady() stays as it is.
+     *
+     * Call it once: a second call registers every file a second time, after the job of the first
+     * call. A program that ends while a job is running waits for the file in hand: the library for
+     * at most 5 seconds, Qt for as long as it reads it. A child that was forked does not wait.
      */
     static void init();
-    /** Whether the font job has done its work; never goes back to false. Set just before #DPI. */
+    /**
+     * Whether the font job has done its work; never goes back to false. A thread that gets true
+     * from it may read #OlvPluginFonts and #desktopSize. It is set just before #DPI is: read that
+     * one after a later call has returned true again, for example from a timer.
+     */
     static bool isReady();
 
     /**

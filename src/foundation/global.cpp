@@ -6,10 +6,14 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <unistd.h>
+
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <memory>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 // Created first, so that it exists for whatever the library's other statics might do.
@@ -24,6 +28,8 @@ namespace {
 constexpr int suffixLength = 4; // ".ttf"
 constexpr int firstFontId = 0;
 constexpr double referenceDotsPerInch = 96.0;
+constexpr std::chrono::seconds longestWait(5);
+constexpr std::chrono::microseconds pauseBetweenFiles(100);
 
 // released by the job and acquired by readers, who then see the fonts and the screen's size as well
 std::atomic<bool> bIsReady{ false };
@@ -36,21 +42,27 @@ QString fontKey(const QString &fileName)
 }
 
 /**
- * The font jobs under way. A job uses what the application's end takes down, so that a program
- * which leaves while one is running has to wait for it; the results themselves are plain stores.
+ * The font jobs that one application has started. They use what the application's end takes down,
+ * so the end has to stop them and wait for them. The thread of each job owns a share of this
+ * object, because a job that cannot stop in time lasts longer than the application.
  */
 class FontJobs
 {
 public:
-    ~FontJobs()
+    bool isOfThisProcess() const
     {
-        endAll();
+        return m_process == getpid();
     }
 
-    static FontJobs &instance()
+    /** Held by the one job that runs, so that no two write the results at the same time. */
+    std::mutex &turn()
     {
-        static FontJobs jobs;
-        return jobs;
+        return m_turn;
+    }
+
+    bool mustStop() const
+    {
+        return m_isStopping;
     }
 
     void begin()
@@ -66,56 +78,81 @@ public:
         m_ended.notify_all();
     }
 
-    bool mustStop()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_stopping;
-    }
-
     /** Has every job stop at its next file, and waits for that. */
-    void endAll()
+    void stopAll()
     {
+        m_isStopping = true;
         std::unique_lock<std::mutex> lock(m_mutex);
-        m_stopping = true;
         // a file that cannot be read to its end must not keep the program from ending
-        m_ended.wait_for(lock, std::chrono::seconds(5), [this] { return m_running == 0; });
-        m_stopping = false;
+        m_ended.wait_for(lock, longestWait, [this] { return m_running == 0; });
     }
 
 private:
+    const pid_t m_process = getpid();
+    std::mutex m_turn;
+    std::atomic<bool> m_isStopping{ false };
     std::mutex m_mutex;
     std::condition_variable m_ended;
     int m_running = 0;
-    bool m_stopping = false;
 };
 
-// What the job leaves behind: plain stores that applications read without a lock. Each has a
-// function of its own, so that tests/support/threads.supp can name these three and no other.
+std::mutex currentJobsMutex;
+/** The jobs of the application that is alive; null before the first job and after its end. */
+std::shared_ptr<FontJobs> currentJobs;
 
-void storeFontId(const QString &fileName, int id)
+std::shared_ptr<FontJobs> jobsOfThisApplication()
 {
-    OlvGlobal::OlvPluginFonts.insert(fontKey(fileName), id);
+    const std::lock_guard<std::mutex> lock(currentJobsMutex);
+    // the jobs that a forked child finds here run in its parent
+    if (!currentJobs || !currentJobs->isOfThisProcess()) {
+        currentJobs = std::make_shared<FontJobs>();
+    }
+    return currentJobs;
 }
 
-void storeDesktopSize(const QSize &size)
+void endFontJobs()
 {
-    OlvGlobal::desktopSize = size;
+    std::shared_ptr<FontJobs> ending;
+    {
+        const std::lock_guard<std::mutex> lock(currentJobsMutex);
+        ending.swap(currentJobs);
+    }
+    // a forked child has no thread of the jobs that its parent runs: none of them would ever end
+    if (ending && ending->isOfThisProcess()) {
+        ending->stopAll();
+    }
 }
 
-void storeScale(double scale)
+/** Ends the jobs of a program that leaves by exit(), which does not destroy its application. */
+class EndOfProgram
 {
-    OlvGlobal::DPI = scale;
-}
+public:
+    EndOfProgram()
+    {
+        // Qt makes the statics of its font database here, so that they are destroyed after this
+        QFontDatabase::applicationFontFamilies(firstFontId);
+    }
+    ~EndOfProgram()
+    {
+        endFontJobs();
+    }
 
-void registerFonts()
+private:
+    Q_DISABLE_COPY(EndOfProgram)
+};
+
+void registerFonts(const FontJobs &jobs)
 {
     const QStringList names = OlvGlobal::getFiles(QStringLiteral("Font"));
     for (const QString &name : names) {
-        if (FontJobs::instance().mustStop()) {
+        if (jobs.mustStop()) {
             return;
         }
         const int id = QFontDatabase::addApplicationFont(QLatin1String("fonts/") + name);
-        storeFontId(name, id);
+        OlvGlobal::OlvPluginFonts.insert(fontKey(name), id);
+        // Qt's lock does not go to the thread that has waited longest: without a pause this thread
+        // would take it again at once, file after file, and the GUI thread would not get it.
+        std::this_thread::sleep_for(pauseBetweenFiles);
     }
 }
 
@@ -125,20 +162,25 @@ void measureScreen()
     if (!screen) {
         return;
     }
-    storeDesktopSize(screen->size());
+    OlvGlobal::desktopSize = screen->size();
     const double dotsPerInch = screen->logicalDotsPerInch();
     // the flag comes before the last measure: applications poll the flag for the fonts' sake
     bIsReady.store(true, std::memory_order_release);
-    storeScale(dotsPerInch / referenceDotsPerInch);
+    OlvGlobal::DPI = dotsPerInch / referenceDotsPerInch;
+    // released once more: a reader that asks again later is sure to see that measure too
+    bIsReady.store(true, std::memory_order_release);
 }
 
-void runFontJob()
+void runFontJob(const std::shared_ptr<FontJobs> &jobs)
 {
-    registerFonts();
-    if (!FontJobs::instance().mustStop()) {
-        measureScreen();
+    {
+        const std::lock_guard<std::mutex> turn(jobs->turn());
+        registerFonts(*jobs);
+        if (!jobs->mustStop()) {
+            measureScreen();
+        }
     }
-    FontJobs::instance().end();
+    jobs->end();
 }
 
 } // namespace
@@ -149,13 +191,17 @@ void OlvGlobal::init()
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         return;
     }
-    // has Qt make its font database's statics now: what is made before the jobs outlives them. Only
-    // once: a job that waits for a file holds the database.
-    static std::once_flag made;
-    std::call_once(made, [] { QFontDatabase::applicationFontFamilies(firstFontId); });
-    FontJobs::instance().begin();
-    qAddPostRoutine([] { FontJobs::instance().endAll(); });
-    std::thread(runFontJob).detach();
+    static const EndOfProgram endOfProgram;
+    const std::shared_ptr<FontJobs> jobs = jobsOfThisApplication();
+    qAddPostRoutine(endFontJobs);
+    jobs->begin();
+    try {
+        std::thread(runFontJob, jobs).detach();
+    } catch (const std::system_error &error) {
+        jobs->end();
+        qWarning("OlvGlobal::init: the fonts are not registered, no thread can be started: %s",
+                 error.what());
+    }
 }
 
 bool OlvGlobal::isReady()
