@@ -248,10 +248,11 @@ public:
      * gives the empty key); of two files with one key the later one in the listing wins. The job
      * then records the size of the primary screen and its dots per inch.
      *
-     * A missing directory registers nothing. A file that Qt cannot load is recorded with the id -1.
-     * Without a primary screen the measures are not recorded and isReady() stays false; without a
-     * QGuiApplication nothing is done at all. Where the system has no thread to give, a warning is
-     * printed, nothing is registered and isReady() stays as it is.
+     * A missing directory registers nothing. A file that Qt cannot load is recorded with the id -1,
+     * and so is what is no regular file, a pipe for example. Without a primary screen the measures
+     * are not recorded and isReady() stays false; without a QGuiApplication nothing is done at all.
+     * Where the system has no thread to give, a warning is printed, nothing is registered and
+     * isReady() stays as it is.
      *
      * Call it once: a second call registers every file a second time, after the job of the first
      * call. A program that ends while a job is running waits for the file in hand: the library for

@@ -2,6 +2,7 @@
 #include <OlvWidgets/foundation.h>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScreen>
@@ -27,6 +28,7 @@ namespace {
 
 constexpr int suffixLength = 4; // ".ttf"
 constexpr int firstFontId = 0;
+constexpr int badFontId = -1;
 constexpr double referenceDotsPerInch = 96.0;
 constexpr std::chrono::seconds longestWait(5);
 constexpr std::chrono::microseconds pauseBetweenFiles(100);
@@ -141,6 +143,13 @@ private:
     Q_DISABLE_COPY(EndOfProgram)
 };
 
+int registerFont(const QString &path)
+{
+    // Qt locks its font database while it opens the file. Opening a pipe waits until another
+    // program writes to it, and every widget that needs a font would wait as well.
+    return QFileInfo(path).isFile() ? QFontDatabase::addApplicationFont(path) : badFontId;
+}
+
 void registerFonts(const FontJobs &jobs)
 {
     const QStringList names = OlvGlobal::getFiles(QStringLiteral("Font"));
@@ -148,7 +157,7 @@ void registerFonts(const FontJobs &jobs)
         if (jobs.mustStop()) {
             return;
         }
-        const int id = QFontDatabase::addApplicationFont(QLatin1String("fonts/") + name);
+        const int id = registerFont(QLatin1String("fonts/") + name);
         OlvGlobal::OlvPluginFonts.insert(fontKey(name), id);
         // Qt's lock does not go to the thread that has waited longest: without a pause this thread
         // would take it again at once, file after file, and the GUI thread would not get it.
