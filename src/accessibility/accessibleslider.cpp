@@ -4,6 +4,7 @@
 #include <OlvWidgets/value.h>
 
 #include "support/childaddress_p.h"
+#include "value/valueproperties_p.h"
 
 #include <QtMath>
 
@@ -42,7 +43,7 @@ void AccessibleSlider::setCurrentValue(const QVariant &value)
         return;
     }
     const int progress = qRound(qBound<double>(lowest, wanted, highest));
-    if (auto *knob = childAtAddress<SliderRound>(slider, property("SliderRound"))) {
+    if (auto *knob = childAtAddress<SliderRound>(slider, property(ValueProperties::sliderKnob))) {
         knob->dragTo(progress);
     } else {
         slider->setValue(progress);

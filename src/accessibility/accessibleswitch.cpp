@@ -3,6 +3,8 @@
 
 #include <OlvWidgets/value.h>
 
+#include "value/valueproperties_p.h"
+
 AccessibleSwitch::AccessibleSwitch(QWidget *widget)
     : AccessibleClickable(widget)
 { }
@@ -11,7 +13,7 @@ QAccessible::State AccessibleSwitch::ownState() const
 {
     QAccessible::State state;
     state.checkable = true;
-    state.checked = property("switch").toBool();
+    state.checked = property(ValueProperties::switchIsOn).toBool();
     return state;
 }
 
@@ -20,7 +22,7 @@ void AccessibleSwitch::click()
     auto *widget = qobject_cast<OlvSwitch *>(object());
     // A click within the animation, before its first step too, would start a second timer, which
     // has the switch flip back and forth.
-    const bool on = property("switch").toBool();
+    const bool on = property(ValueProperties::switchIsOn).toBool();
     if (widget && widget->isChecked() == on) {
         widget->setValue(!on);
     }

@@ -3,6 +3,8 @@
 #include <OlvWidgets/input.h>
 #include <OlvWidgets/value.h>
 
+#include "value/valueproperties_p.h"
+
 #include <QDynamicPropertyChangeEvent>
 #include <QHash>
 #include <QKeySequence>
@@ -128,8 +130,8 @@ QVariant converted(const QVariant &value, const QVariant &replaced)
 /** The properties that change with the value, or with the start of a slide towards it. */
 bool isOfValue(const QByteArray &property)
 {
-    return property == "value" || property == "progress" || property == "switch"
-        || property == "timerId";
+    return property == "value" || property == ValueProperties::sliderProgress
+        || property == ValueProperties::switchIsOn || property == ValueProperties::switchTimerId;
 }
 
 } // namespace

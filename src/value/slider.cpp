@@ -5,6 +5,7 @@
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 #include "value/slidermetrics_p.h"
+#include "value/valueproperties_p.h"
 
 #include <QPainter>
 
@@ -16,9 +17,6 @@ constexpr int trackTop = 10;
 constexpr int trackHeight = 10;
 constexpr int trackRadius = 5;
 constexpr int fullProgress = 100;
-
-constexpr char progressProperty[] = "progress";
-constexpr char knobProperty[] = "SliderRound";
 
 } // namespace
 
@@ -32,23 +30,23 @@ OlvSlider::OlvSlider(QWidget *parent)
     auto *knob = new SliderRound(this);
     knob->setGeometry(SliderMetrics::knobInset, SliderMetrics::knobInset,
                       SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
-    setProperty(knobProperty, reinterpret_cast<qulonglong>(knob));
+    setProperty(ValueProperties::sliderKnob, reinterpret_cast<qulonglong>(knob));
 }
 
 QVariant OlvSlider::getValue()
 {
-    return property(progressProperty).toInt();
+    return property(ValueProperties::sliderProgress).toInt();
 }
 
 void OlvSlider::setValue(const QVariant &value)
 {
-    setProperty(progressProperty, value);
+    setProperty(ValueProperties::sliderProgress, value);
 }
 
 void OlvSlider::setSliderPosition(int percent)
 {
     percent = qBound(0, percent, fullProgress);
-    if (auto *knob = childAtAddress<SliderRound>(this, property(knobProperty))) {
+    if (auto *knob = childAtAddress<SliderRound>(this, property(ValueProperties::sliderKnob))) {
         knob->follow(percent);
     } else {
         setValue(percent);
@@ -65,7 +63,7 @@ void OlvSlider::paintEvent(QPaintEvent * /*event*/)
 
 void OlvSlider::resizeEvent(QResizeEvent * /*event*/)
 {
-    if (auto *knob = childAtAddress<SliderRound>(this, property(knobProperty))) {
+    if (auto *knob = childAtAddress<SliderRound>(this, property(ValueProperties::sliderKnob))) {
         knob->setMaxX(width() - SliderMetrics::pressedKnobSize);
     }
 }

@@ -5,6 +5,7 @@
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
+#include "value/valueproperties_p.h"
 
 #include <QAbstractEventDispatcher>
 #include <QPainter>
@@ -15,10 +16,8 @@
 
 namespace {
 
-constexpr char switchProperty[] = "switch";
 constexpr char moveCountProperty[] = "moveCount";
 constexpr char moveWidthProperty[] = "moveWidth";
-constexpr char timerIdProperty[] = "timerId";
 constexpr char intervalProperty[] = "interval";
 constexpr char openColorProperty[] = "openColor";
 constexpr char closeColorProperty[] = "closeColor";
@@ -50,7 +49,7 @@ bool isSliding(const OlvSwitch *widget)
     if (widget->property(moveCountProperty).toInt() != 0) {
         return true;
     }
-    const int animation = widget->property(timerIdProperty).toInt();
+    const int animation = widget->property(ValueProperties::switchTimerId).toInt();
     const auto timers = timersOf(widget);
     return std::any_of(timers.cbegin(), timers.cend(),
                        [=](const auto &timer) { return timer.timerId == animation; });
@@ -63,7 +62,7 @@ OlvSwitch::OlvSwitch(QWidget *parent)
 {
     setColorOpen(QColor(220, 223, 230));
     setColorClose(QColor(19, 206, 102));
-    setProperty(switchProperty, false);
+    setProperty(ValueProperties::switchIsOn, false);
     setProperty(moveCountProperty, 0);
     setProperty(moveWidthProperty, (width() - height()) / stepCount);
     setProperty(intervalProperty, unusedInterval);
@@ -89,20 +88,20 @@ OlvSwitch::OlvSwitch(QWidget *parent)
 
 QVariant OlvSwitch::getValue()
 {
-    return property(switchProperty);
+    return property(ValueProperties::switchIsOn);
 }
 
 void OlvSwitch::setValue(const QVariant &value)
 {
-    if (property(switchProperty).toBool() == value.toBool()) {
+    if (property(ValueProperties::switchIsOn).toBool() == value.toBool()) {
         return;
     }
-    setProperty(timerIdProperty, startTimer(stepInterval));
+    setProperty(ValueProperties::switchTimerId, startTimer(stepInterval));
 }
 
 bool OlvSwitch::isChecked() const
 {
-    const bool on = property(switchProperty).toBool();
+    const bool on = property(ValueProperties::switchIsOn).toBool();
     return isSliding(this) ? !on : on;
 }
 
@@ -116,7 +115,7 @@ void OlvSwitch::setChecked(bool checked)
     if (SwitchRound *round = knob()) {
         round->m_staysAtEnd = true;
     }
-    if (property(switchProperty).toBool() != checked) {
+    if (property(ValueProperties::switchIsOn).toBool() != checked) {
         settle(checked);
         return;
     }
@@ -149,7 +148,7 @@ void OlvSwitch::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool on = property(switchProperty).toBool();
+    const bool on = property(ValueProperties::switchIsOn).toBool();
     const QColor color =
         OlvColorFromString(property(on ? closeColorProperty : openColorProperty).toString());
     Shape::roundedRect(rect(), height() / 2).fill(Canvas(painter), color);
@@ -166,7 +165,7 @@ void OlvSwitch::fitKnob()
         round->resize(height(), height());
         round->setInset(height() / insetDivisor);
         if (round->m_staysAtEnd && !isSliding(this)) {
-            moveKnobToEnd(property(switchProperty).toBool());
+            moveKnobToEnd(property(ValueProperties::switchIsOn).toBool());
         }
     }
     setProperty(moveWidthProperty, (width() - height()) / stepCount);
@@ -177,13 +176,13 @@ void OlvSwitch::toggle()
     if (property(moveCountProperty).toInt() != 0) {
         return;
     }
-    setValue(!property(switchProperty).toBool());
+    setValue(!property(ValueProperties::switchIsOn).toBool());
 }
 
 void OlvSwitch::step()
 {
     const int count = property(moveCountProperty).toInt();
-    const bool on = property(switchProperty).toBool();
+    const bool on = property(ValueProperties::switchIsOn).toBool();
     if (count > lastMovingStep) {
         finish(!on);
         return;
@@ -201,7 +200,7 @@ void OlvSwitch::step()
 
 void OlvSwitch::finish(bool on)
 {
-    killTimer(property(timerIdProperty).toInt());
+    killTimer(property(ValueProperties::switchTimerId).toInt());
     settle(on);
 }
 
@@ -221,7 +220,7 @@ void OlvSwitch::settle(bool on)
         setProperty(moveCountProperty, 0);
     }
     if (self) {
-        setProperty(switchProperty, on);
+        setProperty(ValueProperties::switchIsOn, on);
     }
     if (!self) {
         return;
