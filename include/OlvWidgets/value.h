@@ -5,7 +5,8 @@
 #include <OlvWidgets/widget.h>
 
 #include <QColor>
-#include <QPointer>
+
+#include <memory>
 
 /**
  * @file value.h
@@ -39,6 +40,8 @@ public:
      * the same, and tells nobody.
      */
     explicit SliderRound(QWidget *slider);
+    /** Leaves the slider without a knob, at the value that it has. */
+    ~SliderRound() override;
 
     /** The largest logical x of a drag, in the slider's coordinates: its width less 30 pixels. */
     int maxX() const;
@@ -69,13 +72,8 @@ private:
     void follow(int progress);
     void placeAt(int progress);
 
-    bool m_pressed = false;
-    bool m_follows = false;
-    int m_maxX = 0;
-    int m_progress = -1;
-    int m_pressX = 0;
-    int m_pressY = 0;
-    QPointer<QWidget> m_slider;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**
@@ -161,6 +159,8 @@ class OLVWIDGETS_EXPORT SwitchRound : public QWidget
 public:
     /** A white knob in @p parent, which owns it, with an inset of a tenth of its own height. */
     explicit SwitchRound(QWidget *parent = nullptr);
+    /** Leaves the switch without a knob. */
+    ~SwitchRound() override;
 
     /** The colour of the disc. */
     QColor color() const;
@@ -178,9 +178,8 @@ protected:
 private:
     friend class OlvSwitch;
 
-    QColor m_color;
-    int m_inset;
-    bool m_staysAtEnd = false;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**

@@ -7,12 +7,14 @@
 #include "value/slidermetrics_p.h"
 
 #include <QPainter>
+#include <QPointer>
 
 namespace {
 
 constexpr int discInset = 2;
 constexpr int ringWidth = 2;
 constexpr int fullProgress = 100;
+constexpr int noProgress = -1;
 
 void tell(QWidget *parent, int progress)
 {
@@ -24,40 +26,54 @@ void tell(QWidget *parent, int progress)
 
 } // namespace
 
+class SliderRound::Private
+{
+public:
+    explicit Private(QWidget *parent)
+        : slider(parent)
+        , maxX(parent ? parent->width() - SliderMetrics::pressedKnobSize : 0)
+    { }
+
+    const QPointer<QWidget> slider;
+    bool pressed = false;
+    bool follows = false; // keeps to its percentage when the slider is resized
+    int pressX = 0;       // in the knob as it was before the press
+    int maxX;
+    int progress = noProgress; // handed over last
+};
+
 SliderRound::SliderRound(QWidget *slider)
     : QWidget(slider)
-    , m_slider(slider)
-{
-    if (slider) {
-        m_maxX = slider->width() - SliderMetrics::pressedKnobSize;
-    }
-}
+    , d(std::make_unique<Private>(slider))
+{ }
+
+SliderRound::~SliderRound() = default;
 
 int SliderRound::maxX() const
 {
-    return m_maxX;
+    return d->maxX;
 }
 
 void SliderRound::setMaxX(int maxX)
 {
-    m_maxX = maxX;
-    if (m_follows && !m_pressed) {
-        placeAt(m_progress);
+    d->maxX = maxX;
+    if (d->follows && !d->pressed) {
+        placeAt(d->progress);
     }
 }
 
 void SliderRound::dragTo(int progress)
 {
     progress = qBound(0, progress, fullProgress);
-    const QPointer<QWidget> slider(m_slider);
-    m_progress = progress;
+    const QPointer<QWidget> slider(d->slider);
+    d->progress = progress;
     placeAt(progress); // after which the knob may be gone
     tell(slider, progress);
 }
 
 void SliderRound::follow(int progress)
 {
-    m_follows = true;
+    d->follows = true;
     dragTo(progress);
 }
 
@@ -66,8 +82,8 @@ void SliderRound::placeAt(int progress)
     // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
     // track has a pixel for it.
     const qint64 x =
-        (qBound<qint64>(0, m_maxX, QWIDGETSIZE_MAX) * progress + fullProgress - 1) / fullProgress;
-    move(int(x) + (m_pressed ? 0 : SliderMetrics::knobInset), y());
+        (qBound<qint64>(0, d->maxX, QWIDGETSIZE_MAX) * progress + fullProgress - 1) / fullProgress;
+    move(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), y());
 }
 
 void SliderRound::paintEvent(QPaintEvent * /*event*/)
@@ -85,20 +101,18 @@ void SliderRound::mousePressEvent(QMouseEvent *event)
 {
     setGeometry(x() - SliderMetrics::knobInset, 0, SliderMetrics::pressedKnobSize,
                 SliderMetrics::pressedKnobSize);
-    m_pressed = true;
-    const QPoint position = mousePosition(event);
-    m_pressY = position.y();
-    m_pressX = position.x();
+    d->pressed = true;
+    d->pressX = mousePosition(event).x();
 }
 
 void SliderRound::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_pressed) {
+    if (!d->pressed) {
         return;
     }
-    const qint64 newX = qint64(mousePosition(event).x()) - m_pressX + x();
+    const qint64 newX = qint64(mousePosition(event).x()) - d->pressX + x();
     // setMaxX() takes any number
-    const int maxX = qBound(-QWIDGETSIZE_MAX, m_maxX, QWIDGETSIZE_MAX);
+    const int maxX = qBound(-QWIDGETSIZE_MAX, d->maxX, QWIDGETSIZE_MAX);
     int progress = 0;
     if (newX > maxX) {
         // a slider narrower than the knob ends left of its start: every drag ends here then
@@ -111,16 +125,16 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
         // a slider as wide as the knob has room for 0 alone
         progress = maxX > 0 ? int(newX * fullProgress / maxX) : 0;
     }
-    if (progress == m_progress) {
+    if (progress == d->progress) {
         return;
     }
-    m_progress = progress;
-    tell(m_slider, progress);
+    d->progress = progress;
+    tell(d->slider, progress);
 }
 
 void SliderRound::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
     setGeometry(x() + SliderMetrics::knobInset, SliderMetrics::knobInset,
                 SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
-    m_pressed = false;
+    d->pressed = false;
 }

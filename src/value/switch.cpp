@@ -5,6 +5,7 @@
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
+#include "value/switchround_p.h"
 #include "value/valueproperties_p.h"
 
 #include <QAbstractEventDispatcher>
@@ -27,7 +28,6 @@ constexpr int unusedInterval = 2;
 constexpr int stepInterval = 50; // milliseconds
 constexpr double stepCount = 5.0;
 constexpr int lastMovingStep = 3; // counted from 0; the step after it is the end
-constexpr int insetDivisor = 10;
 
 /** Towards zero, as a cast does it; what lies beyond every widget ends at the largest widget's
  * edge. */
@@ -113,7 +113,7 @@ void OlvSwitch::setChecked(bool checked)
         killTimer(timer.timerId);
     }
     if (SwitchRound *round = knob()) {
-        round->m_staysAtEnd = true;
+        round->d->staysAtEnd = true;
     }
     if (property(ValueProperties::switchIsOn).toBool() != checked) {
         settle(checked);
@@ -163,8 +163,8 @@ void OlvSwitch::fitKnob()
 {
     if (SwitchRound *round = knob()) {
         round->resize(height(), height());
-        round->setInset(height() / insetDivisor);
-        if (round->m_staysAtEnd && !isSliding(this)) {
+        round->setInset(SwitchRound::Private::insetAt(height()));
+        if (round->d->staysAtEnd && !isSliding(this)) {
             moveKnobToEnd(property(ValueProperties::switchIsOn).toBool());
         }
     }
