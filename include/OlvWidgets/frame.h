@@ -7,11 +7,11 @@
 #include <QList>
 #include <QObject>
 #include <QPoint>
-#include <QPointer>
 #include <QRect>
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
 #include <type_traits>
 
 class QPushButton;
@@ -85,6 +85,8 @@ public:
      */
     OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, int width,
                   OlvResizeItem *first, OlvResizeItem *second);
+    /** Leaves its partners to the target. */
+    ~OlvResizeItem() override;
 
     /** Where the handle lies. */
     ResizeType type() const;
@@ -106,12 +108,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
-    ResizeType m_type;
-    QPoint m_pressPosition;
-    int m_width;
-    QPointer<QWidget> m_target;
-    QPointer<QWidget> m_first;
-    QPointer<QWidget> m_second;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**
@@ -228,6 +226,8 @@ public:
     explicit OlvControlBar(Parent *parent)
         : OlvControlBar(formIcons(), parent)
     { }
+    /** The buttons go with the bar. */
+    ~OlvControlBar() override;
 
 Q_SIGNALS:
     /** A window button was clicked; @p checked is its new state, true for those without one. */
@@ -244,7 +244,8 @@ private:
     void tellToggled(QPushButton *button);
     void tellMaximised(QPushButton *button);
 
-    QList<QPushButton *> m_buttons;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**

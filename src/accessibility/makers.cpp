@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <OlvWidgets/frame.h>
-
 #include "accessibility/accessiblebutton_p.h"
 #include "accessibility/accessibleflexwidget_p.h"
 #include "accessibility/accessibleglyphbutton_p.h"
@@ -9,6 +7,7 @@
 #include "accessibility/accessibleshortcutedit_p.h"
 #include "accessibility/accessibleslider_p.h"
 #include "accessibility/accessibleswitch_p.h"
+#include "frame/controlbarbutton_p.h"
 #include "support/accessibility_p.h"
 
 #include <QApplication>
@@ -69,15 +68,11 @@ QAccessibleInterface *makeForClass(const QString &className, QObject *object)
     return nullptr;
 }
 
-/** The factory for the buttons that a control bar made: those have an index. */
-QAccessibleInterface *makeForButtonOfBar(const QString &className, QObject *object)
+/** The factory for the buttons of a control bar, which have the class name of any push button. */
+QAccessibleInterface *makeForButtonOfBar(const QString & /*className*/, QObject *object)
 {
-    auto *button =
-        className == QLatin1String("QPushButton") ? qobject_cast<QWidget *>(object) : nullptr;
-    return button && qobject_cast<OlvControlBar *>(button->parentWidget())
-            && button->property("index").isValid()
-        ? watched(new AccessibleGlyphButton(button))
-        : nullptr;
+    auto *button = dynamic_cast<ControlBarButton *>(object);
+    return button ? watched(new AccessibleGlyphButton(button)) : nullptr;
 }
 
 /** Qt asks the factory that came last first: one of the application's comes after this one. */

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/frame.h>
 
+#include "frame/controlbarbutton_p.h"
 #include "support/accessibility_p.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
+#include <QPointer>
 #include <QSpacerItem>
 #include <QVariant>
 
@@ -51,7 +52,7 @@ QString toggleStyleSheet()
                           "QPushButton:checked{color:rgb(32,32,32)}");
 }
 
-/** The state that a button stands for; null when its property has been overwritten with none. */
+/** The state that a button stands for; null when an application wrote an index of no state. */
 const OlvControlBar::WindowState *stateOf(const QPushButton *button)
 {
     const uint index = button->property(indexProperty).toUInt();
@@ -60,8 +61,15 @@ const OlvControlBar::WindowState *stateOf(const QPushButton *button)
 
 } // namespace
 
+class OlvControlBar::Private
+{
+public:
+    QList<QPushButton *> buttons; // from the left to the right
+};
+
 OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const QStringList &tips)
     : QWidget(parent)
+    , d(std::make_unique<Private>())
 {
     Accessibility::prepare(this);
     setFixedHeight(barHeight);
@@ -76,12 +84,11 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
         addWindowButton(icons, i);
     }
 
-    // Connected after the signal of each button, which tells the click before the other one
-    // changes; that change is silent.
-    QPushButton *bottom = m_buttons.at(tips.size() + Bottom);
-    QPushButton *top = m_buttons.at(tips.size() + Top);
+    // connected last, so that changed() tells of the click before the other button is unchecked
+    QPushButton *bottom = d->buttons.at(tips.size() + Bottom);
+    QPushButton *top = d->buttons.at(tips.size() + Top);
     const auto exclude = [](QPushButton *clicked, QPushButton *excluded) {
-        // a slot may have deleted either; and one that is being deleted is a button no more
+        // a slot may have deleted either, or may run while the destructor of one is at work
         return [one = QPointer<QObject>(clicked), two = QPointer<QObject>(excluded)] {
             const auto *button = qobject_cast<QPushButton *>(one.data());
             auto *other = qobject_cast<QPushButton *>(two.data());
@@ -94,6 +101,8 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
     connect(top, &QPushButton::clicked, this, exclude(top, bottom));
 }
 
+OlvControlBar::~OlvControlBar() = default;
+
 QList<QChar> OlvControlBar::formIcons()
 {
     return { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2 };
@@ -102,14 +111,14 @@ QList<QChar> OlvControlBar::formIcons()
 QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,
                                       const QString &tip)
 {
-    auto *button = new QPushButton(icon < icons.size() ? QString(icons.at(icon)) : QString(), this);
+    auto *button = new ControlBarButton(this);
+    button->setText(icon < icons.size() ? QString(icons.at(icon)) : QString());
     button->setFixedSize(buttonSize, buttonSize);
     button->setProperty(indexProperty, index);
-    Accessibility::renew(button); // its text was told before it had the index
     button->setToolTip(tip);
     layout()->addWidget(button);
     button->setFont(QFont(QStringLiteral("FontAwesome"), glyphSize));
-    m_buttons.append(button);
+    d->buttons.append(button);
     return button;
 }
 
@@ -168,7 +177,7 @@ void OlvControlBar::tellMaximised(QPushButton *button)
     }
     const bool checked = button->isChecked();
     button->setText(button->property(checked ? restoreProperty : maximiseProperty).toString());
-    if (!guarded) { // by whoever heard of the text
+    if (!guarded) { // the new text was told, and a listener may have deleted the button
         return;
     }
     button->setToolTip(checked ? QStringLiteral("还原") : QStringLiteral("最大化"));

@@ -4,6 +4,7 @@
 
 #include "support/mouseposition_p.h"
 
+#include <QPointer>
 #include <QVariant>
 
 namespace {

@@ -4,6 +4,8 @@
 
 #include "support/mouseposition_p.h"
 
+#include <QPointer>
+
 namespace {
 
 /** The side of the corner's square, and what the strips leave free for it, in strip widths. */
@@ -24,21 +26,33 @@ Qt::CursorShape cursorOf(OlvResizeItem::ResizeType type)
 
 } // namespace
 
+class OlvResizeItem::Private
+{
+public:
+    ResizeType type = Corner;
+    int width = 0;
+    QPointer<QWidget> target;
+    // plain widgets, since the destructor of a handle may have run when the other ones look at it
+    QPointer<QWidget> first;
+    QPointer<QWidget> second;
+    QPoint pressPosition;
+};
+
 OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, int width,
                              OlvResizeItem *first, OlvResizeItem *second)
     : QWidget(target)
-    , m_type(type)
-    , m_width(qBound(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX))
-    , m_target(target)
-    , m_first(first)
-    , m_second(second)
+    , d(std::make_unique<Private>())
 {
+    d->type = type;
+    d->width = qBound(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX);
+    d->target = target;
+    setPartners(first, second);
     if (filter) {
         installEventFilter(filter); // clazy:exclude=install-event-filter
     }
     setCursor(cursorOf(type));
     if (type == Corner) {
-        resize(cornerThickness * m_width, cornerThickness * m_width);
+        resize(cornerThickness * d->width, cornerThickness * d->width);
     }
     place();
     OlvLastOnceFunction([handle = QPointer<OlvResizeItem>(this)] {
@@ -48,47 +62,48 @@ OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, 
     });
 }
 
+OlvResizeItem::~OlvResizeItem() = default;
+
 OlvResizeItem::ResizeType OlvResizeItem::type() const
 {
-    return m_type;
+    return d->type;
 }
 
 QPoint OlvResizeItem::pressPosition() const
 {
-    return m_pressPosition;
+    return d->pressPosition;
 }
 
 OlvResizeItem *OlvResizeItem::firstPartner() const
 {
-    // what is left of a handle that is being destroyed is no handle any more
-    return dynamic_cast<OlvResizeItem *>(m_first.data());
+    return dynamic_cast<OlvResizeItem *>(d->first.data());
 }
 
 OlvResizeItem *OlvResizeItem::secondPartner() const
 {
-    return dynamic_cast<OlvResizeItem *>(m_second.data());
+    return dynamic_cast<OlvResizeItem *>(d->second.data());
 }
 
 void OlvResizeItem::setPartners(OlvResizeItem *first, OlvResizeItem *second)
 {
-    m_first = first;
-    m_second = second;
+    d->first = first;
+    d->second = second;
 }
 
 void OlvResizeItem::place()
 {
-    if (!m_target) {
+    if (!d->target) {
         return;
     }
-    const int right = m_target->width();
-    const int bottom = m_target->height();
-    const int corner = cornerThickness * m_width;
-    switch (m_type) {
+    const int right = d->target->width();
+    const int bottom = d->target->height();
+    const int corner = cornerThickness * d->width;
+    switch (d->type) {
     case RightEdge:
-        setGeometry(right - m_width, 0, m_width, bottom - corner);
+        setGeometry(right - d->width, 0, d->width, bottom - corner);
         break;
     case BottomEdge:
-        setGeometry(0, bottom - m_width, right - corner, m_width);
+        setGeometry(0, bottom - d->width, right - corner, d->width);
         break;
     case Corner:
         move(right - corner, bottom - corner);
@@ -109,5 +124,5 @@ void OlvResizeItem::placeAll()
 
 void OlvResizeItem::mousePressEvent(QMouseEvent *event)
 {
-    m_pressPosition = mousePosition(event);
+    d->pressPosition = mousePosition(event);
 }

@@ -4,6 +4,8 @@
 #include "support/childaddress_p.h"
 #include "support/mouseposition_p.h"
 
+#include <QPointer>
+
 namespace {
 /** The handle is at the bottom right: the name is the one that the property has always had. */
 constexpr char cornerProperty[] = "LeftBottom";

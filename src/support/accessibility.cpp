@@ -7,6 +7,14 @@
 namespace {
 // initialised before any code runs, for the installer comes while the library is being loaded
 void (*installer)() = nullptr;
+
+/** Has Qt ask again for the interface of a widget, which may have made another one already. */
+void renew(QWidget *widget)
+{
+    QAccessible::deleteAccessibleInterface(
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
+}
+
 } // namespace
 
 void Accessibility::prepare(QWidget *widget)
@@ -19,12 +27,6 @@ void Accessibility::prepare(QWidget *widget)
     if (!widget->isEnabled() || QAccessible::isActive()) {
         renew(widget);
     }
-}
-
-void Accessibility::renew(QWidget *widget)
-{
-    QAccessible::deleteAccessibleInterface(
-        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(widget)));
 }
 
 void Accessibility::setInstaller(void (*install)())

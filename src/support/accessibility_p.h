@@ -16,9 +16,6 @@ namespace Accessibility {
  */
 void prepare(QWidget *widget);
 
-/** Has Qt ask again for the interface of @p widget, which may have made another one already. */
-void renew(QWidget *widget);
-
 /**
  * Has prepare() call @p install before all else: at each call, since Qt forgets what is installed
  * with each application object. Called once, when the library is loaded.

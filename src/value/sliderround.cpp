@@ -29,23 +29,23 @@ void tell(QWidget *parent, int progress)
 class SliderRound::Private
 {
 public:
-    explicit Private(QWidget *parent)
-        : slider(parent)
-        , maxX(parent ? parent->width() - SliderMetrics::pressedKnobSize : 0)
-    { }
-
-    const QPointer<QWidget> slider;
+    QPointer<QWidget> slider;
+    int maxX = 0;
     bool pressed = false;
-    bool follows = false; // keeps to its percentage when the slider is resized
-    int pressX = 0;       // in the knob as it was before the press
-    int maxX;
+    bool follows = false;      // keeps to its percentage when the slider is resized
+    int pressX = 0;            // in the knob as it was before the press
     int progress = noProgress; // handed over last
 };
 
 SliderRound::SliderRound(QWidget *slider)
     : QWidget(slider)
-    , d(std::make_unique<Private>(slider))
-{ }
+    , d(std::make_unique<Private>())
+{
+    d->slider = slider;
+    if (slider) {
+        d->maxX = slider->width() - SliderMetrics::pressedKnobSize;
+    }
+}
 
 SliderRound::~SliderRound() = default;
 
