@@ -51,6 +51,8 @@ private Q_SLOTS:
     void initTestCase();
     void buttonsOfABarAreCalledByTheirToolTips();
     void buttonsOfABarAreCalledAsTheApplicationSays();
+    void buttonsOfABarAreKnownWithoutTheirIndex();
+    void buttonsOfABarAreKnownInADisabledWindow();
     void buttonsOfABarArePressed();
     void buttonsOfABarAreToggled();
     void maximiseTellsItsNewName();
@@ -101,6 +103,24 @@ void TestAccessibleGlyphButton::buttonsOfABarAreCalledAsTheApplicationSays()
     QCOMPARE(accessible(button)->text(QAccessible::Description), QStringLiteral("还原"));
     button->setAccessibleName(QString());
     QCOMPARE(nameOf(button), QStringLiteral("还原"));
+}
+
+void TestAccessibleGlyphButton::buttonsOfABarAreKnownWithoutTheirIndex()
+{
+    const Bar bar;
+    QPushButton *button = bar.windowButton(OlvControlBar::Close);
+    button->setProperty("index", QVariant());
+    QCOMPARE(nameOf(button), QStringLiteral("关闭"));
+}
+
+void TestAccessibleGlyphButton::buttonsOfABarAreKnownInADisabledWindow()
+{
+    // there Qt's constructors already tell of a change, of a widget that is no button yet
+    const Assistant assistant;
+    QWidget window;
+    window.setEnabled(false);
+    const Bar bar(&window);
+    QCOMPARE(nameOf(bar.windowButton(OlvControlBar::Close)), QStringLiteral("关闭"));
 }
 
 void TestAccessibleGlyphButton::buttonsOfABarArePressed()
@@ -182,6 +202,7 @@ void TestAccessibleGlyphButton::otherPushButtonsAreAsQtHasThem()
     Bar bar;
     for (QWidget *parent : { static_cast<QWidget *>(nullptr), static_cast<QWidget *>(&bar) }) {
         QPushButton button(QStringLiteral("Save"), parent);
+        button.setProperty("index", 0);
         button.setToolTip(QStringLiteral("Writes the file"));
         QCOMPARE(nameOf(&button), QStringLiteral("Save"));
     }
