@@ -5,10 +5,10 @@
 
 #include <QColor>
 #include <QList>
-#include <QPointer>
 #include <QWidget>
 
-class QLabel;
+#include <memory>
+
 class QScrollBar;
 
 /**
@@ -106,12 +106,8 @@ private:
     void arrange();
     void fitScrollBar();
 
-    int m_margin = 15;
-    int m_spacing = 20;
-    int m_scrollStep = 25;
-    QList<QWidget *> m_widgets;
-    QPointer<QLabel> m_emptyLabel;
-    int m_viewHeight = 0;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**

@@ -8,6 +8,7 @@
 #include "support/childaddress_p.h"
 
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 
 namespace {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/containers.h>
 
-#include "support/childaddress_p.h"
-
 #include <QLabel>
 #include <QPointer>
 #include <QScrollBar>
@@ -24,6 +22,7 @@ constexpr int settlingTime = 300; // milliseconds
 constexpr int barWidth = 10;
 constexpr int barDistance = 13;
 constexpr int unitsPerNotch = 20;
+constexpr int scrollStep = 25; // pixels of a unit
 
 bool isInWindow(const QWidget *parent)
 {
@@ -36,12 +35,15 @@ int toPixels(qint64 value)
     return int(qBound<qint64>(-QWIDGETSIZE_MAX, value, QWIDGETSIZE_MAX));
 }
 
-/** Moves @p widget unless it is there already, which Qt would find out at a higher price. */
-void moveTo(QWidget *widget, QPoint position)
+/** Moves @p widget, unless it is there already: Qt takes longer to find that out. */
+bool moveTo(QWidget *widget, QPoint position)
 {
-    if (widget->isWindow() || widget->pos() != position || !widget->testAttribute(Qt::WA_Moved)) {
+    const bool isElsewhere =
+        widget->isWindow() || widget->pos() != position || !widget->testAttribute(Qt::WA_Moved);
+    if (isElsewhere) {
         widget->move(position);
     }
+    return isElsewhere;
 }
 
 /** What QWheelEvent::delta() said: the turn about the axis that was turned further. */
@@ -52,19 +54,73 @@ int deltaOf(const QWheelEvent *event)
     return qAbs<qint64>(angle.x()) > qAbs<qint64>(angle.y()) ? angle.x() : angle.y();
 }
 
+/** How far the flow of the tiles has come, in pixels. */
+struct Flow
+{
+    qint64 available = 0; // where a row has to end
+    qint64 left = 0;      // the last tile, from here
+    qint64 right = 0;     // to here
+    qint64 top = 0;       // of its row
+    qint64 rowHeight = 0;
+    bool startsRow = false; // whether the last tile is the first of its row
+};
+
+/** The flow with one more tile of @p width: beside the last one, or in a new row. */
+Flow next(Flow flow, int width, qint64 margin)
+{
+    flow.startsRow = flow.right + margin + width > flow.available;
+    if (flow.startsRow) {
+        flow.top += flow.rowHeight + margin;
+        flow.rowHeight = 0;
+        flow.right = 0;
+    }
+    flow.left = flow.right + margin;
+    flow.right = flow.left + width;
+    return flow;
+}
+
+/** The child, unless its destructor has run, or @p property no longer holds its address. */
+template <typename Child> Child *named(const QPointer<QObject> &child, const QVariant &property)
+{
+    const bool isNamed =
+        child && property.toULongLong() == reinterpret_cast<qulonglong>(child.data());
+    return isNamed ? qobject_cast<Child *>(child.data()) : nullptr;
+}
+
 } // namespace
+
+class OlvGridLayout::Private
+{
+public:
+    /** Null once an application has deleted it. */
+    QLabel *label() const
+    {
+        return qobject_cast<QLabel *>(emptyLabel.data());
+    }
+
+    int margin = 15;
+    int spacing = 20;
+    QList<QWidget *> tiles;
+    uint departures = 0; // how many tiles have left the list so far
+    QPointer<QObject> emptyLabel;
+    QPointer<QObject> scrollBar;
+    QPointer<QObject> resizeTimer;
+    int viewHeight = 0;
+};
 
 OlvGridLayout::OlvGridLayout(QWidget *parent)
     : QWidget(parent)
+    , d(std::make_unique<Private>())
 {
     if (parent) {
-        m_viewHeight = parent->height();
+        d->viewHeight = parent->height();
     }
-    m_emptyLabel = new QLabel(QStringLiteral("空"), this);
-    m_emptyLabel->setFont(QFont(QStringLiteral("楷体"), emptyPointSize));
-    m_emptyLabel->resize(size());
-    m_emptyLabel->setAlignment(Qt::AlignCenter);
-    m_emptyLabel->setStyleSheet(QStringLiteral("color: rgb(33, 33, 33);"));
+    auto *label = new QLabel(QStringLiteral("空"), this);
+    label->setFont(QFont(QStringLiteral("楷体"), emptyPointSize));
+    label->resize(size());
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(QStringLiteral("color: rgb(33, 33, 33);"));
+    d->emptyLabel = label;
     if (parent) {
         parent->installEventFilter(this);
     }
@@ -78,7 +134,7 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
 
     auto *timer = new QTimer(this);
     timer->setInterval(settlingTime);
-    // a resize of the bar may bring about the end of the grid
+    // what follows the parent's size may lead to the end of the grid
     connect(timer, &QTimer::timeout, this, [this, timer, self = QPointer<OlvGridLayout>(this)] {
         timer->stop();
         fitParent();
@@ -87,13 +143,14 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
         }
     });
     setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
+    d->resizeTimer = timer;
 }
 
 OlvGridLayout::~OlvGridLayout()
 {
-    // The children are destroyed after the list is: they must not be looked for in it then.
-    for (QWidget *widget : qAsConst(m_widgets)) {
-        widget->disconnect(this);
+    // the tiles are destroyed after the list, and nothing may look for them in it then
+    for (QWidget *tile : qAsConst(d->tiles)) {
+        tile->disconnect(this);
     }
 }
 
@@ -107,7 +164,7 @@ void OlvGridLayout::addWidget(QList<QWidget *> widgets)
     for (QWidget *widget : qAsConst(widgets)) {
         if (widget) {
             watch(widget);
-            m_widgets.append(widget);
+            d->tiles.append(widget);
         }
     }
     reUi();
@@ -115,21 +172,22 @@ void OlvGridLayout::addWidget(QList<QWidget *> widgets)
 
 bool OlvGridLayout::insWidget(QWidget *widget, QWidget *before)
 {
-    const int place = m_widgets.indexOf(before);
+    const int place = d->tiles.indexOf(before);
     if (!widget || place < 0) {
         return false;
     }
     watch(widget);
-    m_widgets.insert(place, widget);
+    d->tiles.insert(place, widget);
     reUi();
     return true;
 }
 
 bool OlvGridLayout::delWidget(QWidget *widget)
 {
-    if (!m_widgets.removeOne(widget)) {
+    if (!d->tiles.removeOne(widget)) {
         return false;
     }
+    ++d->departures;
     const QPointer<OlvGridLayout> self(this);
     delete widget;
     if (self) {
@@ -140,13 +198,13 @@ bool OlvGridLayout::delWidget(QWidget *widget)
 
 void OlvGridLayout::setMargin(int margin)
 {
-    m_margin = margin;
+    d->margin = margin;
     reUi();
 }
 
 void OlvGridLayout::setSpacing(int spacing)
 {
-    m_spacing = spacing;
+    d->spacing = spacing;
     reUi();
 }
 
@@ -154,14 +212,14 @@ void OlvGridLayout::reUi()
 {
     const QPointer<OlvGridLayout> self(this);
     QWidget *parent = parentWidget();
-    if (m_widgets.isEmpty()) {
+    if (d->tiles.isEmpty()) {
         resize(width(), isSubWindow() || !parent ? emptyHeight : parent->height());
-        if (m_emptyLabel) {
-            m_emptyLabel->show();
+        if (QLabel *label = d->label()) {
+            label->show();
         }
     } else {
-        if (m_emptyLabel) {
-            m_emptyLabel->hide();
+        if (QLabel *label = d->label()) {
+            label->hide();
         }
         arrange();
         if (!self) {
@@ -174,14 +232,15 @@ void OlvGridLayout::reUi()
             parent->resize(parent->width(), height() + 2 * windowBorder);
         }
     }
-    if (self && m_emptyLabel) {
-        m_emptyLabel->resize(size());
+    QLabel *label = self ? d->label() : nullptr;
+    if (label) {
+        label->resize(size());
     }
 }
 
 void OlvGridLayout::resized()
 {
-    if (auto *timer = childAtAddress<QTimer>(this, property(resizeTimerProperty))) {
+    if (auto *timer = named<QTimer>(d->resizeTimer, property(resizeTimerProperty))) {
         timer->start();
     }
 }
@@ -211,15 +270,16 @@ bool OlvGridLayout::isSubWindow() const
 
 QScrollBar *OlvGridLayout::scrollBar() const
 {
-    return parent() ? childAtAddress<QScrollBar>(parent(), property(scrollBarProperty)) : nullptr;
+    return named<QScrollBar>(d->scrollBar, property(scrollBarProperty));
 }
 
 void OlvGridLayout::makeScrollBar()
 {
-    // a sibling of the grid, so that it does not scroll along
+    // a sibling of the grid, since a child would scroll along
     auto *bar = new QScrollBar(Qt::Vertical, parentWidget());
-    bar->setGeometry(width() - barDistance, 0, barWidth, m_viewHeight);
+    bar->setGeometry(width() - barDistance, 0, barWidth, d->viewHeight);
     setProperty(scrollBarProperty, reinterpret_cast<qulonglong>(bar));
+    d->scrollBar = bar;
     bar->setStyleSheet(
         QStringLiteral("QScrollBar{width:10px;background:rgba(0,0,0,10%);border-radius:5px}"
                        "QScrollBar::handle{background:rgba(0,0,0,25%);border-radius:5px}"
@@ -228,12 +288,15 @@ void OlvGridLayout::makeScrollBar()
                        "QScrollBar::sub-page,QScrollBar::add-page{background:rgba(0,0,0,0)}"));
     bar->hide();
     connect(bar, &QScrollBar::valueChanged, this,
-            [this](int value) { move(0, toPixels(-qint64(value) * m_scrollStep)); });
+            [this](int value) { move(0, toPixels(-qint64(value) * scrollStep)); });
 }
 
 void OlvGridLayout::watch(QWidget *widget)
 {
-    connect(widget, &QObject::destroyed, this, [this, widget] { m_widgets.removeAll(widget); });
+    connect(widget, &QObject::destroyed, this, [this, widget] {
+        d->tiles.removeAll(widget);
+        ++d->departures;
+    });
 }
 
 void OlvGridLayout::fitParent()
@@ -242,55 +305,45 @@ void OlvGridLayout::fitParent()
     if (!parent) {
         return;
     }
-    m_viewHeight = parent->height();
+    d->viewHeight = parent->height();
     if (isSubWindow()) {
         resize(parent->width() - 2 * windowBorder, height());
         return;
     }
     resize(parent->width(), height());
     if (QScrollBar *bar = scrollBar()) {
-        bar->setGeometry(width() - barDistance, 0, barWidth, m_viewHeight);
+        bar->setGeometry(width() - barDistance, 0, barWidth, d->viewHeight);
     }
 }
 
 void OlvGridLayout::arrange()
 {
-    const qint64 available = qint64(width()) - m_margin;
-    qint64 right = 0; // of what stands last in the row
-    qint64 top = m_margin;
-    qint64 rowHeight = 0;
-    // whoever hears of a move may delete another widget, or the grid
     const QPointer<OlvGridLayout> self(this);
-    const QList<QWidget *> widgets = m_widgets;
-    const auto isAlive = [&](QWidget *widget) {
-        // the list is shared with this copy until it changes: what dies leaves it
-        return self
-            && (m_widgets.constBegin() == widgets.constBegin() || m_widgets.contains(widget));
+    // A tile that hears of its move may change the list, whose additions bring their own reflow.
+    const QList<QWidget *> tiles = d->tiles;
+    const uint departures = d->departures;
+    const auto isGone = [&](QWidget *tile) {
+        return d->departures != departures && !d->tiles.contains(tile);
     };
-    for (QWidget *widget : widgets) {
-        if (!self) {
-            return;
-        }
-        if (!isAlive(widget)) {
+    Flow flow;
+    flow.available = qint64(width()) - d->margin;
+    flow.top = d->margin;
+    for (QWidget *tile : tiles) {
+        if (isGone(tile)) {
             continue;
         }
-        // a move may set another margin, and may leave no grid to ask for it in the midst of a step
-        const qint64 margin = m_margin;
-        const qint64 end = right + margin + widget->width();
-        const bool isNewRow = end > available;
-        if (isNewRow) {
-            top += rowHeight + margin;
-            rowHeight = 0;
+        flow = next(flow, tile->width(), d->margin);
+        const bool isMoved = moveTo(tile, QPoint(toPixels(flow.left), toPixels(flow.top)));
+        if (isMoved && !self) {
+            return;
         }
-        const qint64 left = isNewRow ? margin : right + margin;
-        moveTo(widget, QPoint(toPixels(left), toPixels(top)));
-        const QSize size = isAlive(widget) ? widget->size() : QSize(0, 0);
-        right = isNewRow ? left + size.width() : end;
-        rowHeight = qMax<qint64>(rowHeight, size.height());
+        const QSize size = isMoved && isGone(tile) ? QSize(0, 0) : tile->size();
+        if (flow.startsRow) {
+            flow.right = flow.left + size.width();
+        }
+        flow.rowHeight = qMax<qint64>(flow.rowHeight, size.height());
     }
-    if (self) {
-        resize(width(), toPixels(top + rowHeight + m_margin));
-    }
+    resize(width(), toPixels(flow.top + flow.rowHeight + d->margin));
 }
 
 void OlvGridLayout::fitScrollBar()
@@ -299,8 +352,8 @@ void OlvGridLayout::fitScrollBar()
     if (!bar) {
         return;
     }
-    if (m_viewHeight < height()) {
-        bar->setMaximum((height() - m_viewHeight) / m_scrollStep);
+    if (d->viewHeight < height()) {
+        bar->setMaximum((height() - d->viewHeight) / scrollStep);
         if (bar) { // a slot of its signals may have deleted it
             bar->show();
         }
