@@ -16,7 +16,6 @@ constexpr int trackInset = 15;
 constexpr int trackTop = 10;
 constexpr int trackHeight = 10;
 constexpr int trackRadius = 5;
-constexpr int fullProgress = 100;
 
 } // namespace
 
@@ -45,7 +44,7 @@ void OlvSlider::setValue(const QVariant &value)
 
 void OlvSlider::setSliderPosition(int percent)
 {
-    percent = qBound(0, percent, fullProgress);
+    percent = qBound(0, percent, SliderMetrics::fullProgress);
     if (auto *knob = childAtAddress<SliderRound>(this, property(ValueProperties::sliderKnob))) {
         knob->follow(percent);
     } else {

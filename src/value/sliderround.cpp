@@ -13,7 +13,6 @@ namespace {
 
 constexpr int discInset = 2;
 constexpr int ringWidth = 2;
-constexpr int fullProgress = 100;
 constexpr int noProgress = -1;
 
 void tell(QWidget *parent, int progress)
@@ -64,7 +63,7 @@ void SliderRound::setMaxX(int maxX)
 
 void SliderRound::dragTo(int progress)
 {
-    progress = qBound(0, progress, fullProgress);
+    progress = qBound(0, progress, SliderMetrics::fullProgress);
     const QPointer<QWidget> slider(d->slider);
     d->progress = progress;
     placeAt(progress); // after which the knob may be gone
@@ -82,7 +81,8 @@ void SliderRound::placeAt(int progress)
     // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
     // track has a pixel for it.
     const qint64 x =
-        (qBound<qint64>(0, d->maxX, QWIDGETSIZE_MAX) * progress + fullProgress - 1) / fullProgress;
+        (qBound<qint64>(0, d->maxX, QWIDGETSIZE_MAX) * progress + SliderMetrics::fullProgress - 1)
+        / SliderMetrics::fullProgress;
     move(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), y());
 }
 
@@ -117,13 +117,13 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
     if (newX > maxX) {
         // a slider narrower than the knob ends left of its start: every drag ends here then
         move(maxX, 0);
-        progress = fullProgress;
+        progress = SliderMetrics::fullProgress;
     } else if (newX < 0) {
         move(0, 0);
     } else {
         move(int(newX), 0);
         // a slider as wide as the knob has room for 0 alone
-        progress = maxX > 0 ? int(newX * fullProgress / maxX) : 0;
+        progress = maxX > 0 ? int(newX * SliderMetrics::fullProgress / maxX) : 0;
     }
     if (progress == d->progress) {
         return;
