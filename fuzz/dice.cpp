@@ -90,13 +90,13 @@ double Dice::real()
 
 int Dice::side()
 {
-    // few different ones: each height has a font made for it
+    // few different sizes, since a font is made for each height
     static constexpr std::array<int, 10> usual{ 1, 2, 7, 16, 24, 30, 31, 50, 80, 120 };
     switch (below(60)) {
     case 0:
         return 0;
     case 1:
-        // of more, Qt's own rectangles overflow
+        // above this, the sums in Qt's rectangles overflow
         return qBound(-2 * QWIDGETSIZE_MAX, number(), 2 * QWIDGETSIZE_MAX);
     case 2:
         return QWIDGETSIZE_MAX - below(2);
@@ -161,7 +161,7 @@ QString Dice::text()
 
 QString Dice::megabyte()
 {
-    // one short piece over and over: as long, and made in no time
+    // one short piece is repeated, since drawing each character takes too long
     QString piece = text() + character();
     return piece.repeated(megabyteOfCharacters / piece.size());
 }

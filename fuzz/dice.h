@@ -12,7 +12,7 @@
 
 #include <random>
 
-/** Everything that a storm leaves to chance, out of its seed: choices, and hostile values. */
+/** The random choices of a storm, and hostile values, all derived from its seed. */
 class Dice
 {
 public:

@@ -130,7 +130,7 @@ void sendDrag(Dice &dice, QWidget *receiver)
 
 void sendGeometry(Dice &dice, QWidget *receiver)
 {
-    // tells of a change that there has not been
+    // the event tells of a size or a place that the widget does not have
     if (dice.coin()) {
         QResizeEvent event(QSize{ dice.side(), dice.side() }, receiver->size());
         send(receiver, event);
@@ -165,7 +165,7 @@ void sendRare(Dice &dice, QWidget *receiver)
         break;
     }
     case 1: {
-        // a scroll bar's menu waits for an answer
+        // a scroll bar opens a menu that blocks until it is answered
         if (!qobject_cast<QScrollBar *>(receiver)) {
             const QPoint place = dice.pixel(receiver->size());
             QContextMenuEvent event(QContextMenuEvent::Keyboard, place);
@@ -174,7 +174,7 @@ void sendRare(Dice &dice, QWidget *receiver)
         break;
     }
     case 2: {
-        // showing a tip takes more care; see World::showTip()
+        // World::showTip() takes care of widgets that have a tool tip
         if (receiver->toolTip().isEmpty()) {
             Events::askForTip(dice, receiver);
         }

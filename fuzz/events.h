@@ -12,9 +12,9 @@ namespace Events {
 void sendAny(Dice &dice, QWidget *receiver);
 /** The pointer comes in, presses and releases: what widgets take for a click. */
 void click(Dice &dice, QWidget *receiver);
-/** The pointer rests on it: what has Qt show its tool tip, or hide the one that is shown. */
+/** The pointer rests on the widget, so that Qt shows its tool tip, or hides another. */
 void askForTip(Dice &dice, QWidget *receiver);
-/** A timer's event, with the identity of one of the receiver's timers, or any other. */
+/** A timer event with the identifier of the receiver's timer, or any other. */
 void sendTimer(Dice &dice, QObject *receiver);
 /** Draws the widget into an image of any size, format and number of device pixels. */
 void paint(Dice &dice, QWidget *widget);

@@ -27,7 +27,7 @@ constexpr unsigned stallSeconds = 300;
 /** Longer than the longest timer of the library. */
 constexpr int settlingTime = 2500;
 
-// what a crash reports; plain, so that a signal handler may read them
+// plain variables, since the signal handler that reports a crash reads them
 const char *currentFamily = "";
 volatile quint64 currentSeed = 0;
 volatile quint64 currentEvent = 0;
@@ -35,7 +35,7 @@ quint64 warnings = 0;
 
 void reportPlace()
 {
-    // a signal handler may do little else than this
+    // only functions that are safe in a signal handler may be called here
     static char line[256];
     const int size =
         std::snprintf(line, sizeof line, "storm %s: failed; to replay: --seed %llu --events %llu\n",
@@ -65,7 +65,7 @@ void watchForCrashes()
     std::signal(SIGABRT, handleSignal);
     std::signal(SIGALRM, handleSignal);
 #ifdef __SANITIZE_ADDRESS__
-    // the sanitizer keeps the other signals, for its own report
+    // the sanitizer handles the other signals itself
     __sanitizer_set_death_callback(reportPlace);
 #else
     for (const int number : { SIGSEGV, SIGBUS, SIGFPE, SIGILL }) {
@@ -74,7 +74,10 @@ void watchForCrashes()
 #endif
 }
 
-/** Begins anew at fixed addresses, where the system lets it: the widgets keep some as numbers. */
+/**
+ * Starts the program once more at fixed addresses, where the system allows that, since the widgets
+ * keep some addresses as numbers.
+ */
 void fixAddresses(char **argv)
 {
     constexpr unsigned long query = 0xffffffff;
@@ -102,7 +105,7 @@ quint64 runEpisode(quint64 seed, quint64 events, const Storm::Maker &make)
     currentSeed = seed;
     currentEvent = 0;
     alarm(stallSeconds);
-    // as little as can be is left of the episode before
+    // the episode before must not influence this one
     VirtualClock::advanceToHour();
     QGuiApplication::clipboard()->clear();
     QCoreApplication::processEvents();
@@ -114,7 +117,7 @@ quint64 runEpisode(quint64 seed, quint64 events, const Storm::Maker &make)
             episode->step();
         }
         if (qEnvironmentVariableIsSet("STORM_VERBOSE")) {
-            // the same seed leaves the same number behind, or something but the dice decides
+            // a seed that leaves another number than before depends on something besides the dice
             std::fprintf(stderr, "seed %llu: %016llx\n", static_cast<unsigned long long>(seed),
                          static_cast<unsigned long long>(dice.bits()));
         }
@@ -124,7 +127,7 @@ quint64 runEpisode(quint64 seed, quint64 events, const Storm::Maker &make)
     return events;
 }
 
-/** Each line of the file: a seed, the number of events, and after that whatever is to be said. */
+/** Each line of the file has a seed, a number of events, and a remark. */
 quint64 replay(const QString &path, const Storm::Maker &make)
 {
     QFile file(path);
@@ -167,7 +170,7 @@ int Storm::run(int argc, char **argv, const char *family, const Maker &make)
     fixAddresses(argv);
     VirtualClock::real();
     qSetGlobalQHashSeed(0);
-    qputenv("QT_NO_GLIB", "1"); // Qt's own loop alone goes by the clock
+    qputenv("QT_NO_GLIB", "1"); // only Qt's own event loop uses the virtual clock
     currentFamily = family;
     watchForCrashes();
     QApplication application(argc, argv);

@@ -8,8 +8,8 @@
 
 /**
  * @file storm.h
- * What the storm programs share: each makes thousands of random events an episode, out of a seed,
- * and fails when one crashes the program, stalls it, or breaks what the documentation says.
+ * What the storm programs share: each sends thousands of random events in an episode, derived from
+ * a seed, and fails when one crashes the program, stalls it, or breaks a documented rule.
  */
 
 namespace Storm {
@@ -41,7 +41,7 @@ int run(int argc, char **argv, const char *family, const Maker &make);
 /** Unless @p holds, ends the program with the seed and the number of the event. */
 void check(bool holds, const char *rule);
 
-/** Moves the clock on by @p milliseconds, and has Qt handle what is due and what was posted. */
+/** Advances the clock by @p milliseconds, and delivers timer events and posted events. */
 void processEvents(int milliseconds);
 
 } // namespace Storm

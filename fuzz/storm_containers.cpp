@@ -9,7 +9,7 @@
 
 namespace {
 
-/** A widget in a grid; when it is moved, others may go. */
+/** A widget in a grid that may delete others when it is moved or resized. */
 class Tile : public QWidget
 {
 public:
@@ -90,7 +90,7 @@ private:
     {
         Dice &dice = world.dice();
         auto *grid = qobject_cast<OlvGridLayout *>(world.anyWidget());
-        // adding it moves others, which may delete it
+        // adding a widget moves others, which may delete it
         const QPointer<QWidget> tile(new Tile(world, grid ? grid : parent));
         tile->resize(dice.side(), dice.side());
         if (grid) {
@@ -137,7 +137,7 @@ private:
         }
     }
 
-    /** A widget that may go into the grid, for it is not around it; null at times. */
+    /** A widget that may be added to the grid because it does not contain it; may be null. */
     static QWidget *other(World &world, OlvGridLayout *grid)
     {
         QWidget *found = world.anyWidget();
@@ -148,7 +148,7 @@ private:
     {
         if (grid->parentWidget()) {
             if (auto *bar = grid->parentWidget()->findChild<QScrollBar *>()) {
-                // over a range of more than an int, Qt's style divides by 0
+                // Qt's style divides by zero when the range overflows an int
                 bar->setRange(dice.between(-9, 9), dice.side());
                 bar->setValue(dice.number());
             }
@@ -158,7 +158,7 @@ private:
     static void callPanel(World &world, OlvFlexWidget *panel)
     {
         Dice &dice = world.dice();
-        // showing a window goes through what is being destroyed beside it
+        // showing a window visits its children, one of which may be half destroyed
         switch (world.isGuarded() ? 7 : dice.below(8)) {
         case 0: {
             static constexpr std::array<OlvFlexWidget::OlvStayType, 3> types{

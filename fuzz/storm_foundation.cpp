@@ -11,7 +11,7 @@
 
 namespace {
 
-/** An object to be watched, which says when it got an event itself. */
+/** An object to be watched, which counts the events that reach it. */
 class Watched : public QObject
 {
 public:
@@ -24,7 +24,7 @@ public:
     int received = 0;
 };
 
-/** Sends an event when the last callable that holds it lets go of it. */
+/** Sends an event when it is destroyed with the last callable that holds it. */
 class LastWord
 {
 public:
@@ -67,7 +67,7 @@ public:
         {
             const OlvAutoDestroy guard;
         }
-        // one may leave another, and that one more
+        // a callable may defer another, which may defer one more
         for (int i = 0; i < 100 && m_callables > 0; ++i) {
             Storm::processEvents(10);
         }
@@ -189,7 +189,7 @@ private:
         OlvColorFromString(text);
     }
 
-    /** A callable that runs once is deferred, or left for the end; it may leave more. */
+    /** A callable that checks that it runs once, and that may defer another. */
     std::function<void()> callable()
     {
         ++m_callables;
@@ -261,7 +261,7 @@ private:
 
     void destroy(QObject *object)
     {
-        // one at a time, for what is being destroyed may be come upon once more
+        // only one at a time, since an object that is being destroyed may be chosen again
         if (!m_isDestroying) {
             m_isDestroying = true;
             delete object;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** Knows what it was made with. */
+/** A handle that remembers the arguments of its constructor. */
 class OwnItem : public OlvResizeItem
 {
 public:
@@ -27,7 +27,7 @@ public:
 
     void checkPlace() const
     {
-        // a platform has its own mind about where windows are
+        // the platform may place a window elsewhere
         if (!m_target || isWindow()) {
             return;
         }

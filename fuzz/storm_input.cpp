@@ -8,7 +8,7 @@
 
 namespace {
 
-/** A shortcut that does to the world what an application's own might. */
+/** A shortcut whose operations delete objects and run the event loop. */
 class OwnShortcut : public OlvShortcut
 {
 public:
@@ -69,7 +69,7 @@ public:
             return new OlvShortcutEdit(new OwnShortcut(world, nullptr), parent);
         default: {
             auto *line = new OlvLineEdit(parent);
-            // a drag of text would wait for a real mouse button to be released
+            // a drag of text would block until a real mouse button is released
             line->findChild<QLineEdit *>()->setDragEnabled(false);
             return line;
         }
@@ -187,14 +187,14 @@ private:
                                             dice.coin(), dice.coin(), dice.coin(), parent)
                           : new OwnShortcut(world, parent));
         const bool isTaken = edit->setShortcut(shortcut);
-        // what happens meanwhile may have handed the same one over, which is kept then
+        // a slot may have handed the same shortcut over meanwhile, and then it is kept
         Storm::check(isTaken || shortcut.isNull() || (alive && alive->shortcut() == shortcut),
                      "a shortcut that is refused is deleted");
         Storm::check(alive || shortcut.isNull(), "a shortcut goes with its field");
         if (!dice.oneIn(8)) {
             return;
         }
-        // handed over to one more field, as no program should
+        // a shortcut that two fields hold is a mistake of the program
         if (auto *other = qobject_cast<OlvShortcutEdit *>(world.anyWidget())) {
             other->setShortcut(shortcut);
         }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int mostShortcuts = 12;
 
-/** Shortcuts come and go, on a server or where there is none, and fire into slots that do more. */
+/** Shortcuts that are made, registered, deleted and activated, by their own slots as well. */
 class SystemInfoEpisode : public QObject, public Storm::Episode
 {
 public:

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Hears what its knob hands over. */
+/** A slider that checks the values that its knob sets. */
 class HeardSlider : public OlvSlider
 {
 public:
@@ -38,7 +38,7 @@ private:
     bool m_isCalled = false;
 };
 
-/** Keeps an account of what it says. */
+/** A switch that compares the values of its two signals. */
 class HeardSwitch : public OlvSwitch
 {
 public:
@@ -51,7 +51,7 @@ public:
             m_told.append(value.toBool());
         });
         connect(this, &OlvSwitch::changed, this, [this](bool on) {
-            // a slot may have it flip once more in between
+            // a slot of the first signal may have flipped it once more
             Storm::check(!m_told.isEmpty() && m_told.takeLast() == on,
                          "a switch says the same twice");
             ++m_flips;
@@ -235,12 +235,12 @@ private:
         }
     }
 
-    /** An animation as a whole, from a switch at rest. */
+    /** Runs a whole animation of a switch that is at rest. */
     static void flip(World &world, HeardSwitch *oneSwitch)
     {
         const bool before = oneSwitch->getValue().toBool();
         const int flips = oneSwitch->flips();
-        // without its helper, which the storm may have taken, no timer moves it
+        // the storm may have deleted the event filter that moves the knob
         const QObjectList &children = oneSwitch->children();
         const bool isWhole =
             std::any_of(children.begin(), children.end(), [](const QObject *child) {

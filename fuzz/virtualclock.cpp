@@ -15,7 +15,7 @@ std::atomic<long long> virtualNanoseconds{ nanosecondsPerSecond };
 
 } // namespace
 
-// Stands before the C library's: Qt and the standard library read the clock through this one.
+// Replaces the function of the C library, so that Qt and the standard library read this clock.
 extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t clock,
                                                                     timespec *time) noexcept
 {

@@ -4,20 +4,18 @@
 #include <chrono>
 
 /**
- * The clock of this program, which stands still unless the storm moves it on. Qt's timers
- * go by it: they fire when the storm says so, which makes a run depend on its seed alone, and a
- * timer of two seconds no slower than one of a millisecond.
+ * The clock of this program, which advances only when the storm says so. Qt's timers use it, so
+ * that a run depends on its seed alone, and a timer of two seconds takes no longer than any other.
  */
 namespace VirtualClock {
 
-/** Moves the clock on. */
+/** Advances the clock. */
 void advance(std::chrono::milliseconds time);
 
-/** Moves the clock on to the next full hour, for Qt's timers look at what part of a second it is.
- */
+/** Advances the clock to the next full hour, since Qt aligns its timers within a second. */
 void advanceToHour();
 
-/** The time that has really gone by since the program began. */
+/** The real time since the program started. */
 std::chrono::milliseconds real();
 
 } // namespace VirtualClock

@@ -48,7 +48,7 @@ World::World(Dice &dice, std::unique_ptr<Family> family)
 
 World::~World()
 {
-    // the slots must not make anything new of what is being taken down
+    // the slots must not create anything while the world is destroyed
     m_depth = deepest;
     for (const QPointer<QWidget> &widget : qAsConst(m_widgets)) {
         delete widget;
@@ -117,7 +117,7 @@ void World::adopt(QWidget *widget)
 
 void World::forget(QObject *dying)
 {
-    // a QPointer holds a widget until nothing is left of it, and what is in it is about to follow
+    // a QPointer is cleared only at the end of the destructor, and the children are about to follow
     const auto isDoomed = [dying](const QObject *object) {
         while (object && object != dying) {
             object = object->parent();
@@ -179,7 +179,7 @@ QWidget *World::target()
         adopt(made);
         m_target = made;
     } else if (!m_target || m_dice.oneIn(16)) {
-        // events come in bursts: most of what a widget does takes several
+        // one widget gets several events in a row, since most of its actions take several
         m_target = m_dice.pick(m_widgets);
     }
     return m_target;
@@ -273,7 +273,7 @@ void World::destroy(QObject *object)
 
 void World::pass(int milliseconds)
 {
-    // what is half destroyed has events waiting that Qt does not look through
+    // an object that is half destroyed may have posted events that Qt would still deliver
     if (m_guards == 0) {
         Storm::processEvents(milliseconds);
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "assistant.h"
 #include "storm.h"
+#include "stormassistant.h"
 
 #include <QObject>
 #include <QPointer>
@@ -25,7 +25,7 @@ public:
     virtual QVector<QByteArray> properties() const = 0;
     /** Checks what always holds for @p widget. */
     virtual void check(World &world, QWidget *widget);
-    /** Puts a text of a megabyte into @p widget, or the ordinary one that takes its place. */
+    /** Sets @p text, which may be a megabyte long, wherever @p widget takes a text. */
     virtual void setText(QWidget *widget, const QString &text);
 
 protected:
@@ -36,9 +36,9 @@ private:
 };
 
 /**
- * A few windows full of widgets of one family, to which anything happens. Slots on all of their
- * signals make more of it happen while the widget is still at work: they delete it, its parent, its
- * helpers or its neighbours, send further events, or run the event loop.
+ * A few windows full of widgets of one family, to which random things happen. Slots of all their
+ * signals do more while the sender is still at work: they delete it, its parent, its helpers or its
+ * neighbours, send further events, or run the event loop.
  */
 class World : public QObject, public Storm::Episode
 {
@@ -51,23 +51,20 @@ public:
     void step() override;
 
     Dice &dice();
-    /** A window, or a widget in one, which may be made for this. */
+    /** A window or a widget in one, which may be created by this call. */
     QWidget *anyHost();
-    /** One of the widgets; null when there is none just now. */
+    /** One of the widgets; null when there is none. */
     QWidget *anyWidget();
-    /** A widget that no one is in the midst of, and none of @p except or around it is deleted. */
+    /** Deletes a widget other than @p except and its ancestors, later if a Guard exists. */
     void deleteAny(const QWidget *except);
     /** Adds @p widget to the world, and listens to its signals and those of its children. */
     void adopt(QWidget *widget);
-    /** Keeps the address of what may be dead by the time it is used. */
+    /** Keeps an address, which may be dangling by the time it is used. */
     void remember(const QObject *object);
-    /** A wild address, or one of what is or was alive. */
+    /** The address of an object that lives or has lived, or any number. */
     qulonglong anyAddress();
 
-    /**
-     * While one is alive, nothing is deleted at once, and no event loop runs: Qt itself is in the
-     * midst of the widgets.
-     */
+    /** While one exists, deletions are deferred and no event loop runs: Qt is using the widgets. */
     class Guard
     {
     public:
@@ -80,9 +77,9 @@ public:
     };
 
     bool isGuarded() const;
-    /** Whether no slot has done anything since this event began: what was just set still stands. */
+    /** Whether no slot has done anything since this event began, so that what was set is kept. */
     bool isUndisturbed() const;
-    /** Lets time pass, where that may be. */
+    /** Advances the clock and runs the event loop, unless a Guard exists. */
     void pass(int milliseconds);
 
 public Q_SLOTS:
@@ -98,7 +95,7 @@ private:
     QWidget *target();
     QWidget *within(QWidget *widget);
     // worldalterations.cpp: what a program does to its widgets
-    /** A window's pixels are real: it must not follow a hostile size. */
+    /** Limits the size of a window, whose pixels the platform allocates. */
     static void bound(QWidget *window);
     void alter(QWidget *widget);
     void place(QWidget *widget);
@@ -113,7 +110,7 @@ private:
     void takeHelper(QWidget *widget);
     void hear(const QAccessibleEvent &update);
 
-    /** How many slots may be at work within one another. */
+    /** How deeply slots may be nested. */
     static constexpr int deepest = 3;
 
     Dice &m_dice;
@@ -126,10 +123,10 @@ private:
     int m_depth = 0;
     int m_guards = 0;
     int m_strikes = 0;
-    bool m_isDying = false; // a widget is, further up
+    bool m_isDying = false; // a destructor is running further up the stack
     bool m_isShowingTip = false;
     bool m_isOverwriting = false;
-    Assistant m_assistant;
+    StormAssistant m_assistant;
 };
 
 /** Runs the storm of a family of widgets. */

@@ -5,7 +5,7 @@
 
 namespace {
 
-/** What a window may grow to: the platform keeps its pixels. */
+/** The largest side of a window, whose pixels the platform allocates. */
 constexpr int largestWindow = 1200;
 
 constexpr int farthest = 1 << 24;
@@ -23,7 +23,7 @@ void World::place(QWidget *widget)
     QWidget *moved = m_dice.oneIn(4) ? within(widget) : widget;
     switch (m_dice.below(6)) {
     case 0:
-        // further off, the right edge is beyond an int, and Qt does not look
+        // further away, the right edge overflows an int within Qt
         moved->move(qBound(-farthest, m_dice.number(), farthest), m_dice.between(-50, 50));
         break;
     case 1:
@@ -33,7 +33,7 @@ void World::place(QWidget *widget)
         break;
     default:
         if (moved->inherits("QPushButton")) {
-            // Qt takes half a minute to draw one of the largest size
+            // Qt takes half a minute to draw a button of the largest size
             moved->setMaximumSize(largestWindow, largestWindow);
         }
         moved->resize(sideOf(moved), sideOf(moved));
@@ -42,7 +42,7 @@ void World::place(QWidget *widget)
 
 int World::sideOf(const QWidget *widget)
 {
-    // of a grid the storm checks that its own layout keeps to the largest size
+    // the storm checks that a grid never makes itself larger than the largest size
     const int most = widget->inherits("OlvGridLayout") ? QWIDGETSIZE_MAX : 2 * QWIDGETSIZE_MAX;
     return qMin(m_dice.side(), most);
 }
@@ -98,7 +98,7 @@ void World::alter(QWidget *widget)
 void World::move(QWidget *widget)
 {
     const Guard guard(*this);
-    // where a hidden child had taken the focus over, Qt leaves the old one with the window for good
+    // otherwise Qt keeps a hidden child as the focus widget of the window that it has left
     QWidget *focused = widget->window()->focusWidget();
     if (focused && widget->isAncestorOf(focused)) {
         focused->clearFocus();
@@ -123,7 +123,7 @@ void World::overwriteProperty(QObject *object)
         value = anyAddress();
         break;
     case 1: {
-        // of another widget, or of the wrong one of its own
+        // the address of a child, but not of the one that the property means
         const QObjectList &children = object->children();
         if (!children.isEmpty()) {
             value = reinterpret_cast<qulonglong>(m_dice.pick(children));
@@ -155,10 +155,10 @@ void World::setHugeText(QWidget *widget)
 
 void World::showTip(QWidget *widget)
 {
-    // When Qt makes the tip's window, the offscreen platform first handles what has been waiting: a
-    // window is activated, a line in another loses the focus, and its slots run. If they delete the
-    // tip, which is a child of the widget, or ask for another, which takes its place, then Qt goes
-    // on with what is gone, as it does in a program of Qt's own widgets alone.
+    // When Qt creates the tip's window, the offscreen platform first delivers pending events: a
+    // window is activated, a line edit in another loses the focus, and slots run. If they delete
+    // the tip, which is a child of the widget, or show another tip, Qt uses a dangling pointer, as
+    // it does in a program that has widgets of Qt's only.
     if (m_isShowingTip) {
         return;
     }

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** Qt's own widgets stand being deleted in few of their signals; the library's in all. */
+/** Whether the sender survives its deletion in a slot; Qt's widgets do so for few signals. */
 bool standsDeletion(const QMetaMethod &signal)
 {
     const QByteArray className = signal.enclosingMetaObject()->className();
@@ -17,14 +17,14 @@ bool standsDeletion(const QMetaMethod &signal)
         || (className == "QAbstractButton" && signal.name() == "clicked");
 }
 
-/** Whether it is what a widget is made of, as Qt's own are; the library's helpers are not. */
+/** Whether an object is a part that its widget relies on, as Qt's widgets rely on theirs. */
 bool isPart(const QObject *object)
 {
     return object->inherits("QLayout") || object->inherits("QLabel")
         || (object->parent() && object->parent()->inherits("OlvLineEdit"));
 }
 
-/** Whether the library tells of it; Qt tells in the midst of what it does to a widget. */
+/** Whether the library sends the update; Qt sends its own while it still changes the widget. */
 bool isOwn(const QAccessibleEvent &update)
 {
     const QObject *object = update.object();
@@ -75,9 +75,9 @@ void World::hear(const QAccessibleEvent &update)
     ++m_depth;
     ++m_strikes;
     if (m_dice.oneIn(8)) {
-        Assistant::setActive(m_dice.coin());
+        StormAssistant::setActive(m_dice.coin());
     } else if (isOwn(update) && m_isOverwriting && !m_isDying) {
-        // out of the event of a property that the storm has just written: no one is at work in it
+        // the update comes from a property that the storm has written, so that no widget is at work
         m_isOverwriting = false;
         strikeFrom(update.object());
     } else {
@@ -85,7 +85,8 @@ void World::hear(const QAccessibleEvent &update)
         if (isOwn(update)) {
             strikeGently();
         } else if (QWidget *other = anyWidget()) {
-            // where Qt is about to move it elsewhere, it must not get the focus, nor a parent
+            // Qt may be about to reparent the widget, which must get neither the focus nor a parent
+            // now
             if (m_dice.coin()) {
                 overwriteProperty(other);
             } else {
@@ -113,7 +114,7 @@ void World::strikeGently()
         m_family->call(*this, other);
         break;
     case 3:
-        // a parent would be drawn, or shown, with what is left of its child
+        // the parent would be painted, or shown, with a child that is half destroyed
         if (!m_isDying) {
             step();
         }

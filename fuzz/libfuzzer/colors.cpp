@@ -89,7 +89,7 @@ void writeString(FuzzInput &input)
 
 int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 {
-    // Qt warns of each number out of range
+    // Qt warns about each number that is out of range
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     return 0;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "fakeshortcut.h"
 #include "fuzztarget.h"
+#include "shortcutstandin.h"
 
 #include <OlvWidgets/input.h>
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-/** What the field does with keys, by its documentation. */
+/** The documented behaviour of the field, implemented a second time. */
 class Model
 {
 public:
@@ -46,7 +46,7 @@ public:
         return isMade;
     }
 
-    /** The key of the shortcut; an event may carry a number that is none. */
+    /** The key of the shortcut; Qt::Key_unknown for a number that is no key. */
     int key() const
     {
         return m_key < 0 || m_key > Qt::Key_unknown ? int(Qt::Key_unknown) : m_key;
@@ -54,7 +54,7 @@ public:
 
     QString text() const
     {
-        return FakeShortcut::textOf(key(), m_held[0], m_held[1], m_held[2], m_held[3]);
+        return ShortcutStandIn::textOf(key(), m_held[0], m_held[1], m_held[2], m_held[3]);
     }
 
 private:
@@ -106,14 +106,14 @@ int keyOf(FuzzInput &input)
 
 void send(OlvShortcutEdit &edit, QEvent::Type type, int key, int modifiers, bool isRepeat)
 {
-    // what the event says of the modifiers does not count, only the keys do
+    // the field must ignore the event's modifiers
     QKeyEvent event(type, key, Qt::KeyboardModifiers(modifiers << 25), QString(), isRepeat);
     QCoreApplication::sendEvent(&edit, &event);
 }
 
 } // namespace
 
-// the stand-in has the same name as what it stands for
+// the stand-in defines the class that the library defines as well
 // NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer looks for this name
 extern "C" const char *__asan_default_options();
 extern "C" __attribute__((visibility("default"))) const char *__asan_default_options()
@@ -125,7 +125,7 @@ extern "C" __attribute__((visibility("default"))) const char *__asan_default_opt
 int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // left standing: it lasts as long as the program
+    // never deleted, since it is needed until the program ends
     new QApplication(*argc, *argv);
     return 0;
 }
@@ -140,7 +140,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QString expected = QStringLiteral("nullptr");
     QStringList told;
     const int refused = keyOf(input);
-    FakeShortcut::refuse(refused);
+    ShortcutStandIn::refuse(refused);
     while (!input.isEmpty()) {
         const int action = input.byte();
         switch (action % 8) {
@@ -177,11 +177,11 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         const bool isHeld = expected != QLatin1String("nullptr");
         require(edit.getValue() == QVariant(expected), "the value");
         require((edit.shortcut() != nullptr) == isHeld, "whether one is held");
-        require(FakeShortcut::living() == (isHeld ? 1 : 0), "one lives, or none");
+        require(ShortcutStandIn::living() == (isHeld ? 1 : 0), "one lives, or none");
         require(edit.property("HasOlvShortcut") == QVariant(isHeld), "the property");
         require(heard.told == told, "the signals");
     }
     owned.reset();
-    require(FakeShortcut::living() == 0, "none outlives the field");
+    require(ShortcutStandIn::living() == 0, "none outlives the field");
     return 0;
 }

@@ -9,7 +9,7 @@
 
 #include <array>
 
-/** The documentation's rules, done over in the plainest way. */
+/** The documented rules, implemented a second time in the simplest way. */
 namespace Plain {
 
 bool isDigit(QChar character)
@@ -123,18 +123,18 @@ const QFont &fontOf(int choice)
                                    QFont(QStringLiteral("DejaVu Sans")) };
         made.back().setPixelSize(13);
         for (size_t i = 1; i < made.size(); ++i) {
-            // Qt looks through every font for a character that is in none, each time
+            // Qt would search all fonts each time for a character that none has
             made[i].setStyleStrategy(QFont::NoFontMerging);
         }
         return made;
     }();
-    // the first, which looks through the others, is as slow as all the rest
+    // the first one searches the other fonts, and takes as long as all the rest
     return fonts[choice == 0 ? 0 : 1 + size_t(choice) % (fonts.size() - 1)];
 }
 
 /**
- * Has Qt measure every character. It gives the advance of an unprintable one differently before and
- * after it has looked through the other fonts for some character: what is compared comes after.
+ * Has Qt measure every character. The advance of an unprintable one changes once Qt has searched
+ * the other fonts for a character, so that the comparison has to come after that.
  */
 void settle(const QString &text, const QFont &font)
 {
@@ -165,7 +165,7 @@ int lengthOf(FuzzInput &input)
 int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // left standing: it lasts as long as the program
+    // never deleted, since it is needed until the program ends
     new QGuiApplication(*argc, *argv);
     return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fakeshortcut.h"
+#include "shortcutstandin.h"
 
 #include <OlvSystemInfo/shortcut.h>
 
@@ -17,29 +17,36 @@ int refusedKey = -1;
 
 } // namespace
 
-int FakeShortcut::living()
+class OlvShortcut::Private
+{
+public:
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+};
+
+int ShortcutStandIn::living()
 {
     return all().size();
 }
 
-void FakeShortcut::refuse(int key)
+void ShortcutStandIn::refuse(int key)
 {
     refusedKey = key;
 }
 
-QString FakeShortcut::textOf(int key, bool ctrl, bool shift, bool alt, bool meta)
+QString ShortcutStandIn::textOf(int key, bool ctrl, bool shift, bool alt, bool meta)
 {
     return QStringLiteral("%1 %2%3%4%5").arg(key).arg(ctrl).arg(shift).arg(alt).arg(meta);
 }
 
 OlvShortcut::OlvShortcut(Qt::Key key, bool ctrl, bool shift, bool alt, bool meta, QObject *parent)
     : QObject(parent)
-    , m_key(key)
+    , d(new Private{ key, {} })
 {
-    m_modifiers.setFlag(Qt::ControlModifier, ctrl);
-    m_modifiers.setFlag(Qt::ShiftModifier, shift);
-    m_modifiers.setFlag(Qt::AltModifier, alt);
-    m_modifiers.setFlag(Qt::MetaModifier, meta);
+    d->modifiers.setFlag(Qt::ControlModifier, ctrl);
+    d->modifiers.setFlag(Qt::ShiftModifier, shift);
+    d->modifiers.setFlag(Qt::AltModifier, alt);
+    d->modifiers.setFlag(Qt::MetaModifier, meta);
     all().insert(this);
 }
 
@@ -50,16 +57,16 @@ OlvShortcut::~OlvShortcut()
 
 bool OlvShortcut::active()
 {
-    return int(m_key) != refusedKey;
+    return int(d->key) != refusedKey;
 }
 
 void OlvShortcut::destroy() { }
 
 QString OlvShortcut::toString()
 {
-    return FakeShortcut::textOf(int(m_key), m_modifiers & Qt::ControlModifier,
-                                m_modifiers & Qt::ShiftModifier, m_modifiers & Qt::AltModifier,
-                                m_modifiers & Qt::MetaModifier);
+    return ShortcutStandIn::textOf(int(d->key), d->modifiers & Qt::ControlModifier,
+                                   d->modifiers & Qt::ShiftModifier, d->modifiers & Qt::AltModifier,
+                                   d->modifiers & Qt::MetaModifier);
 }
 
 OlvShortcut *OlvShortcut::fromAddress(qulonglong address)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "assistant.h"
+#include "stormassistant.h"
 
 #include "dice.h"
 #include "storm.h"
@@ -14,9 +14,9 @@
 
 namespace {
 
-Assistant::Listener &listener()
+StormAssistant::Listener &listener()
 {
-    static Assistant::Listener one;
+    static StormAssistant::Listener one;
     return one;
 }
 
@@ -25,7 +25,7 @@ void hear(QAccessibleEvent *event)
     listener()(*event);
 }
 
-/** Whether the interface is one of a class of the library's, or of Qt's for it. */
+/** Whether the interface belongs to a widget of the library. */
 bool isOwn(const QAccessibleInterface *interface)
 {
     const QObject *object = interface->object();
@@ -34,7 +34,7 @@ bool isOwn(const QAccessibleInterface *interface)
 
 } // namespace
 
-Assistant::Assistant(Dice &dice, Listener listening)
+StormAssistant::StormAssistant(Dice &dice, Listener listening)
     : m_dice(dice)
 {
     listener() = std::move(listening);
@@ -42,18 +42,18 @@ Assistant::Assistant(Dice &dice, Listener listening)
     setActive(m_dice.coin());
 }
 
-Assistant::~Assistant()
+StormAssistant::~StormAssistant()
 {
     setActive(false);
     QAccessible::installUpdateHandler(nullptr);
 }
 
-void Assistant::setActive(bool active)
+void StormAssistant::setActive(bool active)
 {
     QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(active);
 }
 
-void Assistant::ask(QWidget *widget)
+void StormAssistant::ask(QWidget *widget)
 {
     if (m_dice.oneIn(64)) {
         setActive(m_dice.coin());
@@ -96,7 +96,7 @@ void Assistant::ask(QWidget *widget)
     }
 }
 
-QAccessibleInterface *Assistant::reach(QAccessibleInterface *interface)
+QAccessibleInterface *StormAssistant::reach(QAccessibleInterface *interface)
 {
     while (interface && m_dice.oneIn(3)) {
         switch (m_dice.below(5)) {
@@ -114,7 +114,7 @@ QAccessibleInterface *Assistant::reach(QAccessibleInterface *interface)
             break;
         }
         default:
-            // Qt's own menus have no look at what is below the first
+            // the interfaces of Qt's menus do not check for a negative index
             interface = interface->child(m_dice.coin() || !isOwn(interface)
                                              ? m_dice.below(interface->childCount())
                                              : m_dice.number());
@@ -123,7 +123,7 @@ QAccessibleInterface *Assistant::reach(QAccessibleInterface *interface)
     return interface;
 }
 
-void Assistant::look(QAccessibleInterface *interface)
+void StormAssistant::look(QAccessibleInterface *interface)
 {
     Storm::check(interface->isValid() != interface->state().invalid,
                  "an interface that is valid says so");
@@ -149,7 +149,7 @@ void Assistant::look(QAccessibleInterface *interface)
     }
 }
 
-void Assistant::lookAtChildren(QAccessibleInterface *interface)
+void StormAssistant::lookAtChildren(QAccessibleInterface *interface)
 {
     if (!isOwn(interface)) {
         return;
@@ -164,23 +164,23 @@ void Assistant::lookAtChildren(QAccessibleInterface *interface)
     Storm::check(interface->indexOfChild(interface) == -1, "nothing is its own child");
 }
 
-void Assistant::write(QAccessibleInterface *interface)
+void StormAssistant::write(QAccessibleInterface *interface)
 {
     interface->setText(QAccessible::Text(m_dice.between(QAccessible::Name, QAccessible::UserText)),
                        m_dice.text());
 }
 
-void Assistant::act(QAccessibleActionInterface *actions)
+void StormAssistant::act(QAccessibleActionInterface *actions)
 {
     const QStringList names = actions->actionNames();
     actions->doAction(names.isEmpty() || m_dice.oneIn(8) ? m_dice.text() : m_dice.pick(names));
 }
 
-void Assistant::turn(QAccessibleValueInterface *value, bool isOwn)
+void StormAssistant::turn(QAccessibleValueInterface *value, bool isOwn)
 {
     if (m_dice.coin()) {
         value->setCurrentValue(m_dice.variant());
-        return; // whoever hears of that may delete it
+        return; // a slot may have deleted the widget, and the interface with it
     }
     const QVariant now = value->currentValue();
     Storm::check(
@@ -192,7 +192,7 @@ void Assistant::turn(QAccessibleValueInterface *value, bool isOwn)
                  "a value goes from 0 to 100 in steps of 1");
 }
 
-void Assistant::read(QAccessibleTextInterface *text, bool isOwn)
+void StormAssistant::read(QAccessibleTextInterface *text, bool isOwn)
 {
     const int count = text->characterCount();
     const int one = offset(count);
@@ -228,7 +228,7 @@ void Assistant::read(QAccessibleTextInterface *text, bool isOwn)
         text->textAfterOffset(one, boundary, &start, &end);
         break;
     case 8:
-        // Qt's own looks for the end of a word for ever, when it is asked for one at the end
+        // Qt's text interfaces loop endlessly when asked for the word at the end of a text
         if (isOwn) {
             text->textAtOffset(one, boundary, &start, &end);
         }
@@ -247,10 +247,10 @@ void Assistant::read(QAccessibleTextInterface *text, bool isOwn)
     }
 }
 
-void Assistant::edit(QAccessibleEditableTextInterface *text)
+void StormAssistant::edit(QAccessibleEditableTextInterface *text)
 {
-    // Qt's, which fills a line with blanks up to any offset, for as long as there is memory, and
-    // reads beyond its text where the end lies before the start
+    // Qt's text interfaces fill a line with blanks up to any offset until memory runs out, and
+    // read beyond the text where the end lies before the start
     const auto [one, two] = std::minmax({ m_dice.below(300), m_dice.below(300) });
     switch (m_dice.below(3)) {
     case 0:
@@ -264,7 +264,7 @@ void Assistant::edit(QAccessibleEditableTextInterface *text)
     }
 }
 
-int Assistant::offset(int count)
+int StormAssistant::offset(int count)
 {
     return m_dice.coin() ? m_dice.number() : m_dice.between(-1, count + 1);
 }

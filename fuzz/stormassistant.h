@@ -9,26 +9,26 @@ class Dice;
 class QWidget;
 
 /**
- * A program that looks at this one through its accessibility: it asks anything of the interfaces,
- * with hostile arguments, has them do whatever they offer, and hears of the changes. One at a time.
+ * Acts as an assistive program that is hostile: it asks the accessible interfaces for anything,
+ * with any arguments, triggers their actions, and is told of changes. Only one may exist at a time.
  */
-class Assistant
+class StormAssistant
 {
 public:
     using Listener = std::function<void(const QAccessibleEvent &)>;
 
-    /** @p listener is called with each update that is told, in the midst of the change. */
-    Assistant(Dice &dice, Listener listener);
-    ~Assistant();
+    /** @p listener is called with each update, while the change is still being made. */
+    StormAssistant(Dice &dice, Listener listener);
+    ~StormAssistant();
 
-    /** Switches accessibility on or off, as the desktop does when somebody begins to look. */
+    /** Switches accessibility on or off, as the desktop does for an assistive program. */
     static void setActive(bool active);
 
-    /** Asks the interface of @p widget, or one beside it, for one thing; which may delete it. */
+    /** Does one thing with the interface of @p widget, or a related one; that may delete it. */
     void ask(QWidget *widget);
 
 private:
-    Q_DISABLE_COPY(Assistant)
+    Q_DISABLE_COPY(StormAssistant)
 
     QAccessibleInterface *reach(QAccessibleInterface *interface);
     void look(QAccessibleInterface *interface);
