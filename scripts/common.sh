@@ -8,7 +8,7 @@ export LC_ALL=${LC_ALL:-C.UTF-8}
 
 build_packages=(
     cmake g++ make ninja-build pkg-config qtbase5-dev qt5-qmake
-    libxcb1-dev libxcb-keysyms1-dev libxkbcommon-dev
+    libxcb1-dev libxcb-xkb-dev libxkbcommon-dev libxkbcommon-x11-dev
     fonts-font-awesome fonts-wqy-zenhei fonts-dejavu-core
 )
 bench_packages=(libbenchmark-dev python3 python3-matplotlib valgrind)
@@ -17,7 +17,8 @@ display_packages=(xvfb openbox x11-utils)
 # what scripts/pictures needs besides
 picture_packages=(optipng xdotool imagemagick picom hsetroot)
 test_packages=(
-    "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl libxcb-xtest0-dev
+    "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl
+    libxcb-keysyms1-dev libxcb-xtest0-dev
     qtbase5-private-dev libqt5sql5-sqlite at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     qttools5-dev qttools5-dev-tools dpkg-dev
     abigail-tools python3 doxygen

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "x11backend_p.h"
 
+#include "xcbxkb_p.h"
+
 #include <OlvSystemInfo/shortcut.h>
 
 #include <QSocketNotifier>
 
+#include <xkbcommon/xkbcommon-x11.h>
+
+#include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 namespace {
 
@@ -21,7 +27,7 @@ X11Backend::X11Backend(QObject *parent)
     : QObject(parent)
     , m_connection(xcb_connect(nullptr, nullptr))
 {
-    if (xcb_connection_has_error(m_connection)) {
+    if (xcb_connection_has_error(m_connection) || !setUpKeyboard()) {
         return;
     }
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
@@ -48,7 +54,7 @@ bool X11Backend::grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers 
     if (registered != m_registrations.cend() && !registered->keys.isEmpty()) {
         return true;
     }
-    const QVector<X11Key> keys = m_keymap->keysOf(key, modifiers);
+    const QVector<X11Key> keys = m_keymap->find(key, modifiers).keys;
     readEventsSoon();
     // The server would grant this connection the same keys again, and letting go of either would
     // let go of both.
@@ -66,6 +72,35 @@ void X11Backend::release(OlvShortcut *shortcut)
         ungrabKeys(registration.keys);
         readEventsSoon();
     }
+}
+
+/** Has the server tell of changes of the keyboard's mapping and of its group. */
+bool X11Backend::setUpKeyboard()
+{
+    if (!xkb_x11_setup_xkb_extension(
+            m_connection, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+            XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, &m_keyboardEvent, nullptr)) {
+        return false;
+    }
+    constexpr quint16 events = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY
+        | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
+    constexpr quint16 mapParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS
+        | XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_VIRTUAL_MODS
+        | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+    xcb_xkb_select_events_details_t details = {};
+    details.affectNewKeyboard = XCB_XKB_NKN_DETAIL_KEYCODES;
+    details.newKeyboardDetails = XCB_XKB_NKN_DETAIL_KEYCODES;
+    details.affectState = XCB_XKB_STATE_PART_GROUP_STATE;
+    details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
+    xcb_xkb_select_events_aux(m_connection, XCB_XKB_ID_USE_CORE_KBD, events, 0, 0, mapParts,
+                              mapParts, &details);
+    // Without this, a group that a held key sets stands among the modifiers of the events.
+    constexpr quint32 flags = XCB_XKB_PER_CLIENT_FLAG_GRABS_USE_XKB_STATE;
+    std::free(xcb_xkb_per_client_flags_reply(
+        m_connection,
+        xcb_xkb_per_client_flags(m_connection, XCB_XKB_ID_USE_CORE_KBD, flags, flags, 0, 0, 0),
+        nullptr));
+    return true;
 }
 
 bool X11Backend::isAlive()
@@ -180,8 +215,24 @@ void X11Backend::handleEvent(const xcb_generic_event_t *event, Activations *acti
         m_mappingChanged = true;
         break;
     default:
+        if (typeOf(event) == m_keyboardEvent) {
+            handleKeyboardChange(event);
+        }
         break;
     }
+}
+
+void X11Backend::handleKeyboardChange(const xcb_generic_event_t *event)
+{
+    // What the events of the extension have in common; the kind of event stands in the second byte.
+    if (event->pad0 != XCB_XKB_STATE_NOTIFY) {
+        m_mappingChanged = true;
+        return;
+    }
+    const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
+    m_keymap->setGroup(state->group);
+    // The presses that come after it in the queue are those of the new group.
+    moveRegistrations();
 }
 
 void X11Backend::handlePress(const xcb_key_press_event_t *press, Activations *activations)
@@ -204,22 +255,36 @@ void X11Backend::handlePress(const xcb_key_press_event_t *press, Activations *ac
 void X11Backend::followMapping()
 {
     m_keymap = std::make_unique<X11Keymap>(m_connection);
+    moveRegistrations();
+}
+
+/** Grabs anew what the keymap has on other keys than before. */
+void X11Backend::moveRegistrations()
+{
+    struct Move
+    {
+        Registration *registration;
+        X11Keymap::Match match;
+    };
+    std::vector<Move> moves;
     const QVector<quint16> locks = m_keymap->lockCombinations();
     // All that move let go before any takes: a key may go from one combination to another.
-    QVector<OlvShortcut *> moved;
-    for (auto it = m_registrations.begin(); it != m_registrations.end(); ++it) {
-        if (locks != m_locks || it->keys != m_keymap->keysOf(it->key, it->modifiers)) {
-            ungrabKeys(it->keys);
-            it->keys.clear();
-            moved.append(it.key());
+    for (Registration &registration : m_registrations) {
+        const X11Keymap::Match match = m_keymap->find(registration.key, registration.modifiers);
+        // A combination that has its keys from another group may have to leave them to one of this
+        // group, so that it moves in any case.
+        if (locks != m_locks || registration.keys != match.keys || !match.isInGroup) {
+            ungrabKeys(registration.keys);
+            registration.keys.clear();
+            moves.push_back({ &registration, match });
         }
     }
     m_locks = locks;
-    for (OlvShortcut *shortcut : qAsConst(moved)) {
-        Registration &registration = m_registrations[shortcut];
-        const QVector<X11Key> keys = m_keymap->keysOf(registration.key, registration.modifiers);
-        if (isFree(keys) && grabKeys(keys)) {
-            registration.keys = keys;
+    std::stable_partition(moves.begin(), moves.end(),
+                          [](const Move &move) { return move.match.isInGroup; });
+    for (const Move &move : moves) {
+        if (isFree(move.match.keys) && grabKeys(move.match.keys)) {
+            move.registration->keys = move.match.keys;
         }
     }
 }

@@ -33,11 +33,12 @@ private:
     {
         Qt::Key key;
         Qt::KeyboardModifiers modifiers;
-        /** Empty while the layout lacks the key, or another program has taken it. */
+        /** Empty while no layout has the key, or another has taken it. */
         QVector<X11Key> keys;
     };
     using Activations = QVector<QPointer<OlvShortcut>>;
 
+    bool setUpKeyboard();
     bool isAlive();
     bool grabKeys(const QVector<X11Key> &keys);
     void ungrabKeys(const QVector<X11Key> &keys);
@@ -47,11 +48,15 @@ private:
     void readEventsSoon();
     void handleEvent(const xcb_generic_event_t *event, Activations *activations);
     void handlePress(const xcb_key_press_event_t *press, Activations *activations);
+    void handleKeyboardChange(const xcb_generic_event_t *event);
     void followMapping();
+    void moveRegistrations();
 
     xcb_connection_t *m_connection;
     xcb_window_t m_root = XCB_WINDOW_NONE;
     QSocketNotifier *m_notifier = nullptr;
+    /** The type that all events of the XKB extension have. */
+    quint8 m_keyboardEvent = 0;
     std::unique_ptr<X11Keymap> m_keymap;
     /** The lock modifiers that every key is grabbed with. */
     QVector<quint16> m_locks;

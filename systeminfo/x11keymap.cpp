@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "x11keymap_p.h"
 
+#include "xcbxkb_p.h"
+
 #include <QChar>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
-#include <xkbcommon/xkbcommon.h>
+#include <xkbcommon/xkbcommon-x11.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,14 +14,11 @@
 namespace {
 
 constexpr int modifierCount = 8;
-/** The columns of the core keymap that matter: two groups of a plain and a shifted symbol. */
-constexpr int columnCount = 4;
-constexpr int levelCount = 2;
 
 struct NamedKey
 {
     Qt::Key key;
-    xcb_keysym_t symbol;
+    xkb_keysym_t symbol;
 };
 
 constexpr NamedKey namedKeys[] = {
@@ -56,10 +55,10 @@ constexpr NamedKey namedKeys[] = {
 };
 
 /** The symbol of a named key; none for text keys, and for keys that are no shortcut. */
-xcb_keysym_t symbolOf(Qt::Key key)
+xkb_keysym_t symbolOf(Qt::Key key)
 {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F35) {
-        return xcb_keysym_t(XKB_KEY_F1 + (key - Qt::Key_F1));
+        return xkb_keysym_t(XKB_KEY_F1 + (key - Qt::Key_F1));
     }
     for (const NamedKey &named : namedKeys) {
         if (named.key == key) {
@@ -75,12 +74,12 @@ bool isText(Qt::Key key)
     return key >= Qt::Key_Space && uint(key) <= QChar::LastValidCodePoint;
 }
 
-bool isOnKeypad(xcb_keysym_t symbol)
+bool isOnKeypad(xkb_keysym_t symbol)
 {
     return symbol >= XKB_KEY_KP_Space && symbol <= XKB_KEY_KP_9;
 }
 
-bool gives(xcb_keysym_t symbol, Qt::Key key)
+bool gives(xkb_keysym_t symbol, Qt::Key key)
 {
     if (!isText(key)) {
         return symbol != XKB_KEY_NoSymbol && symbol == symbolOf(key);
@@ -92,11 +91,10 @@ bool gives(xcb_keysym_t symbol, Qt::Key key)
 } // namespace
 
 X11Keymap::X11Keymap(xcb_connection_t *connection)
-    : m_firstCode(xcb_get_setup(connection)->min_keycode)
-    , m_lastCode(xcb_get_setup(connection)->max_keycode)
-    , m_symbols(xcb_key_symbols_alloc(connection))
-    , m_modifierCodes(modifierCount)
+    : m_modifierCodes(modifierCount)
 {
+    readSymbols(connection);
+    readGroup(connection);
     readModifiers(connection);
     m_altMask = maskOf({ XKB_KEY_Alt_L, XKB_KEY_Alt_R }, XCB_MOD_MASK_1);
     m_metaMask = maskOf({ XKB_KEY_Super_L, XKB_KEY_Super_R }, XCB_MOD_MASK_4);
@@ -108,35 +106,34 @@ X11Keymap::X11Keymap(xcb_connection_t *connection)
     }
 }
 
-X11Keymap::~X11Keymap()
+X11Keymap::~X11Keymap() = default;
+
+void X11Keymap::setGroup(int group)
 {
-    xcb_key_symbols_free(m_symbols);
+    m_group = group;
 }
 
-QVector<X11Key> X11Keymap::keysOf(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+X11Keymap::Match X11Keymap::find(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 {
-    QVector<X11Key> keys;
+    if (!m_keymap) {
+        return {};
+    }
     const auto masked = [=](Qt::KeyboardModifier modifier, int mask) {
         return modifiers.testFlag(modifier) ? mask : 0;
     };
-    const int mask = masked(Qt::ShiftModifier, XCB_MOD_MASK_SHIFT)
-        | masked(Qt::ControlModifier, XCB_MOD_MASK_CONTROL) | masked(Qt::AltModifier, m_altMask)
-        | masked(Qt::MetaModifier, m_metaMask);
-    for (int code = m_firstCode; code <= m_lastCode; ++code) {
-        for (int column = 0; column < columnCount; ++column) {
-            const xcb_keysym_t symbol =
-                xcb_key_symbols_get_keysym(m_symbols, xcb_keycode_t(code), column);
-            const bool isShifted = column % levelCount != 0;
-            // what stands shifted on a keypad is chosen by Num Lock, not by Shift
-            if (!gives(symbol, key) || (isShifted && isOnKeypad(symbol))) {
-                continue;
-            }
-            const int shift = isShifted ? XCB_MOD_MASK_SHIFT : 0;
-            keys.append({ xcb_keycode_t(code), quint16(mask | shift) });
-            break;
-        }
+    const auto mask =
+        quint16(masked(Qt::ShiftModifier, XCB_MOD_MASK_SHIFT)
+                | masked(Qt::ControlModifier, XCB_MOD_MASK_CONTROL)
+                | masked(Qt::AltModifier, m_altMask) | masked(Qt::MetaModifier, m_metaMask));
+    QVector<X11Key> keys = keysInGroup(key, mask, m_group);
+    if (!keys.isEmpty()) {
+        return { keys, true };
     }
-    return keys;
+    const int groupCount = int(xkb_keymap_num_layouts(m_keymap.get()));
+    for (int group = 0; group < groupCount && keys.isEmpty(); ++group) {
+        keys = keysInGroup(key, mask, group);
+    }
+    return { keys, false };
 }
 
 QVector<quint16> X11Keymap::lockCombinations() const
@@ -153,7 +150,7 @@ QVector<quint16> X11Keymap::lockCombinations() const
 
 quint16 X11Keymap::withoutLocks(quint16 modifiers) const
 {
-    // the bits above the modifiers are mouse buttons and the group of the layout
+    // The bits above the modifiers are mouse buttons and the group.
     int mask = modifiers & 0xff;
     for (const quint16 lock : m_lockMasks) {
         mask &= ~lock;
@@ -161,21 +158,30 @@ quint16 X11Keymap::withoutLocks(quint16 modifiers) const
     return quint16(mask);
 }
 
-quint16 X11Keymap::maskOf(std::initializer_list<xcb_keysym_t> symbols, quint16 fallback) const
+void X11Keymap::readSymbols(xcb_connection_t *connection)
 {
-    // Shift, Lock and Control have places of their own
-    constexpr int firstFreeModifier = 3;
-    for (int modifier = firstFreeModifier; modifier < modifierCount; ++modifier) {
-        for (const xcb_keycode_t code : m_modifierCodes.at(modifier)) {
-            for (int column = 0; column < columnCount; ++column) {
-                const xcb_keysym_t symbol = xcb_key_symbols_get_keysym(m_symbols, code, column);
-                if (std::find(symbols.begin(), symbols.end(), symbol) != symbols.end()) {
-                    return quint16(1 << modifier);
-                }
-            }
-        }
+    const int device = xkb_x11_get_core_keyboard_device_id(connection);
+    // The mapping comes from the server alone, not from files or the environment.
+    const std::unique_ptr<xkb_context, Unref> context(xkb_context_new(
+        xkb_context_flags(XKB_CONTEXT_NO_DEFAULT_INCLUDES | XKB_CONTEXT_NO_ENVIRONMENT_NAMES)));
+    if (device < 0 || !context) {
+        return;
     }
-    return fallback;
+    m_keymap.reset(xkb_x11_keymap_new_from_device(context.get(), connection, device,
+                                                  XKB_KEYMAP_COMPILE_NO_FLAGS));
+    if (m_keymap) {
+        m_state.reset(xkb_state_new(m_keymap.get()));
+    }
+}
+
+void X11Keymap::readGroup(xcb_connection_t *connection)
+{
+    xcb_xkb_get_state_reply_t *state = xcb_xkb_get_state_reply(
+        connection, xcb_xkb_get_state(connection, XCB_XKB_ID_USE_CORE_KBD), nullptr);
+    if (state) {
+        m_group = state->group;
+    }
+    std::free(state);
 }
 
 void X11Keymap::readModifiers(xcb_connection_t *connection)
@@ -195,4 +201,61 @@ void X11Keymap::readModifiers(xcb_connection_t *connection)
         }
     }
     std::free(reply);
+}
+
+QVector<X11Key> X11Keymap::keysInGroup(Qt::Key key, quint16 modifiers, int group) const
+{
+    QVector<X11Key> keys;
+    const auto isFound = [&](xkb_keycode_t code) {
+        return std::any_of(keys.cbegin(), keys.cend(), [=](X11Key k) { return k.code == code; });
+    };
+    // A key is the same with the modifiers whether it is named by what it gives without any, by
+    // what it gives with Shift, which it then takes, or by what it gives with all of them, as Alt
+    // and Print give SysReq.
+    for (const quint16 held : { quint16(0), quint16(XCB_MOD_MASK_SHIFT), modifiers }) {
+        const bool isShifted = held & XCB_MOD_MASK_SHIFT;
+        xkb_state_update_mask(m_state.get(), held, 0, 0, 0, 0, xkb_layout_index_t(group));
+        for (xkb_keycode_t code = xkb_keymap_min_keycode(m_keymap.get());
+             code <= xkb_keymap_max_keycode(m_keymap.get()); ++code) {
+            const xkb_keysym_t symbol = xkb_state_key_get_one_sym(m_state.get(), code);
+            // What stands shifted on a keypad is chosen by Num Lock, not by Shift.
+            if (gives(symbol, key) && !(isShifted && isOnKeypad(symbol)) && !isFound(code)) {
+                keys.append({ xcb_keycode_t(code), quint16(modifiers | held) });
+            }
+        }
+    }
+    return keys;
+}
+
+bool X11Keymap::hasSymbol(xcb_keycode_t code, std::initializer_list<xkb_keysym_t> symbols) const
+{
+    const xkb_layout_index_t groupCount = xkb_keymap_num_layouts_for_key(m_keymap.get(), code);
+    for (xkb_layout_index_t group = 0; group < groupCount; ++group) {
+        const xkb_level_index_t levelCount =
+            xkb_keymap_num_levels_for_key(m_keymap.get(), code, group);
+        for (xkb_level_index_t level = 0; level < levelCount; ++level) {
+            const xkb_keysym_t *found = nullptr;
+            const int count =
+                xkb_keymap_key_get_syms_by_level(m_keymap.get(), code, group, level, &found);
+            if (std::find_first_of(found, found + count, symbols.begin(), symbols.end())
+                != found + count) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+quint16 X11Keymap::maskOf(std::initializer_list<xkb_keysym_t> symbols, quint16 fallback) const
+{
+    // Shift, Lock and Control have places of their own.
+    constexpr int firstFreeModifier = 3;
+    for (int modifier = firstFreeModifier; m_keymap && modifier < modifierCount; ++modifier) {
+        for (const xcb_keycode_t code : m_modifierCodes.at(modifier)) {
+            if (hasSymbol(code, symbols)) {
+                return quint16(1 << modifier);
+            }
+        }
+    }
+    return fallback;
 }

@@ -5,9 +5,10 @@
 #include <Qt>
 
 #include <xcb/xcb.h>
-#include <xcb/xcb_keysyms.h>
+#include <xkbcommon/xkbcommon.h>
 
 #include <initializer_list>
+#include <memory>
 
 /** A key with modifiers, in the server's numbers: what a passive grab is made of. */
 struct X11Key
@@ -21,18 +22,32 @@ inline bool operator==(X11Key a, X11Key b)
     return a.code == b.code && a.modifiers == b.modifiers;
 }
 
-/** The server's keyboard mapping, as it was when this was made. */
+/**
+ * The server's keyboard mapping, as it was when this was made, with the group (the layout, where
+ * the user has several) that is in effect.
+ */
 class X11Keymap
 {
 public:
+    /** The keys that give a symbol. */
+    struct Match
+    {
+        /** Empty for what no group has, and for what cannot be a shortcut. */
+        QVector<X11Key> keys;
+        /** Whether it is the group in effect that has them, not another. */
+        bool isInGroup = false;
+    };
+
+    /** Reads the mapping and the group; the connection must have its XKB extension set up. */
     explicit X11Keymap(xcb_connection_t *connection);
     ~X11Keymap();
 
+    void setGroup(int group);
     /**
-     * Every key that gives @p key, with the modifiers it takes; empty for keys that the layout
-     * lacks and for those that cannot be a shortcut.
+     * The keys that give @p key, with the modifiers they take: those of the group in effect, or
+     * else of the first group that has any.
      */
-    QVector<X11Key> keysOf(Qt::Key key, Qt::KeyboardModifiers modifiers) const;
+    Match find(Qt::Key key, Qt::KeyboardModifiers modifiers) const;
     /** Every combination of the lock modifiers, none included. */
     QVector<quint16> lockCombinations() const;
     /** The modifiers without those of the lock keys. */
@@ -41,12 +56,34 @@ public:
 private:
     Q_DISABLE_COPY(X11Keymap)
 
-    quint16 maskOf(std::initializer_list<xcb_keysym_t> symbols, quint16 fallback) const;
-    void readModifiers(xcb_connection_t *connection);
+    struct Unref
+    {
+        void operator()(xkb_context *context) const
+        {
+            xkb_context_unref(context);
+        }
+        void operator()(xkb_keymap *keymap) const
+        {
+            xkb_keymap_unref(keymap);
+        }
+        void operator()(xkb_state *state) const
+        {
+            xkb_state_unref(state);
+        }
+    };
 
-    xcb_keycode_t m_firstCode;
-    xcb_keycode_t m_lastCode;
-    xcb_key_symbols_t *m_symbols;
+    void readSymbols(xcb_connection_t *connection);
+    void readGroup(xcb_connection_t *connection);
+    void readModifiers(xcb_connection_t *connection);
+    QVector<X11Key> keysInGroup(Qt::Key key, quint16 modifiers, int group) const;
+    bool hasSymbol(xcb_keycode_t code, std::initializer_list<xkb_keysym_t> symbols) const;
+    quint16 maskOf(std::initializer_list<xkb_keysym_t> symbols, quint16 fallback) const;
+
+    /** Null where the server does not tell the mapping. */
+    std::unique_ptr<xkb_keymap, Unref> m_keymap;
+    /** Made to say what a key gives; not the state of the keyboard. */
+    std::unique_ptr<xkb_state, Unref> m_state;
+    int m_group = 0;
     /** The keycodes of each of the eight modifiers, Shift first. */
     QVector<QVector<xcb_keycode_t>> m_modifierCodes;
     quint16 m_altMask = 0;

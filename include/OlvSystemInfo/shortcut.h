@@ -32,8 +32,9 @@
  *
  * So far it works on X11, where the application runs on Qt's platform "xcb": the combination fires
  * whatever the lock keys (Caps Lock, Num Lock, Scroll Lock) say, follows the keyboard layout when
- * that changes, and fires once for a key that is held. Elsewhere active() answers false. It belongs
- * to the GUI thread.
+ * that changes, and fires once for a key that is held. Where the user has several layouts, it is on
+ * the key of the layout that is in effect, or, if that has no such key, of the first other layout
+ * that has one. Elsewhere active() answers false. It belongs to the GUI thread.
  */
 class OLVSYSTEMINFO_EXPORT OlvShortcut : public QObject
 {
@@ -51,9 +52,9 @@ public:
 
     /**
      * Registers the combination with the desktop and returns whether it is registered: true when it
-     * was already, false when another program, or another object of this one, holds it, when the
-     * keyboard layout has no such key, for keys that cannot be one (0, Qt::Key_unknown, modifiers
-     * and lock keys alone), and where there is no X server.
+     * was already, false when another program, or another object of this one, holds it, when no
+     * layout of the keyboard has such a key, for keys that cannot be one (0, Qt::Key_unknown,
+     * modifiers and lock keys alone), and where there is no X server.
      */
     virtual bool active();
     /** Lets go of the combination; harmless when it is not registered. */

@@ -11,6 +11,8 @@ namespace {
 
 constexpr quint32 symbolCapsLock = 0xffe5;
 constexpr quint32 symbolNumLock = 0xff7f;
+constexpr quint32 symbolAlt = 0xffe9;
+constexpr quint32 symbolPrint = 0xff61;
 
 } // namespace
 
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void firesUnderTheLocks();
     void firesForEachKey_data();
     void firesForEachKey();
+    void firesForWhatAKeyGivesWithAlt();
     void staysSilentForOtherModifiers();
     void followsTheLayout();
     void comesBackWithTheLayoutThatHasTheKey();
@@ -181,6 +184,20 @@ void TestShortcutOnServer::firesForEachKey()
         m_input->releaseKey(symbolShift);
     }
     QTRY_COMPARE(activated.count(), 1);
+}
+
+void TestShortcutOnServer::firesForWhatAKeyGivesWithAlt()
+{
+    // Print gives it where Alt is held
+    OlvShortcut shortcut(Qt::Key_SysReq, true, false, true, false);
+    QSignalSpy activated(&shortcut, &OlvShortcut::activated);
+    QVERIFY(shortcut.active());
+    m_input->pressKey(symbolAlt);
+    pressWithControl(*m_input, symbolPrint);
+    m_input->releaseKey(symbolAlt);
+    QTRY_COMPARE(activated.count(), 1);
+    OlvShortcut withoutAlt(Qt::Key_SysReq, true, false, false, false);
+    QVERIFY(!withoutAlt.active());
 }
 
 void TestShortcutOnServer::staysSilentForOtherModifiers()
