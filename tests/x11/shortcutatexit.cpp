@@ -57,22 +57,22 @@ struct SocketCheck
     QSet<int> before = openSockets();
 };
 
-// Made before main() begins, these are destroyed after everything that the libraries make later.
-std::unique_ptr<OlvShortcut> staticShortcut;
-std::unique_ptr<OlvShortcutEdit> staticEditor;
-QObject staticParent;
+// The statics of these functions are made before everything that the libraries make, and therefore
+// destroyed after it.
 
 int leaveToAStaticPointer(int argc, char **argv)
 {
+    static std::unique_ptr<OlvShortcut> shortcut;
     const QApplication application(argc, argv);
-    staticShortcut.reset(ctrlF5());
-    return isRegistered(staticShortcut.get()) ? 0 : 1;
+    shortcut.reset(ctrlF5());
+    return isRegistered(shortcut.get()) ? 0 : 1;
 }
 
 int leaveToAStaticParent(int argc, char **argv)
 {
+    static QObject parent;
     const QApplication application(argc, argv);
-    return isRegistered(ctrlF5(&staticParent)) ? 0 : 1;
+    return isRegistered(ctrlF5(&parent)) ? 0 : 1;
 }
 
 int leaveToAStaticApplication(int argc, char **argv)
@@ -84,16 +84,18 @@ int leaveToAStaticApplication(int argc, char **argv)
 
 int exitWithAStaticEditor(int argc, char **argv)
 {
+    static std::unique_ptr<OlvShortcutEdit> editor;
     const QApplication application(argc, argv);
-    staticEditor = std::make_unique<OlvShortcutEdit>(new GrantedShortcut);
-    std::exit(staticEditor->shortcut() ? 0 : 1);
+    editor = std::make_unique<OlvShortcutEdit>(new GrantedShortcut);
+    std::exit(editor->shortcut() ? 0 : 1);
 }
 
 int exitOutOfTheEventLoop(int argc, char **argv)
 {
+    static std::unique_ptr<OlvShortcut> shortcut;
     const QApplication application(argc, argv);
-    staticShortcut.reset(ctrlF5());
-    QTimer::singleShot(0, [] { std::exit(isRegistered(staticShortcut.get()) ? 0 : 1); });
+    shortcut.reset(ctrlF5());
+    QTimer::singleShot(0, &application, [] { std::exit(isRegistered(shortcut.get()) ? 0 : 1); });
     return QCoreApplication::exec();
 }
 
@@ -127,17 +129,21 @@ int useItInOneApplicationAfterTheOther(int argc, char **argv)
 
 int useItWhileTheApplicationGoes(int argc, char **argv)
 {
+    static std::unique_ptr<OlvShortcut> shortcut;
     const SocketCheck check;
     QApplication application(argc, argv);
-    staticShortcut.reset(ctrlF5());
-    // in this order: before the library's own clean-up, and after it
-    qAddPostRoutine([] { staticShortcut->active(); });
-    isRegistered(staticShortcut.get());
-    qAddPostRoutine([] { staticShortcut->active(); });
+    shortcut.reset(ctrlF5());
+    // One child is destroyed before what the library has with the application, the other after it.
+    auto *first = new QObject(&application);
+    if (!isRegistered(shortcut.get())) {
+        return 1;
+    }
+    qAddPostRoutine([] { shortcut->active(); });
+    QObject::connect(first, &QObject::destroyed, first, [] { shortcut->active(); });
     auto *last = new QObject(&application);
-    QObject::connect(last, &QObject::destroyed, [] {
-        staticShortcut->active();
-        staticShortcut->destroy();
+    QObject::connect(last, &QObject::destroyed, last, [] {
+        shortcut->active();
+        shortcut->destroy();
     });
     return 0;
 }
