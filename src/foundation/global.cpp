@@ -98,49 +98,55 @@ private:
     int m_running = 0;
 };
 
-std::mutex currentJobsMutex;
-/** The jobs of the application that is alive; null before the first job and after its end. */
-std::shared_ptr<FontJobs> currentJobs;
-
-std::shared_ptr<FontJobs> jobsOfThisApplication()
-{
-    const std::lock_guard<std::mutex> lock(currentJobsMutex);
-    // the jobs that a forked child finds here run in its parent
-    if (!currentJobs || !currentJobs->isOfThisProcess()) {
-        currentJobs = std::make_shared<FontJobs>();
-    }
-    return currentJobs;
-}
-
-void endFontJobs()
-{
-    std::shared_ptr<FontJobs> ending;
-    {
-        const std::lock_guard<std::mutex> lock(currentJobsMutex);
-        ending.swap(currentJobs);
-    }
-    // a forked child has no thread of the jobs that its parent runs: none of them would ever end
-    if (ending && ending->isOfThisProcess()) {
-        ending->stopAll();
-    }
-}
-
-/** Ends the jobs of a program that leaves by exit(), which does not destroy its application. */
-class EndOfProgram
+/** The font jobs of the application that is alive, and the end of those that a program has left. */
+class CurrentFontJobs
 {
 public:
-    EndOfProgram()
+    CurrentFontJobs()
     {
         // Qt makes the statics of its font database here, so that they are destroyed after this
         QFontDatabase::applicationFontFamilies(firstFontId);
     }
-    ~EndOfProgram()
+    ~CurrentFontJobs()
     {
-        endFontJobs();
+        // a program that leaves by exit() does not destroy its application
+        end();
+    }
+
+    static CurrentFontJobs &instance()
+    {
+        static CurrentFontJobs jobs;
+        return jobs;
+    }
+
+    std::shared_ptr<FontJobs> get()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        // the jobs that a forked child finds here run in its parent
+        if (!m_jobs || !m_jobs->isOfThisProcess()) {
+            m_jobs = std::make_shared<FontJobs>();
+        }
+        return m_jobs;
+    }
+
+    void end()
+    {
+        std::shared_ptr<FontJobs> ending;
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            ending.swap(m_jobs);
+        }
+        // a forked child has none of its parent's threads: it would wait for a job that cannot end
+        if (ending && ending->isOfThisProcess()) {
+            ending->stopAll();
+        }
     }
 
 private:
-    Q_DISABLE_COPY(EndOfProgram)
+    Q_DISABLE_COPY(CurrentFontJobs)
+
+    std::mutex m_mutex;
+    std::shared_ptr<FontJobs> m_jobs;
 };
 
 int registerFont(const QString &path)
@@ -158,6 +164,9 @@ void registerFonts(const FontJobs &jobs)
             return;
         }
         const int id = registerFont(QLatin1String("fonts/") + name);
+        if (jobs.mustStop()) {
+            return; // the program may have waited long enough and be destroying its statics
+        }
         OlvGlobal::OlvPluginFonts.insert(fontKey(name), id);
         // Qt's lock does not go to the thread that has waited longest: without a pause this thread
         // would take it again at once, file after file, and the GUI thread would not get it.
@@ -200,9 +209,8 @@ void OlvGlobal::init()
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
         return;
     }
-    static const EndOfProgram endOfProgram;
-    const std::shared_ptr<FontJobs> jobs = jobsOfThisApplication();
-    qAddPostRoutine(endFontJobs);
+    const std::shared_ptr<FontJobs> jobs = CurrentFontJobs::instance().get();
+    qAddPostRoutine([] { CurrentFontJobs::instance().end(); });
     jobs->begin();
     try {
         std::thread(runFontJob, jobs).detach();

@@ -11,6 +11,7 @@
 #include <atomic>
 #include <cerrno>
 #include <memory>
+#include <new>
 
 namespace {
 
@@ -56,12 +57,14 @@ extern "C" Q_DECL_EXPORT int pthread_create(pthread_t *thread, const pthread_att
     if (watching == Watching::Nothing) {
         return next(thread, attributes, routine, argument);
     }
+    auto *counted = new (std::nothrow) Counted{ routine, argument };
+    if (!counted) {
+        return EAGAIN;
+    }
     ++running;
-    auto counted = std::make_unique<Counted>(Counted{ routine, argument });
-    const int error = next(thread, attributes, runCounted, counted.get());
-    if (error == 0) {
-        counted.release(); // runCounted() owns it
-    } else {
+    const int error = next(thread, attributes, runCounted, counted);
+    if (error != 0) {
+        delete counted;
         --running;
     }
     return error;
