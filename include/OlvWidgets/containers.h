@@ -30,10 +30,10 @@ class QScrollBar;
  * - in an ordinary child, its viewport, it grows as high as its content and scrolls with a bar of
  * its own, a sibling of the grid, and with the wheel. "isSubWindow" is false.
  *
- * An empty grid shows "空". The widgets are made as children of the grid, sized and shown by the
- * application; the grid moves them and nothing else, and only delWidget() deletes one. A widget
- * that the application deletes leaves the grid by itself, and its place is taken at the next
- * reflow.
+ * An empty grid shows "空", or its translation. The widgets are made as children of the grid, sized
+ * and shown by the application; the grid moves them and nothing else, and only delWidget() deletes
+ * one. A widget that the application deletes leaves the grid by itself, and its place is taken at
+ * the next reflow.
  *
  * The grid is 100 pixels wide at first, and learns of its parent's size when that changes: where
  * the viewport has its size already, give the grid its width, as here.
@@ -94,6 +94,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    /** Follows another language with the text of an empty grid. */
+    void changeEvent(QEvent *event) override;
     /** Scrolls by 20 units of 25 pixels a notch, not beyond the ends; nothing in a window. */
     void wheelEvent(QWheelEvent *event) override;
 

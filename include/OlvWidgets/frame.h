@@ -157,11 +157,11 @@ public:
  *
  * It acts on no window itself: it tells what was pressed, and its owner acts. It is 25 pixels high,
  * and so is each button wide; the buttons stand at its right end. Their glyphs are characters of
- * the icon font "FontAwesome", 8 points large. The tool tips of the window buttons are Chinese:
- * "悬浮", "置底", "置顶", "最小化", "最大化" ("还原" while it is checked) and "关闭". An
- * application in another language finds the buttons, which are the bar's QPushButton children from
- * the left to the right, and gives them its own; that of the maximise button anew at each
- * changed().
+ * the icon font "FontAwesome", 8 points large. The tool tips of the window buttons are "悬浮",
+ * "置底", "置顶", "最小化", "最大化" ("还原" while it is checked) and "关闭", or what a QTranslator
+ * makes of them, and follow another language. An application that wants others finds the buttons,
+ * which are the bar's QPushButton children from the left to the right, and gives them its own; that
+ * of the maximise button anew at each changed().
  *
  * @code
  * // six glyphs of the window buttons, the one of "restore", one for each tip

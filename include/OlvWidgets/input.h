@@ -131,8 +131,8 @@ private:
  * pressed, Escape and Backspace included; releasing a key that is no modifier makes an OlvShortcut
  * of what was noted, and setShortcut() takes it. Modifiers alone make none. The shortcut is shown
  * as text; a combination that cannot be had leaves the one before in place, without a signal. The
- * tool tip is Chinese at first, "请直接在键盘上输入新的快捷键" (press the new shortcut on the
- * keyboard).
+ * tool tip is "请直接在键盘上输入新的快捷键" (press the new shortcut on the keyboard) at first, or
+ * what a QTranslator makes of it, and follows another language.
  *
  * The value is read as a string, the text of the shortcut or "nullptr" where there is none, but set
  * as an address: see setValue(). Three dynamic properties are the library's own: "HasOlvShortcut"
@@ -201,6 +201,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     /** Forgets a modifier, or makes a shortcut of the keys that were noted. */
     void keyReleaseEvent(QKeyEvent *event) override;
+    /** Follows another language with its tool tip, unless the application has set one. */
+    void changeEvent(QEvent *event) override;
     /** Draws the frame, dark while the field has the focus, and the text of the shortcut. */
     void paintEvent(QPaintEvent *event) override;
 

@@ -90,8 +90,9 @@ QString AccessibleGlyphButton::ownName() const
     if (!own || !own->toolTip().isEmpty()) {
         return own ? SpokenText::plain(own->toolTip()) : QString();
     }
-    return qobject_cast<OlvLineEdit *>(own->parentWidget()) ? QStringLiteral("显示密码")
-                                                            : withoutMnemonic(own->text());
+    return qobject_cast<OlvLineEdit *>(own->parentWidget())
+        ? QCoreApplication::translate("OlvLineEdit", "显示密码")
+        : withoutMnemonic(own->text());
 }
 
 void AccessibleGlyphButton::click()

@@ -20,7 +20,8 @@ bool ChangeWatcher::eventFilter(QObject *watched, QEvent *event)
     case QEvent::DynamicPropertyChange:
     case QEvent::ToolTipChange:
     case QEvent::WindowTitleChange:
-    case QEvent::ModifiedChange:     // of the window's title
+    case QEvent::ModifiedChange: // of the window's title
+    case QEvent::LanguageChange:
     case QEvent::ParentChange:       // a box with a title, for example
     case QEvent::Show:               // a label may have come meanwhile
         m_accessible->tellChanges(); // after which this may be gone

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/containers.h>
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QScrollBar>
@@ -87,6 +88,11 @@ template <typename Child> Child *named(const QPointer<QObject> &child, const QVa
     return isNamed ? qobject_cast<Child *>(child.data()) : nullptr;
 }
 
+QString emptyText()
+{
+    return QCoreApplication::translate("OlvGridLayout", "空");
+}
+
 } // namespace
 
 class OlvGridLayout::Private
@@ -103,6 +109,7 @@ public:
     QList<QWidget *> tiles;
     uint departures = 0; // how many tiles have left the list so far
     QPointer<QObject> emptyLabel;
+    QString emptyText; // as the grid has set it
     QPointer<QObject> scrollBar;
     QPointer<QObject> resizeTimer;
     int viewHeight = 0;
@@ -115,7 +122,8 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     if (parent) {
         d->viewHeight = parent->height();
     }
-    auto *label = new QLabel(QStringLiteral("空"), this);
+    d->emptyText = emptyText();
+    auto *label = new QLabel(d->emptyText, this);
     label->setFont(QFont(QStringLiteral("楷体"), emptyPointSize));
     label->resize(size());
     label->setAlignment(Qt::AlignCenter);
@@ -251,6 +259,16 @@ bool OlvGridLayout::eventFilter(QObject *watched, QEvent *event)
         resized();
     }
     return QObject::eventFilter(watched, event);
+}
+
+void OlvGridLayout::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    QLabel *label = d->label();
+    if (event->type() == QEvent::LanguageChange && label && label->text() == d->emptyText) {
+        d->emptyText = emptyText();
+        label->setText(d->emptyText);
+    }
 }
 
 void OlvGridLayout::wheelEvent(QWheelEvent *event)

@@ -30,12 +30,12 @@ struct WindowButton
 };
 
 constexpr std::array<WindowButton, 6> windowButtons{ {
-    { OlvControlBar::Float, "悬浮" },
-    { OlvControlBar::Bottom, "置底" },
-    { OlvControlBar::Top, "置顶" },
-    { OlvControlBar::Min, "最小化" },
-    { OlvControlBar::Max, "最大化" },
-    { OlvControlBar::Close, "关闭" },
+    { OlvControlBar::Float, QT_TRANSLATE_NOOP("OlvControlBar", "悬浮") },
+    { OlvControlBar::Bottom, QT_TRANSLATE_NOOP("OlvControlBar", "置底") },
+    { OlvControlBar::Top, QT_TRANSLATE_NOOP("OlvControlBar", "置顶") },
+    { OlvControlBar::Min, QT_TRANSLATE_NOOP("OlvControlBar", "最小化") },
+    { OlvControlBar::Max, QT_TRANSLATE_NOOP("OlvControlBar", "最大化") },
+    { OlvControlBar::Close, QT_TRANSLATE_NOOP("OlvControlBar", "关闭") },
 } };
 
 QString actionStyleSheet()
@@ -133,7 +133,8 @@ void OlvControlBar::addCustomButton(const QList<QChar> &icons, int index, const 
 void OlvControlBar::addWindowButton(const QList<QChar> &icons, int index)
 {
     const WindowButton &kind = windowButtons[size_t(index)];
-    QPushButton *button = addButton(icons, index, index, QString::fromUtf8(kind.tip));
+    auto *button = static_cast<ControlBarButton *>(addButton(icons, index, index, QString()));
+    button->setOwnToolTip(kind.tip);
     switch (kind.state) {
     case Float:
     case Bottom:
@@ -180,5 +181,7 @@ void OlvControlBar::tellMaximised(QPushButton *button)
     if (!guarded) { // the new text was told, and a listener may have deleted the button
         return;
     }
-    button->setToolTip(checked ? QStringLiteral("还原") : QStringLiteral("最大化"));
+    static_cast<ControlBarButton *>(button)->setOwnToolTip(
+        checked ? QT_TRANSLATE_NOOP("OlvControlBar", "还原")
+                : QT_TRANSLATE_NOOP("OlvControlBar", "最大化"));
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "support/accessibility_p.h"
+#include "support/owntooltip_p.h"
 
+#include <QEvent>
 #include <QPushButton>
 
 /**
@@ -17,4 +19,22 @@ public:
     {
         Accessibility::prepare(this);
     }
+
+    /** Sets the tool tip to one of the bar's own texts, which follows the language. */
+    void setOwnToolTip(const char *text)
+    {
+        m_tip.set(this, "OlvControlBar", text);
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QPushButton::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange) {
+            m_tip.retranslate(this);
+        }
+    }
+
+private:
+    OwnToolTip m_tip;
 };

@@ -4,6 +4,7 @@
 #include "input/shortcutcapture_p.h"
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
+#include "support/owntooltip_p.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -29,6 +30,7 @@ class OlvShortcutEdit::Private
 public:
     ShortcutCapture capture;
     QPointer<OlvShortcut> held;
+    OwnToolTip tip;
 };
 
 OlvShortcutEdit::OlvShortcutEdit(QWidget *parent)
@@ -40,7 +42,8 @@ OlvShortcutEdit::OlvShortcutEdit(QWidget *parent)
     setProperty(hasShortcutProperty, false);
     setFocusPolicy(Qt::StrongFocus);
     setProperty(captureProperty, reinterpret_cast<qulonglong>(&d->capture));
-    setToolTip(QStringLiteral("请直接在键盘上输入新的快捷键"));
+    d->tip.set(this, "OlvShortcutEdit",
+               QT_TRANSLATE_NOOP("OlvShortcutEdit", "请直接在键盘上输入新的快捷键"));
 }
 
 OlvShortcutEdit::OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent)
@@ -152,6 +155,14 @@ void OlvShortcutEdit::keyReleaseEvent(QKeyEvent *event)
         && !d->capture.meta && d->capture.key == Qt::Key_unknown;
     if (isEmpty) {
         d->capture.recording = false;
+    }
+}
+
+void OlvShortcutEdit::changeEvent(QEvent *event)
+{
+    OlvWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        d->tip.retranslate(this);
     }
 }
 
