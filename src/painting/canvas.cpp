@@ -15,18 +15,10 @@ bool isWholePixel(qreal position)
     return qAbs(position) <= maxDistance && position == qRound(position);
 }
 
-/** Whether Qt blends in this format as it does in that of the cached pixels. */
-bool isExactFormat(QImage::Format format)
+/** Whether windows, pixmaps and cached pixels have this format. */
+bool isWindowFormat(QImage::Format format)
 {
-    switch (format) {
-    case QImage::Format_RGB32:
-    case QImage::Format_ARGB32_Premultiplied:
-    case QImage::Format_RGB888:
-    case QImage::Format_RGBA8888_Premultiplied:
-        return true;
-    default:
-        return false;
-    }
+    return format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied;
 }
 
 /** Whether pixels are drawn over those of the device as they are: nothing moves or mixes them. */
@@ -50,7 +42,7 @@ const QImage *imageOf(const QPaintEngine *engine)
         return nullptr;
     }
     const auto *image = static_cast<const QImage *>(device);
-    return isExactFormat(image->format()) ? image : nullptr;
+    return isWindowFormat(image->format()) ? image : nullptr;
 }
 
 } // namespace

@@ -19,9 +19,9 @@ public:
     QPainter &painter() const;
     /**
      * The image that the painter draws on, if copying pixels there gives exactly what drawing
-     * gives. Null for any other device, for an image in an unusual format, and when the painter is
-     * not antialiased, transforms by more than whole pixels, clips, is translucent or blends in
-     * another way than by drawing over.
+     * gives. Null for any other device, for an image in another format than windows have, and when
+     * the painter is not antialiased, transforms by more than whole pixels, clips, is translucent
+     * or blends in another way than by drawing over.
      */
     const QImage *copyTarget() const;
 

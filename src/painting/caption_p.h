@@ -4,11 +4,9 @@
 #include "painting/shape_p.h"
 
 #include <QColor>
-#include <QImage>
 #include <QString>
 
 class Canvas;
-class QPainter;
 
 /** What a caption is written on. */
 struct CaptionGround
@@ -21,10 +19,10 @@ struct CaptionGround
 /**
  * A text in the middle of a filled shape, in the largest font that fits, down from a given one.
  *
- * Laying out and blending a short text costs more than all else of a small widget. So, like the
- * shapes, a caption that has been written before is kept as pixels: those that it changed, copied
- * from then on. Only captions are kept that stand where their ground has one opaque colour, and
- * whatever their pixels depend on is compared, so that they are exactly those that QPainter draws.
+ * Laying out and blending a short text costs more than everything else that a small widget paints.
+ * So the pixels of a caption are cached, like those of shapes, if they lie where the ground has one
+ * opaque colour. Everything that they depend on is in the cache's key, so that a copy has exactly
+ * the pixels that QPainter draws.
  */
 struct Caption
 {
@@ -39,16 +37,4 @@ struct Caption
      * afterwards.
      */
     void draw(const Canvas &canvas, const CaptionGround &ground) const;
-
-private:
-    struct Key;
-    class Pixels;
-    class Store;
-
-    bool mayBeKept(const CaptionGround &ground, const QImage &target) const;
-    Key keyOf(const QPainter &painter, const CaptionGround &ground, QImage::Format format) const;
-    void writeAndInsert(QPainter &painter, const CaptionGround &ground, const QImage &target,
-                        Key key) const;
-    /** Returns the point size that fits. */
-    int write(QPainter &painter, const CaptionGround &ground) const;
 };

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -207,24 +206,20 @@ bool Shape::drawCached(const Canvas &canvas, const Key &key) const
 
 bool Shape::isPlain(const QRect &part, int lineWidth) const
 {
-    // a straight side lies between pixels, and the fill reaches up to it in full
-    const int margin = marginOf(lineWidth);
-    const QRect inner = m_rect.adjusted(margin, margin, -margin, -margin);
-    // a rectangle turned inside out contains what lies in between, too
-    if (!inner.isValid() || !inner.contains(part)) {
+    if (!isPositionIndependent(m_rect.size(), m_radius, lineWidth) || !m_rect.contains(part)) {
         return false;
     }
-    // how far the part reaches into a corner, from where its arc begins
-    const double across = qMin<double>(m_radius, m_rect.width() / 2.0);
-    const double down = qMin<double>(m_radius, m_rect.height() / 2.0);
-    const double x = across - qMin(part.left() - m_rect.left(), m_rect.right() - part.right());
-    const double y = down - qMin(part.top() - m_rect.top(), m_rect.bottom() - part.bottom());
-    if (x <= 0 || y <= 0) {
-        return true;
-    }
-    const double innerAcross = across - margin - 1;
-    const double innerDown = down - margin - 1;
-    return innerAcross > 0 && innerDown > 0 && std::hypot(x / innerAcross, y / innerDown) <= 1.0;
+    QImage image(m_rect.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-m_rect.topLeft());
+    painter.setPen(lineWidth > 0 ? QPen(Qt::black, lineWidth) : QPen(Qt::NoPen));
+    painter.setBrush(Qt::white);
+    draw(painter);
+    QImage plain(part.size(), image.format());
+    plain.fill(Qt::white);
+    return image.copy(part.translated(-m_rect.topLeft())) == plain;
 }
 
 void Shape::draw(QPainter &painter) const

@@ -13,10 +13,9 @@ class QPainter;
  * time.
  *
  * Working out which share of each pixel such a shape covers costs more than everything else that a
- * small widget paints. So what has been asked for before is rasterised once and kept for the whole
- * process, and painting it is copying pixels. The pixels are exactly those that QPainter draws:
- * wherever that is not certain (see the sweep in the tests), the shape is drawn directly. Only the
- * thread of the user interface may draw shapes, as it alone may paint widgets.
+ * small widget paints. So the pixels of shapes that are drawn again are cached for the whole
+ * process and copied. A copy has exactly the pixels that QPainter draws; where that is not certain,
+ * the shape is drawn directly. Shapes are drawn in the thread of the user interface only.
  */
 class Shape
 {
@@ -39,8 +38,9 @@ public:
 
     QRect rect() const;
     /**
-     * Whether @p part has the one colour that the shape is filled with, all over: it is clear of
-     * the edge, and of an outline of @p lineWidth pixels.
+     * Whether the shape, filled and with an outline of @p lineWidth pixels if that is not 0, has
+     * the colour of its fill in all pixels of @p part; false also for shapes that cannot be cached.
+     * It draws the shape to find out.
      */
     bool isPlain(const QRect &part, int lineWidth) const;
 

@@ -3,6 +3,7 @@
 #include "shapedrawing.h"
 
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QTest>
 
 namespace {
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void drawsTheVeryPixelsOfEveryRadius();
     void drawsTheVeryPixelsWithinAWidget_data();
     void drawsTheVeryPixelsWithinAWidget();
+    void isPlainWhereItsFillIs();
     void standsEveryRectangle_data();
     void standsEveryRectangle();
 };
@@ -57,9 +59,8 @@ void TestShape::drawsTheVeryPixels_data()
 {
     QTest::addColumn<QImage::Format>("format");
     QTest::addColumn<QRect>("rect");
-    const QList<QImage::Format> formats{ QImage::Format_ARGB32_Premultiplied, QImage::Format_RGB32,
-                                         QImage::Format_RGB888,
-                                         QImage::Format_RGBA8888_Premultiplied };
+    const QList<QImage::Format> formats{ QImage::Format_ARGB32_Premultiplied,
+                                         QImage::Format_RGB32 };
     const QList<QRect> rects{ { 0, 0, 120, 36 },   { 0, 0, 1, 1 },     { 2, 2, 26, 26 },
                               { 15, 10, 170, 10 }, { 3, 3, 13, 14 },   { 0, 0, 57, 200 },
                               { -20, -5, 60, 31 }, { 130, 40, 60, 31 } };
@@ -166,6 +167,37 @@ void TestShape::drawsTheVeryPixelsWithinAWidget()
         });
         COMPARE_PICTURES(actual, expected);
     }
+}
+
+void TestShape::isPlainWhereItsFillIs()
+{
+    QRandomGenerator random(11);
+    int plain = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const QRect rect(2, 2, random.bounded(1, 60), random.bounded(1, 40));
+        const int radius = random.bounded(30);
+        const int lineWidth = random.bounded(4);
+        const Shape shape =
+            random.bounded(4) > 0 ? Shape::roundedRect(rect, radius) : Shape::ellipse(rect);
+        const QRect part(rect.topLeft() + QPoint(random.bounded(-2, 20), random.bounded(-2, 20)),
+                         QSize(random.bounded(1, 40), random.bounded(1, 20)));
+        if (!shape.isPlain(part, lineWidth)) {
+            continue;
+        }
+        ++plain;
+        QImage image(70, 50, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        antialias(painter);
+        shape.fill(Canvas(painter), Qt::red);
+        if (lineWidth > 0) {
+            shape.stroke(Canvas(painter), Qt::green, lineWidth);
+        }
+        QImage expected(part.size(), QImage::Format_RGB32);
+        expected.fill(Qt::red);
+        COMPARE_PICTURES(image.copy(part), expected);
+    }
+    QVERIFY2(plain > 200, QByteArray::number(plain).constData());
 }
 
 void TestShape::standsEveryRectangle_data()

@@ -87,7 +87,8 @@ void TestShapeCopies::drawsDirectlyInOtherFormats_data()
            QImage::Format_ARGB8565_Premultiplied, QImage::Format_RGB555,
            QImage::Format_ARGB4444_Premultiplied, QImage::Format_RGBX8888, QImage::Format_RGBA8888,
            QImage::Format_BGR30, QImage::Format_A2RGB30_Premultiplied, QImage::Format_Grayscale8,
-           QImage::Format_Alpha8, QImage::Format_RGBA64_Premultiplied }) {
+           QImage::Format_Alpha8, QImage::Format_RGBA64_Premultiplied, QImage::Format_RGB888,
+           QImage::Format_RGBA8888_Premultiplied }) {
         QTest::addRow("format %d", int(format)) << format;
     }
 }
