@@ -1,40 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "accessibility/accessibleclickable_p.h"
 
-#include "buttons/buttonsproperties_p.h"
-
-#include <QCoreApplication>
-#include <QMouseEvent>
-#include <QPointer>
-
-namespace {
-
-/** Sends an event of the mouse at the middle of a button, unless that has gone meanwhile. */
-void sendMouse(QWidget *button, QEvent::Type type)
-{
-    if (!button) {
-        return;
-    }
-    const QPoint middle = button->rect().center();
-    const bool isRelease = type == QEvent::MouseButtonRelease;
-    QMouseEvent event(type, middle, button->mapToGlobal(middle), Qt::LeftButton,
-                      isRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(button, &event);
-}
-
-/** Has the pointer come into a button, or leave it. */
-void sendCrossing(QWidget *button, QEvent::Type type)
-{
-    if (!button) {
-        return;
-    }
-    const QPoint middle = button->rect().center();
-    QEnterEvent enter(middle, button->mapTo(button->window(), middle), button->mapToGlobal(middle));
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(button, type == QEvent::Enter ? &enter : &leave);
-}
-
-} // namespace
+#include "buttons/mouseclick_p.h"
 
 AccessibleClickable::AccessibleClickable(QWidget *widget)
     : AccessibleWidget(widget, QAccessible::Button)
@@ -69,14 +36,6 @@ void AccessibleClickable::doAction(const QString &name)
 void AccessibleClickable::clickWithTheMouse()
 {
     const QPointer<QWidget> button(widget());
-    // a release counts only while the pointer is inside
-    const bool isInside = property(ButtonsProperties::hovered).toBool();
-    if (!isInside) {
-        sendCrossing(button, QEvent::Enter);
-    }
-    sendMouse(button, QEvent::MouseButtonPress);
-    sendMouse(button, QEvent::MouseButtonRelease);
-    if (!isInside) {
-        sendCrossing(button, QEvent::Leave);
-    }
+    const bool hasComeIn = MouseClick::press(button);
+    MouseClick::release(button, hasComeIn);
 }
