@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "picture.h"
 
+#include <OlvWidgets/buttons.h>
 #include <OlvWidgets/forms.h>
 #include <OlvWidgets/input.h>
 #include <OlvWidgets/value.h>
 
+#include <QFormLayout>
 #include <QHeaderView>
 #include <QItemEditorFactory>
 #include <QLineEdit>
@@ -12,6 +14,26 @@
 #include <QTableView>
 
 namespace {
+
+std::function<void()> fillFormSupport(QWidget *stage)
+{
+    auto *form = new QWidget(stage);
+    auto *rows = new QFormLayout(form);
+    auto *name = new OlvLineEdit;
+    name->setText(QStringLiteral("Li Wei"));
+    auto *volume = new OlvSlider;
+    auto *shared = new OlvSwitch;
+    rows->addRow(QStringLiteral("&Name:"), name);
+    rows->addRow(QStringLiteral("&Volume:"), volume);
+    rows->addRow(QStringLiteral("&Shared:"), shared);
+    rows->addRow(new OlvButton(QStringLiteral("Save")));
+    new OlvFormSupport(form);
+    form->setGeometry(16, 16, 300, 170);
+    return [=] {
+        volume->setSliderPosition(60);
+        shared->setChecked(true);
+    };
+}
 
 std::function<void()> fillValueDelegate(QWidget *stage)
 {
@@ -50,5 +72,8 @@ std::function<void()> fillValueDelegate(QWidget *stage)
 
 QVector<Picture> formPictures()
 {
-    return { { QStringLiteral("OlvValueDelegate"), { 374, 150 }, fillValueDelegate } };
+    return {
+        { QStringLiteral("OlvFormSupport"), { 332, 202 }, fillFormSupport },
+        { QStringLiteral("OlvValueDelegate"), { 374, 150 }, fillValueDelegate },
+    };
 }

@@ -3,14 +3,102 @@
 
 #include <OlvWidgets/olvwidgets_export.h>
 
+#include <QFlags>
+#include <QObject>
+#include <QSize>
 #include <QStyledItemDelegate>
 
 #include <memory>
 
+class QWidget;
+
 /**
  * @file forms.h
- * Forms and data.
+ * Forms: the library's widgets at home in them, and bound to data.
  */
+
+/**
+ * Makes the library's widgets behave in a form as Qt's own widgets do there.
+ *
+ * @image html OlvFormSupport.png
+ *
+ * It is a child of the form that it serves: a dialog, a page, a group box, a window, or a single
+ * widget of the library. It works on every widget of the library in that form, those that are added
+ * or reparented later too. A widget that leaves the form loses what it was given, and so do all
+ * when the support is deleted: whatever the application has not changed meanwhile is as it was. A
+ * window within the form, such as a dialog, is a form of its own and needs a support of its own.
+ *
+ * @code
+ * auto *form = new QFormLayout(dialog);
+ * form->addRow(tr("&Name:"), new OlvLineEdit(dialog));
+ * form->addRow(tr("&Shared:"), new OlvSwitch(dialog));
+ * form->addRow(new OlvButton(tr("Save"), dialog));
+ * new OlvFormSupport(dialog);
+ * @endcode
+ *
+ * A form that was made with Qt Designer takes the same line, after setupUi() or after
+ * QUiLoader::load().
+ *
+ * Each widget is served by one support: the one on itself or on the nearest of its parents, and of
+ * several on the same widget the one that was made first. When that goes, the next takes over.
+ */
+class OLVWIDGETS_EXPORT OlvFormSupport : public QObject
+{
+public:
+    /** What a form is given; an application takes all of it, or what it needs. */
+    enum Feature {
+        /**
+         * Sizes: a widget in a layout or a splitter gets its naturalSize() as its minimum size, and
+         * the size policy that goes with it, kept up with its font and its caption. What the
+         * application has set, of the minimum in either direction or of the policy, stays.
+         */
+        NaturalSizes = 0x01,
+        /**
+         * The keyboard: each widget is one tab stop, and takes the focus by a click and by the
+         * mnemonic of a label whose buddy it is; an OlvLineEdit hands it on to its text, and its
+         * password button does without it. Space and Enter click a button or a tile; Space alone
+         * flips a switch; the arrows move a slider by 1, Page Up and Page Down by 10, Home and End
+         * to its ends. A key press shows the pressed look and its release clicks; Escape, or losing
+         * the focus in between, takes the press back. All other keys go on to the form. A widget
+         * that the application has given a focus policy keeps it.
+         */
+        Keyboard = 0x02,
+        /** All of the above. */
+        AllFeatures = 0x03,
+    };
+    /** Several features. */
+    Q_DECLARE_FLAGS(Features, Feature)
+
+    /**
+     * A support for @p form, which owns it, with @p features. It does its work at once on what is
+     * in the form, and on what comes later once that is shown. Without a form it does nothing.
+     */
+    explicit OlvFormSupport(QWidget *form = nullptr, Features features = AllFeatures);
+    /** Undoes what it did, as far as the application has not changed it since. */
+    ~OlvFormSupport() override;
+
+    /** What the form is given. */
+    Features features() const;
+    /** Changes what the form is given: undoes what is left out, and does what is new. */
+    void setFeatures(Features features);
+
+    /**
+     * The size that @p widget takes up in a form, from its font and its caption, whether or not it
+     * has a support: the figures that a new widget has in Qt Designer. It is the least size of
+     * those that a layout may make larger. Invalid for a null pointer and for a widget that is none
+     * of the library's.
+     */
+    static QSize naturalSize(const QWidget *widget);
+
+    /** Looks after the form and the widgets in it; consumes the keys that act on a widget. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
 
 /**
  * Lets a QDataWidgetMapper and item views read and write any OlvWidget, through its getValue() and

@@ -7,6 +7,24 @@ AccessibleLineEdit::AccessibleLineEdit(QWidget *edit)
     : AccessibleWidget(edit, QAccessible::Grouping)
 { }
 
+QAccessible::State AccessibleLineEdit::state() const
+{
+    QAccessible::State state = AccessibleWidget::state();
+    // Qt says it of a widget whose focus proxy has the focus, too; but the keyboard is in the text
+    if (isValid() && widget()->focusProxy()) {
+        state.focused = false;
+    }
+    return state;
+}
+
+QAccessibleInterface *AccessibleLineEdit::focusChild() const
+{
+    QWidget *proxy = isValid() ? widget()->focusProxy() : nullptr;
+    return proxy && proxy == editor() && proxy->hasFocus()
+        ? QAccessible::queryAccessibleInterface(proxy)
+        : AccessibleWidget::focusChild();
+}
+
 void AccessibleLineEdit::doAction(const QString &name)
 {
     QLineEdit *text = editor();

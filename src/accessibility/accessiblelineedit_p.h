@@ -14,6 +14,8 @@ class AccessibleLineEdit : public AccessibleWidget
 public:
     explicit AccessibleLineEdit(QWidget *edit);
 
+    QAccessible::State state() const override;
+    QAccessibleInterface *focusChild() const override;
     void doAction(const QString &name) override;
 
 protected:

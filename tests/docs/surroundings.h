@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QDataWidgetMapper>
 #include <QDebug>
+#include <QDialog>
+#include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -214,6 +216,17 @@ public:
     }
     Radio *radio;
     OlvSwitch *toggle;
+};
+
+class Profile : public QDialog
+{
+public:
+    Profile()
+        : dialog(this)
+    {
+#include "OlvFormSupport.inc"
+    }
+    QDialog *dialog;
 };
 
 class Window : public QWidget

@@ -214,6 +214,16 @@ private Q_SLOTS:
         QCOMPARE(tiles.first()->y(), tiles.last()->y());
         QVERIFY(tiles.first()->geometry().right() < tiles.last()->x());
     }
+    void formSupportOpensTheForm()
+    {
+        const Profile profile;
+        const QList<OlvWidget *> fields = profile.findChildren<OlvWidget *>();
+        QCOMPARE(fields.size(), 3);
+        for (const OlvWidget *field : fields) {
+            QVERIFY(field->focusPolicy() != Qt::NoFocus);
+            QVERIFY(field->minimumHeight() >= 20);
+        }
+    }
     void noteStaysOnTop()
     {
 #include "OlvFlexWidget.inc"

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QSize>
+#include <QWidget>
+
+/** What a form support tells apart. */
+enum class FormKind {
+    None,         ///< not of the library, or a part of one of its widgets
+    Button,       ///< an OlvButton
+    Tile,         ///< an OlvIconButton
+    Glyph,        ///< an OlvSimpleIconButton
+    BarButton,    ///< a button that a control bar made
+    LineEdit,     ///< an OlvLineEdit
+    ShortcutEdit, ///< an OlvShortcutEdit
+    Switch,       ///< an OlvSwitch
+    Slider,       ///< an OlvSlider
+    Bar,          ///< an OlvControlBar
+    Grid,         ///< an OlvGridLayout
+    Panel,        ///< an OlvFlexWidget
+    Placeholder,  ///< an OlvDragWidget
+};
+
+/** What @p widget is to a form. */
+FormKind formKindOf(const QWidget *widget);
+
+/** Whether a widget of @p kind may have others of the form in it, and not just its own parts. */
+inline bool holdsOthers(FormKind kind)
+{
+    return kind == FormKind::None || kind >= FormKind::Bar;
+}
+
+/**
+ * A widget of the library in a form, and what it was given there.
+ *
+ * What a member is about to be given is noted before it is: the setters send events, and whoever
+ * hears of one may take the member away.
+ */
+struct FormMember
+{
+    QPointer<QWidget> widget;
+    FormKind kind = FormKind::None;
+
+    /** The minimum size that it was given; 0 where it was given none. */
+    QSize minimum{ 0, 0 };
+    bool hasPolicy = false;
+    bool hasFocusPolicy = false;
+    bool hasFocusProxy = false;
+};

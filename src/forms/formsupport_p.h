@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/forms.h>
+
+#include "forms/formkeys_p.h"
+#include "forms/formmember_p.h"
+
+#include <QEvent>
+#include <QHash>
+#include <QPointer>
+#include <QVector>
+
+/**
+ * The members of a form, and the events that change who is one.
+ *
+ * A form consists of its members, which are widgets of the library, and of the widgets that hold
+ * others; the support filters the events of all of them. Nothing is connected to them: members that
+ * have been deleted are known by their pointers, and are forgotten when the table grows.
+ */
+class Q_DECL_HIDDEN OlvFormSupport::Private
+{
+public:
+    Private(OlvFormSupport *support, QWidget *form, Features features);
+
+    Features features() const;
+    void setFeatures(Features features);
+    bool handle(QObject *watched, QEvent *event);
+    /** Undoes everything; the last thing that is called. */
+    void leave();
+
+    /** Has every widget from @p root on served by the support that it belongs to now. */
+    static void settle(QWidget *root);
+
+private:
+    using Guard = QPointer<OlvFormSupport>;
+
+    static OlvFormSupport *supportFor(const QWidget *widget);
+    static QVector<QPointer<QWidget>> widgetsFrom(QWidget *root);
+    static void settleOne(QWidget *widget);
+
+    FormMember *memberAt(const QObject *widget);
+    void adopt(QWidget *widget);
+    void release(QWidget *widget);
+    void give(const QPointer<QWidget> &widget, Features features);
+    void take(const QPointer<QWidget> &widget, Features features);
+    QVector<QPointer<QWidget>> members() const;
+    void forgetDeleted();
+
+    void handleInContainer(QWidget *container, QEvent *event);
+    bool handleInMember(QWidget *widget, FormKind kind, QEvent *event);
+    void fitWidgetsIn(const QWidget *container);
+
+    OlvFormSupport *const m_support;
+    const QPointer<QWidget> m_form;
+    Features m_features;
+    QHash<const QObject *, FormMember> m_members;
+    int m_crowd; ///< how many members there are when deleted ones are looked for
+    FormKeys m_keys;
+};

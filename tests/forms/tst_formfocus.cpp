@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+// Where the focus is in a form, and where it goes.
+#include "notingform.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTest>
+
+namespace {
+
+/** Where the focus goes with as many presses of Tab, from the first widget on. */
+QWidgetList tabStops(QWidget &window, int count, Qt::Key key = Qt::Key_Tab)
+{
+    QWidgetList stops;
+    for (int i = 0; i < count; ++i) {
+        stops.append(QApplication::focusWidget());
+        QTest::keyClick(&window, key);
+    }
+    return stops;
+}
+
+/** Notes the releases of keys that come to a widget. */
+class ReleaseWatch : public QObject
+{
+public:
+    QVector<int> keys;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyRelease) {
+            keys.append(static_cast<QKeyEvent *>(event)->key());
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+class TestFormFocus : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isOneStopAWidget();
+    void goesBackwards();
+    void followsAnOrderSetBefore();
+    void followsAnOrderSetAfterwards();
+    void isInTheTextOfALineEdit();
+    void goesOnToTheTextOfTheLineEditThatHasIt();
+    void leavesAPolicyOfTheApplication();
+    void leavesAProxyOfTheApplication();
+    void leavesAShortcutEdit();
+    void bringsNoKeyToAShortcutEdit();
+    void followsMnemonics();
+    void followsTheMouse();
+};
+
+void TestFormFocus::isOneStopAWidget()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.name->setFocus();
+    const QWidgetList expected{ form.name->lineEdit(),
+                                form.password->lineEdit(),
+                                form.shortcut,
+                                form.wifi,
+                                form.volume,
+                                form.star,
+                                form.mail,
+                                form.save,
+                                form.name->lineEdit() };
+    QCOMPARE(tabStops(form, expected.size()), expected);
+}
+
+void TestFormFocus::goesBackwards()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.shortcut->setFocus();
+    const QWidgetList expected{ form.shortcut, form.password->lineEdit(), form.name->lineEdit(),
+                                form.save, form.mail };
+    QCOMPARE(tabStops(form, expected.size(), Qt::Key_Backtab), expected);
+}
+
+/** As the code does it that uic writes, before anybody can make a support. */
+void TestFormFocus::followsAnOrderSetBefore()
+{
+    WidgetForm form;
+    QWidget::setTabOrder(form.password, form.shortcut);
+    QWidget::setTabOrder(form.shortcut, form.name);
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.password->setFocus();
+    const QWidgetList expected{ form.password->lineEdit(), form.shortcut, form.name->lineEdit() };
+    QCOMPARE(tabStops(form, expected.size()), expected);
+}
+
+void TestFormFocus::followsAnOrderSetAfterwards()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    QWidget::setTabOrder(form.password, form.save);
+    QWidget::setTabOrder(form.save, form.name);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.password->setFocus();
+    const QWidgetList expected{ form.password->lineEdit(), form.save, form.name->lineEdit() };
+    QCOMPARE(tabStops(form, expected.size()), expected);
+}
+
+void TestFormFocus::isInTheTextOfALineEdit()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.name->setFocus();
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QCOMPARE(QApplication::focusWidget(), form.name->lineEdit());
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Li Wei"));
+    QCOMPARE(form.name->getText(), QStringLiteral("Li Wei"));
+}
+
+void TestFormFocus::goesOnToTheTextOfTheLineEditThatHasIt()
+{
+    WidgetForm form;
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.name->setFocus();
+    QCOMPARE(QApplication::focusWidget(), form.name);
+    auto *support = new OlvFormSupport(&form);
+    QCOMPARE(QApplication::focusWidget(), form.name->lineEdit());
+    delete support;
+    form.name->setFocus();
+    QCOMPARE(QApplication::focusWidget(), form.name);
+    QVERIFY(form.password->findChild<OlvSimpleIconButton *>()->focusPolicy() != Qt::NoFocus);
+}
+
+void TestFormFocus::leavesAPolicyOfTheApplication()
+{
+    WidgetForm form;
+    form.save->setFocusPolicy(Qt::ClickFocus);
+    form.name->setFocusPolicy(Qt::NoFocus);
+    auto *support = new OlvFormSupport(&form);
+    QCOMPARE(form.save->focusPolicy(), Qt::ClickFocus);
+    QVERIFY(!form.name->focusProxy());
+    form.wifi->setFocusPolicy(Qt::TabFocus);
+    delete support;
+    QCOMPARE(form.save->focusPolicy(), Qt::ClickFocus);
+    QCOMPARE(form.wifi->focusPolicy(), Qt::TabFocus);
+    QCOMPARE(form.name->focusPolicy(), Qt::NoFocus);
+}
+
+void TestFormFocus::leavesAProxyOfTheApplication()
+{
+    WidgetForm form;
+    form.name->setFocusProxy(form.save);
+    auto *support = new OlvFormSupport(&form);
+    QCOMPARE(form.name->focusProxy(), form.save);
+    form.password->setFocusProxy(form.save);
+    delete support;
+    QCOMPARE(form.name->focusProxy(), form.save);
+    QCOMPARE(form.password->focusProxy(), form.save);
+}
+
+void TestFormFocus::leavesAShortcutEdit()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.shortcut->setFocus();
+    QTest::keyClick(&form, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), form.wifi);
+    form.shortcut->setFocus();
+    QTest::keyClick(&form, Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), form.password->lineEdit());
+}
+
+void TestFormFocus::bringsNoKeyToAShortcutEdit()
+{
+    WidgetForm form;
+    auto *support = new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    ReleaseWatch watch;
+    // behind the filter of the support
+    form.shortcut->removeEventFilter(support);
+    form.shortcut->installEventFilter(&watch);
+    form.shortcut->installEventFilter(support);
+
+    form.shortcut->setFocus();
+    sendKey(form.shortcut, QEvent::KeyRelease, Qt::Key_Tab);
+    QCOMPARE(watch.keys, QVector<int>());
+    sendKey(form.shortcut, QEvent::KeyPress, Qt::Key_F5);
+    sendKey(form.shortcut, QEvent::KeyRelease, Qt::Key_F5);
+    QCOMPARE(watch.keys, QVector<int>{ Qt::Key_F5 });
+}
+
+void TestFormFocus::followsMnemonics()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.save->setFocus();
+    const auto jump = [&](Qt::Key key) {
+        QTest::keyClick(&form, key, Qt::AltModifier);
+        return QApplication::focusWidget();
+    };
+    QCOMPARE(jump(Qt::Key_P), form.password->lineEdit());
+    QCOMPARE(jump(Qt::Key_W), form.wifi);
+    QCOMPARE(jump(Qt::Key_V), form.volume);
+    QCOMPARE(jump(Qt::Key_M), form.mail);
+    QCOMPARE(jump(Qt::Key_S), form.save);
+    QCOMPARE(jump(Qt::Key_N), form.name->lineEdit());
+    QCOMPARE(jump(Qt::Key_H), form.shortcut);
+}
+
+void TestFormFocus::followsTheMouse()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    for (QWidget *widget : { static_cast<QWidget *>(form.save), static_cast<QWidget *>(form.mail),
+                             static_cast<QWidget *>(form.wifi) }) {
+        QTest::mouseClick(widget, Qt::LeftButton);
+        QCOMPARE(QApplication::focusWidget(), widget);
+    }
+}
+
+QTEST_MAIN(TestFormFocus)
+#include "tst_formfocus.moc"
