@@ -1,50 +1,27 @@
 // SPDX-License-Identifier: MIT
-// A settings dialog: every row binds a value widget to a key of QSettings, whatever the widget is.
+// A settings dialog: value widgets in a form, mapped to a record of an SQLite table.
 #include <OlvButton>
+#include <OlvFormSupport>
 #include <OlvLineEdit>
 #include <OlvSlider>
 #include <OlvSwitch>
+#include <OlvValueDelegate>
 
+#include <QtSql>
 #include <QtWidgets>
 
-/** A switch whose value is what the user wants, while its knob is still on the way there. */
-class SettingSwitch : public OlvSwitch
+/** Opens the database, and makes the record that the settings are kept in at the first start. */
+bool openSettings(const QString &file)
 {
-public:
-    QVariant getValue() override
-    {
-        return m_wanted;
-    }
-    void setValue(const QVariant &value) override
-    {
-        if (m_wanted == OlvSwitch::getValue().toBool()) { // it takes no other value on the way
-            m_wanted = value.toBool();
-            OlvSwitch::setValue(value);
-        }
-    }
-
-private:
-    bool m_wanted = false;
-};
-
-/** A slider that tells its value while it is dragged, and opens with its knob at the value. */
-class VolumeSlider : public OlvSlider
-{
-public:
-    void setValue(const QVariant &value) override
-    {
-        OlvSlider::setValue(value);
-        Q_EMIT valueChanged(value);
-    }
-
-protected:
-    void showEvent(QShowEvent * /*event*/) override
-    {
-        if (auto *knob = dynamic_cast<SliderRound *>(findChild<QWidget *>())) {
-            knob->move(knob->y() + getValue().toInt() * knob->maxX() / 100, knob->y());
-        }
-    }
-};
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+    database.setDatabaseName(file);
+    QSqlQuery query(database);
+    return database.open()
+        && query.exec(QStringLiteral("CREATE TABLE IF NOT EXISTS settings (id INTEGER PRIMARY KEY, "
+                                     "name TEXT, notify INTEGER DEFAULT 1, "
+                                     "autostart INTEGER DEFAULT 0, volume INTEGER DEFAULT 60)"))
+        && query.exec(QStringLiteral("INSERT OR IGNORE INTO settings (id) VALUES (1)"));
+}
 
 class SettingsDialog : public QDialog
 {
@@ -55,56 +32,54 @@ public:
         : m_form(new QFormLayout(this))
     {
         setWindowTitle(tr("Settings"));
-        setStyleSheet(QStringLiteral("QDialog { background: white; }"
-                                     "QLabel { color: rgb(48,49,51); font-size: 13px; }"));
         m_form->setContentsMargins(28, 24, 28, 24);
         m_form->setHorizontalSpacing(48);
         m_form->setVerticalSpacing(18);
         m_form->addRow(new QLabel(QStringLiteral("<h2>%1</h2>").arg(windowTitle())));
 
+        m_model.setTable(QStringLiteral("settings"));
+        m_model.setEditStrategy(QSqlTableModel::OnManualSubmit);
+        m_model.select();
+        m_mapper.setModel(&m_model);
+        m_mapper.setItemDelegate(new OlvValueDelegate(this));
+        m_mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
+
         auto *name = new OlvLineEdit;
         name->setPlaceholderText(tr("as others see you"));
-        bind(tr("Display name"), QStringLiteral("name"), name, { 220, 26 }, QString());
-        bind(tr("Notifications"), QStringLiteral("notify"), new SettingSwitch, { 50, 24 }, true);
-        bind(tr("Start with the desktop"), QStringLiteral("autostart"), new SettingSwitch,
-             { 50, 24 }, false);
-        auto *volume = new VolumeSlider;
-        bind(tr("Volume"), QStringLiteral("volume"), volume, { 220, 30 }, 60);
-        auto *label = qobject_cast<QLabel *>(m_form->labelForField(volume));
-        const auto showVolume = [=](const QVariant &value) {
-            label->setText(tr("Volume: %1 %").arg(value.toInt()));
-        };
-        connect(volume, &OlvWidget::valueChanged, label, showVolume);
-        showVolume(volume->getValue());
+        name->lineEdit()->setMaxLength(40);
+        addRow(tr("Display &name"), name, QStringLiteral("name"));
+        addRow(tr("N&otifications"), new OlvSwitch, QStringLiteral("notify"));
+        addRow(tr("Start with the &desktop"), new OlvSwitch, QStringLiteral("autostart"));
+        addRow(tr("&Volume"), new OlvSlider, QStringLiteral("volume"));
 
         auto *save = new OlvButton(tr("Save"));
-        save->setFixedSize(96, 32);
-        connect(save, &OlvButton::clicked, this, &SettingsDialog::save);
-        connect(save, &OlvButton::clicked, this, &QDialog::accept);
+        connect(save, &OlvButton::clicked, this, &SettingsDialog::accept);
         m_form->addRow(QString(), save);
+
+        m_mapper.toFirst();
+        new OlvFormSupport(this); // sizes, keyboard, focus: as other dialogs have them
+        resize(440, 0);
     }
 
-private:
-    void bind(const QString &label, const QString &key, OlvWidget *widget, QSize size,
-              const QVariant &preset)
+    void accept() override
     {
-        m_form->addRow(label, widget); // the label names the widget for screen readers as well
-        widget->setObjectName(key);
-        widget->setFixedSize(size);
-        widget->setValue(m_settings.value(key, preset));
-        m_widgets.insert(key, widget);
-    }
-
-    void save()
-    {
-        for (auto row = m_widgets.cbegin(); row != m_widgets.cend(); ++row) {
-            m_settings.setValue(row.key(), row.value()->getValue());
+        if (m_mapper.submit() && m_model.submitAll()) {
+            QDialog::accept();
+        } else {
+            QMessageBox::warning(this, windowTitle(), m_model.lastError().text());
         }
     }
 
-    QSettings m_settings;
+private:
+    void addRow(const QString &label, OlvWidget *widget, const QString &column)
+    {
+        m_form->addRow(label, widget); // the label names the widget for screen readers as well
+        m_mapper.addMapping(widget, m_model.fieldIndex(column));
+    }
+
+    QSqlTableModel m_model;
+    QDataWidgetMapper m_mapper;
     QFormLayout *m_form;
-    QHash<QString, OlvWidget *> m_widgets;
 };
 
 int main(int argc, char **argv)
@@ -112,6 +87,18 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("OlvWidgets"));
     QApplication::setApplicationName(QStringLiteral("settingsdialog"));
+    QTranslator texts; // the library's own texts in the user's language
+    if (texts.load(QLocale(), QStringLiteral("olvwidgets"), QStringLiteral("_"),
+                   QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&texts);
+    }
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+    if (!folder.mkpath(QStringLiteral("."))
+        || !openSettings(folder.filePath(QStringLiteral("settings.sqlite")))) {
+        qCritical("The settings cannot be opened: %s",
+                  qPrintable(QSqlDatabase::database().lastError().text()));
+        return 1;
+    }
     SettingsDialog().exec();
     return 0;
 }

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "exampleprogram.h"
 
+#include <QDir>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
 #include <QTest>
 
 #include <memory>
@@ -19,22 +24,22 @@ QString title()
     return QStringLiteral("Settings");
 }
 
-QString store()
-{
-    return QStringLiteral("OlvWidgets/settingsdialog.conf");
-}
-
 /** Where the Save button lies: what is blue at the bottom. The others lie in its column. */
-QPoint saveButton(const QImage &image)
+QRect saveButton(const QImage &image)
 {
     for (int y = image.height() - 1; y >= saveHeight; --y) {
         for (int x = 0; x < image.width(); ++x) {
             if (image.pixel(x, y) == blue) {
                 const int middle = y - saveHeight / 2;
-                while (x > 0 && image.pixel(x - 1, middle) == blue) {
-                    --x;
+                int left = x;
+                while (left > 0 && image.pixel(left - 1, middle) == blue) {
+                    --left;
                 }
-                return { x, y - saveHeight + 1 };
+                int right = image.width() - 1;
+                while (right > left && image.pixel(right, middle) != blue) {
+                    --right;
+                }
+                return { left, y - saveHeight + 1, right - left + 1, saveHeight };
             }
         }
     }
@@ -44,16 +49,21 @@ QPoint saveButton(const QImage &image)
 /** The middle of the white disc within the slider, counted from the slider's left edge. */
 int knobCenter(const QImage &image)
 {
-    const QPoint save = saveButton(image);
+    const QRect save = saveButton(image);
     const int row = save.y() - 18 - sliderHeight / 2;
-    QList<int> ends; // of whatever is not white
-    for (int x = save.x(); x < save.x() + 219; ++x) {
+    QList<int> ends;
+    for (int x = save.left(); x < save.right(); ++x) {
         if ((image.pixel(x, row) == white) != (image.pixel(x + 1, row) == white)) {
-            ends << x + 1 - save.x();
+            ends << x + 1 - save.left();
         }
     }
-    // the track's start, the disc's two, and the track's end
-    return ends.size() == 4 ? (ends.at(1) + ends.at(2)) / 2 : -1;
+    return ends.size() == 2 ? (ends.first() + ends.last()) / 2 : -1;
+}
+
+/** Where that disc is at a volume. */
+int knobCenterAt(int volume, const QImage &image)
+{
+    return sliderHeight / 2 + (volume * (saveButton(image).width() - sliderHeight) + 99) / 100;
 }
 
 } // namespace
@@ -73,8 +83,11 @@ private Q_SLOTS:
     void switchIsStoredAsItWasClickedJustBefore();
     void switchIsStoredAsItWasWhileTheDialogOpens();
     void nothingIsStoredWithoutSave();
+    void isWorkedWithTheKeyboardAlone();
 
 private:
+    QString query(const QString &statement) const;
+    QString stored() const;
     void open();
     QPoint switchAt(int row) const;
     bool isOn(int row) const;
@@ -93,6 +106,33 @@ void TestSettingsDialog::cleanup()
     m_dialog.reset();
 }
 
+/** What the first record of the answer holds; makes the database where there is none. */
+QString TestSettingsDialog::query(const QString &statement) const
+{
+    QStringList values;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+        const QString folder = m_dialog->path(QStringLiteral("OlvWidgets/settingsdialog"));
+        QDir().mkpath(folder);
+        database.setDatabaseName(folder + QStringLiteral("/settings.sqlite"));
+        QSqlQuery query(database);
+        if (!database.open() || !query.exec(statement)) {
+            values << query.lastError().text();
+        } else if (query.next()) {
+            for (int column = 0; column < query.record().count(); ++column) {
+                values << query.value(column).toString();
+            }
+        }
+    }
+    QSqlDatabase::removeDatabase(QLatin1String(QSqlDatabase::defaultConnection));
+    return values.join(QLatin1Char('|'));
+}
+
+QString TestSettingsDialog::stored() const
+{
+    return query(QStringLiteral("SELECT name, notify, autostart, volume FROM settings"));
+}
+
 void TestSettingsDialog::open()
 {
     m_dialog->input().moveTo({ 1279, 799 }); // a button under the pointer has another colour
@@ -104,7 +144,8 @@ void TestSettingsDialog::open()
 /** The left half of a switch, which is green when it has come to be on. */
 QPoint TestSettingsDialog::switchAt(int row) const
 {
-    return saveButton(m_dialog->picture()) + QPoint(10, row * rowHeight - 18 - sliderHeight + 12);
+    return saveButton(m_dialog->picture()).topLeft()
+        + QPoint(10, row * rowHeight - 18 - sliderHeight + 12);
 }
 
 bool TestSettingsDialog::isOn(int row) const
@@ -114,7 +155,7 @@ bool TestSettingsDialog::isOn(int row) const
 
 void TestSettingsDialog::save()
 {
-    m_dialog->click(saveButton(m_dialog->picture()) + QPoint(10, 5));
+    m_dialog->click(saveButton(m_dialog->picture()).topLeft() + QPoint(10, 5));
     QVERIFY(m_dialog->ends());
 }
 
@@ -128,23 +169,23 @@ void TestSettingsDialog::everyValueIsStoredAndLoaded()
     m_dialog->click(switchAt(-2));
     m_dialog->click(switchAt(-1));
     QTRY_VERIFY_WITH_TIMEOUT(!isOn(-2) && isOn(-1), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(knobCenter(m_dialog->picture()), 15 + 60 * 190 / 100, patience);
-    const QPoint knob = m_dialog->geometry().topLeft() + saveButton(m_dialog->picture())
-        + QPoint(15 + 60 * 190 / 100, -18 - sliderHeight / 2);
+    const QImage picture = m_dialog->picture();
+    QCOMPARE(knobCenter(picture), knobCenterAt(60, picture));
+    const QPoint knob = m_dialog->geometry().topLeft() + saveButton(picture).topLeft()
+        + QPoint(knobCenterAt(60, picture), -18 - sliderHeight / 2);
     m_dialog->input().moveTo(knob);
     m_dialog->input().press();
     m_dialog->input().moveTo(knob - QPoint(40, 0));
-    m_dialog->input().moveTo(knob - QPoint(76 + 5, 0)); // it jumps by 5 as it is pressed
+    m_dialog->input().moveTo(knob - QPoint(400, 0));
     m_dialog->input().release();
-    QTRY_COMPARE_WITH_TIMEOUT(knobCenter(m_dialog->picture()), 15 + 20 * 190 / 100, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(knobCenter(m_dialog->picture()), sliderHeight / 2, patience);
     save();
-    const QByteArray stored("[General]\nautostart=true\nname=olive\nnotify=false\nvolume=20\n");
-    QCOMPARE(m_dialog->read(store()), stored);
+    QCOMPARE(stored(), QStringLiteral("olive|0|1|0"));
 
     open();
     QTRY_VERIFY_WITH_TIMEOUT(!isOn(-2) && isOn(-1), patience);
     save();
-    QCOMPARE(m_dialog->read(store()), stored);
+    QCOMPARE(stored(), QStringLiteral("olive|0|1|0"));
 }
 
 void TestSettingsDialog::knobIsAtTheStoredValue_data()
@@ -158,46 +199,49 @@ void TestSettingsDialog::knobIsAtTheStoredValue_data()
 void TestSettingsDialog::knobIsAtTheStoredValue()
 {
     QFETCH(int, volume);
-    m_dialog->write(store(), "[General]\nvolume=" + QByteArray::number(volume) + '\n');
     open();
-    QTRY_COMPARE_WITH_TIMEOUT(knobCenter(m_dialog->picture()), 15 + volume * 190 / 100, patience);
+    save();
+    query(QStringLiteral("UPDATE settings SET volume = %1").arg(volume));
+    open();
+    const QImage picture = m_dialog->picture();
+    QCOMPARE(knobCenter(picture), knobCenterAt(volume, picture));
 }
 
 void TestSettingsDialog::switchIsStoredAsItWasClickedJustBefore_data()
 {
     QTest::addColumn<int>("row");
-    QTest::addColumn<QByteArray>("line");
-    QTest::newRow("off") << -2 << QByteArray("notify=false\n");
-    QTest::newRow("on") << -1 << QByteArray("autostart=true\n");
+    QTest::addColumn<QString>("record");
+    QTest::newRow("off") << -2 << QStringLiteral("|0|0|60");
+    QTest::newRow("on") << -1 << QStringLiteral("|1|1|60");
 }
 
 void TestSettingsDialog::switchIsStoredAsItWasClickedJustBefore()
 {
     QFETCH(int, row);
-    QFETCH(QByteArray, line);
+    QFETCH(QString, record);
     open();
     QTRY_VERIFY_WITH_TIMEOUT(isOn(-2), patience);
-    const QPoint button = saveButton(m_dialog->picture()) + QPoint(10, 5);
+    const QPoint button = saveButton(m_dialog->picture()).topLeft() + QPoint(10, 5);
     m_dialog->click(switchAt(row));
     // Qt takes two presses for a double click where it has left out the motion between them
     m_dialog->input().moveTo(m_dialog->geometry().topLeft() + button);
     QTest::qWait(50);
     m_dialog->click(button);
     QVERIFY(m_dialog->ends());
-    const QByteArray stored = m_dialog->read(store());
-    QVERIFY2(stored.contains(line), stored.constData());
+    QCOMPARE(stored(), record);
 }
 
 void TestSettingsDialog::switchIsStoredAsItWasWhileTheDialogOpens()
 {
-    m_dialog->write(store(), "[General]\nautostart=true\nnotify=true\n");
+    open();
+    save();
+    query(QStringLiteral("UPDATE settings SET autostart = 1"));
+    m_dialog->input().moveTo({ 1279, 799 });
     QVERIFY(m_dialog->start());
     QTRY_VERIFY_WITH_TIMEOUT(m_dialog->findWindow(title()), patience);
     QTRY_VERIFY_WITH_TIMEOUT(!saveButton(m_dialog->picture()).isNull(), patience);
     save();
-    const QByteArray stored = m_dialog->read(store());
-    QVERIFY2(stored.contains("autostart=true\n"), stored.constData());
-    QVERIFY2(stored.contains("notify=true\n"), stored.constData());
+    QCOMPARE(stored(), QStringLiteral("|1|1|60"));
 }
 
 void TestSettingsDialog::nothingIsStoredWithoutSave()
@@ -208,7 +252,25 @@ void TestSettingsDialog::nothingIsStoredWithoutSave()
     QTRY_VERIFY_WITH_TIMEOUT(!isOn(-2), patience);
     m_dialog->close();
     QVERIFY(m_dialog->ends());
-    QCOMPARE(m_dialog->read(store()), QByteArray());
+    QCOMPARE(stored(), QStringLiteral("|1|0|60"));
+}
+
+void TestSettingsDialog::isWorkedWithTheKeyboardAlone()
+{
+    open();
+    m_dialog->press(QStringLiteral("alt+n"));
+    m_dialog->type(QStringLiteral("olive"));
+    const QStringList keys{ QStringLiteral("Tab"),  QStringLiteral("space"), // notifications
+                            QStringLiteral("Tab"),  QStringLiteral("space"), // start
+                            QStringLiteral("Tab"),  QStringLiteral("End"),   // volume
+                            QStringLiteral("Left"), QStringLiteral("Tab") }; // save
+    for (const QString &key : keys) {
+        m_dialog->press(key);
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!isOn(-2) && isOn(-1), patience);
+    m_dialog->press(QStringLiteral("Return"));
+    QVERIFY(m_dialog->ends());
+    QCOMPARE(stored(), QStringLiteral("olive|0|1|99"));
 }
 
 QTEST_MAIN(TestSettingsDialog)
