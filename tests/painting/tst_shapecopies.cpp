@@ -4,7 +4,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QPicture>
 #include <QTest>
 
 Q_DECLARE_METATYPE(Prepare)
@@ -32,7 +31,6 @@ private Q_SLOTS:
     void drawsDirectlyWhereCopyingIsNotProven();
     void drawsDirectlyInOtherFormats_data();
     void drawsDirectlyInOtherFormats();
-    void drawsIntoWhatIsNoImage();
     void drawsAShapeThatComesOnceDirectly();
     void drawsTheSmallestShapesDirectly_data();
     void drawsTheSmallestShapesDirectly();
@@ -104,24 +102,6 @@ void TestShapeCopies::drawsDirectlyInOtherFormats()
     COMPARE_PICTURES(actual, drawn(background, antialias, [&](QPainter &painter) {
                          drawReference(drawing, painter);
                      }));
-}
-
-void TestShapeCopies::drawsIntoWhatIsNoImage()
-{
-    const Drawing drawing = keptDrawing();
-    QPicture actual;
-    QPainter painter(&actual);
-    antialias(painter);
-    draw(drawing, painter);
-    painter.end();
-    QPicture expected;
-    painter.begin(&expected);
-    antialias(painter);
-    drawReference(drawing, painter);
-    painter.end();
-    QVERIFY(actual.size() > 0);
-    QCOMPARE(QByteArray(actual.data(), int(actual.size())),
-             QByteArray(expected.data(), int(expected.size())));
 }
 
 void TestShapeCopies::drawsAShapeThatComesOnceDirectly()
