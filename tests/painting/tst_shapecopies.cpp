@@ -27,8 +27,8 @@ class TestShapeCopies : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void drawsDirectlyWhereCopyingIsNotProven_data();
-    void drawsDirectlyWhereCopyingIsNotProven();
+    void drawsDirectlyWhereCopyingIsNotExact_data();
+    void drawsDirectlyWhereCopyingIsNotExact();
     void drawsDirectlyInOtherFormats_data();
     void drawsDirectlyInOtherFormats();
     void drawsAShapeThatComesOnceDirectly();
@@ -38,7 +38,7 @@ private Q_SLOTS:
     void forgetsWhatIsOldest();
 };
 
-void TestShapeCopies::drawsDirectlyWhereCopyingIsNotProven_data()
+void TestShapeCopies::drawsDirectlyWhereCopyingIsNotExact_data()
 {
     QTest::addColumn<Prepare>("change");
     QTest::newRow("aliased") << Prepare(
@@ -60,7 +60,7 @@ void TestShapeCopies::drawsDirectlyWhereCopyingIsNotProven_data()
     });
 }
 
-void TestShapeCopies::drawsDirectlyWhereCopyingIsNotProven()
+void TestShapeCopies::drawsDirectlyWhereCopyingIsNotExact()
 {
     QFETCH(Prepare, change);
     const Drawing drawing = keptDrawing();
