@@ -12,8 +12,8 @@
 
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <memory>
 
 namespace {
@@ -148,6 +148,21 @@ int useItWhileTheApplicationGoes(int argc, char **argv)
     return 0;
 }
 
+/** Says when the server may go. */
+int waitForTheEndOfTheServer(int argc, char **argv)
+{
+    static std::unique_ptr<OlvShortcut> shortcut;
+    const QApplication application(argc, argv);
+    const std::unique_ptr<OlvShortcut> another(ctrlF5());
+    shortcut = std::make_unique<OlvShortcut>(Qt::Key_F6, true, false, false, false);
+    if (!isRegistered(shortcut.get()) || !isRegistered(another.get())) {
+        return 2;
+    }
+    std::puts("registered");
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}
+
 struct Case
 {
     const char *name;
@@ -163,6 +178,7 @@ constexpr Case cases[] = {
     { "useItBeforeThereIsAnApplication", useItBeforeThereIsAnApplication },
     { "useItInOneApplicationAfterTheOther", useItInOneApplicationAfterTheOther },
     { "useItWhileTheApplicationGoes", useItWhileTheApplicationGoes },
+    { "waitForTheEndOfTheServer", waitForTheEndOfTheServer },
 };
 
 } // namespace

@@ -10,6 +10,7 @@ class TestShortcutAtExit : public QObject
 private Q_SLOTS:
     void endsWithoutACrash_data();
     void endsWithoutACrash();
+    void endsWithTheServerWithoutACrash();
 };
 
 void TestShortcutAtExit::endsWithoutACrash_data()
@@ -40,6 +41,32 @@ void TestShortcutAtExit::endsWithoutACrash()
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
+}
+
+void TestShortcutAtExit::endsWithTheServerWithoutACrash()
+{
+    QProcess server;
+    server.start(QStringLiteral("Xvfb"),
+                 { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
+                   QStringLiteral("tcp"), QStringLiteral("-noreset") });
+    QVERIFY(server.waitForReadyRead());
+    const QByteArray display = server.readLine().trimmed();
+    QVERIFY(!display.isEmpty());
+
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), QLatin1Char(':') + QString::fromLatin1(display));
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(OLV_SHORTCUT_AT_EXIT),
+                  { QStringLiteral("waitForTheEndOfTheServer") });
+    QVERIFY(program.waitForReadyRead());
+    QCOMPARE(program.readLine().trimmed(), QByteArray("registered"));
+    server.kill();
+    QVERIFY(server.waitForFinished());
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    // Qt ends a program that has lost its server with this
+    QCOMPARE(program.exitCode(), 1);
 }
 
 QTEST_MAIN(TestShortcutAtExit)
