@@ -19,7 +19,7 @@ private Q_SLOTS:
 
 void TestShortcut::isNotActiveWithoutAServer()
 {
-    // even where there is one: the windows of this program are not on it
+    // a server that has none of this program's windows does not count
     qputenv("DISPLAY", ":99");
     OlvShortcut shortcut(Qt::Key_A, true, false, false, false);
     QElapsedTimer clock;

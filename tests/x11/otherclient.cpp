@@ -47,7 +47,7 @@ int showWindow(xcb_connection_t *connection, const xcb_screen_t *screen)
         if (type == XCB_KEY_PRESS) {
             std::printf("key %d\n", reinterpret_cast<xcb_key_press_event_t *>(event)->detail);
         } else if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT) {
-            // a grab that comes and goes is told as a change of the focus too, in a mode of its own
+            // grabs of the keyboard change the focus too, in events with another mode
             if (reinterpret_cast<xcb_focus_in_event_t *>(event)->mode == XCB_NOTIFY_MODE_NORMAL) {
                 std::puts(type == XCB_FOCUS_IN ? "focused" : "unfocused");
             }

@@ -26,8 +26,8 @@ inline void setLayout(const char *layout)
 
 inline void pressWithControl(RealInput &input, quint32 symbol)
 {
-    // A press in the same millisecond as the release before it is a key that repeats; no person is
-    // that quick.
+    // A press in the same millisecond as the release before it counts as the repetition of a held
+    // key.
     QTest::qWait(5);
     input.pressKey(symbolControl);
     input.pressKey(symbol);

@@ -155,7 +155,7 @@ void TestShortcutOnServer::firesForEachKey_data()
     QTest::newRow("letter") << int(Qt::Key_Q) << false << 0x71U << false;
     QTest::newRow("letter with Shift") << int(Qt::Key_Q) << true << 0x71U << true;
     QTest::newRow("digit") << int(Qt::Key_7) << false << 0x37U << false;
-    // named with Shift, as a key event tells it, and without: it takes Shift either way
+    // Shift is part of the combination whether or not the shortcut names it.
     QTest::newRow("exclamation mark with Shift") << int(Qt::Key_Exclam) << true << 0x31U << true;
     QTest::newRow("exclamation mark") << int(Qt::Key_Exclam) << false << 0x31U << true;
     QTest::newRow("space") << int(Qt::Key_Space) << false << 0x20U << false;
@@ -223,7 +223,7 @@ void TestShortcutOnServer::followsTheLayout()
     pressWithControl(*m_input, 0x7a);
     QTRY_COMPARE(activated.count(), 1);
 
-    // y and z change places; the input still means the places of the layout before
+    // y and z are exchanged; the input still uses the keys of the layout before
     setLayout("de");
     QTest::qWait(200);
     pressWithControl(*m_input, 0x79);
@@ -272,7 +272,7 @@ void TestShortcutOnServer::waitsWhereALayoutMovesItToAKeyThatIsTaken()
         { QStringLiteral("hold"), QStringLiteral("0x71"), QString::number(maskControl) });
     QTRY_COMPARE(other.lines(), QStringList({ QStringLiteral("held") }));
 
-    // a and q change places; the input still means the places of the layout before
+    // a and q are exchanged; the input still uses the keys of the layout before
     setLayout("fr");
     QTest::qWait(200);
     QVERIFY(!shortcut->active());
@@ -289,10 +289,10 @@ void TestShortcutOnServer::waitsWhereALayoutMovesItToAKeyThatIsTaken()
 
 void TestShortcutOnServer::ofTwoThatALayoutMovesToOneKeyOneIsActive()
 {
-    // here two keys, there the same with Shift: one is its character, the other stands above it
+    // two keys in the American layout, but one key with Shift in the French one
     OlvShortcut ampersand(Qt::Key_Ampersand, true, true, false, false);
     OlvShortcut one(Qt::Key_1, true, false, false, false);
-    // the layout of the test before may not have gone yet
+    // the change of layout by the test before may not have been handled yet
     QTRY_VERIFY(ampersand.active() && one.active());
     QSignalSpy firstActivated(&ampersand, &OlvShortcut::activated);
     QSignalSpy secondActivated(&one, &OlvShortcut::activated);
@@ -327,7 +327,7 @@ void TestShortcutOnServer::slotMayDeleteShortcuts()
         m_input->releaseKey(symbol);
     }
     m_input->releaseKey(symbolControl);
-    // both presses may be read together: the second must not reach what is deleted by then
+    // both presses may be read at once, and the second is of a shortcut that is deleted by then
     QTRY_VERIFY(first.isNull());
     QVERIFY(second.isNull());
     QTest::qWait(50);

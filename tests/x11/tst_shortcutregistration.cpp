@@ -191,7 +191,7 @@ void TestShortcutRegistration::connectionGoesWithTheApplication()
 
 void TestShortcutRegistration::aDeadConnectionIsInactive()
 {
-    // the last function: no connection is made in place of the one that is lost
+    // This is the last function, since the lost connection is not replaced by a new one.
     const std::unique_ptr<OlvShortcut> shortcut(ctrl(Qt::Key_F5));
     QVERIFY(shortcut->active());
     QVERIFY(m_ownSocket >= 0);
@@ -201,7 +201,7 @@ void TestShortcutRegistration::aDeadConnectionIsInactive()
     shortcut->destroy();
     const std::unique_ptr<OlvShortcut> later(ctrl(Qt::Key_F6));
     QVERIFY(!later->active());
-    // a closed socket can always be read: whoever went on to listen would keep the event loop busy
+    // A closed socket is always readable, so an enabled notifier would keep the event loop busy.
     QSignalSpy awake(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake);
     QTest::qWait(200);
     QVERIFY2(awake.count() < 200, QByteArray::number(awake.count()).constData());

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-/** The windows are on a server, but the shortcuts' own connection to it comes to nothing. */
+/** The windows are on a server, but the shortcuts' own connection to it fails. */
 class TestShortcutWithoutConnection : public QObject
 {
     Q_OBJECT
