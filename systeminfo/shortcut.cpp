@@ -3,20 +3,52 @@
 
 #include "shortcutbackend_p.h"
 
+#include <QHash>
 #include <QKeySequence>
 #include <QMetaEnum>
-#include <QSet>
+
+#include <mutex>
 
 namespace {
 
-/** Never destroyed: a program may destroy a shortcut after the statics of this library. */
-QSet<OlvShortcut *> &livingShortcuts()
+/** The living shortcuts of all threads. */
+class LivingShortcuts
 {
-    static auto *const shortcuts = new QSet<OlvShortcut *>;
+public:
+    void insert(OlvShortcut *shortcut)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_shortcuts.insert(addressOf(shortcut), shortcut);
+    }
+    void remove(OlvShortcut *shortcut)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_shortcuts.remove(addressOf(shortcut));
+    }
+    OlvShortcut *find(qulonglong address)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_shortcuts.value(address);
+    }
+
+private:
+    static qulonglong addressOf(OlvShortcut *shortcut)
+    {
+        return reinterpret_cast<qulonglong>(shortcut);
+    }
+
+    std::mutex m_mutex;
+    QHash<qulonglong, OlvShortcut *> m_shortcuts;
+};
+
+/** Never destroyed: a program may destroy a shortcut after the statics of this library. */
+LivingShortcuts &livingShortcuts()
+{
+    static auto *const shortcuts = new LivingShortcuts;
     return *shortcuts;
 }
 
-/** Keys that QKeySequence has no text for: it makes unprintable characters of them. */
+/** Whether QKeySequence has no text for the key, and would make unprintable characters of it. */
 bool isWithoutText(Qt::Key key)
 {
     switch (key) {
@@ -37,7 +69,7 @@ bool isWithoutText(Qt::Key key)
     }
 }
 
-/** The key's name as Qt's header has it; empty for a key that is none. */
+/** The key's name in Qt's header, without its prefix; empty for what is no key. */
 QString nameOf(Qt::Key key)
 {
     if (key <= 0 || key == Qt::Key_unknown) {
@@ -77,15 +109,12 @@ OlvShortcut::~OlvShortcut()
 
 bool OlvShortcut::active()
 {
-    ShortcutBackend *backend = ShortcutBackend::instance();
-    return backend && backend->grab(this, d->key, d->modifiers);
+    return ShortcutBackend::registerShortcut(this, d->key, d->modifiers);
 }
 
 void OlvShortcut::destroy()
 {
-    if (ShortcutBackend *backend = ShortcutBackend::existingInstance()) {
-        backend->release(this);
-    }
+    ShortcutBackend::unregisterShortcut(this);
 }
 
 QString OlvShortcut::toString()
@@ -93,7 +122,7 @@ QString OlvShortcut::toString()
     if (!isWithoutText(d->key)) {
         return QKeySequence(int(d->modifiers) | d->key).toString(QKeySequence::NativeText);
     }
-    // the text of the modifiers comes with a key behind it: a space takes its place
+    // QKeySequence has no text for modifiers alone, so that of a space behind them is removed.
     const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
     QString text =
         QKeySequence(int(d->modifiers) | Qt::Key_Space).toString(QKeySequence::NativeText);
@@ -103,10 +132,5 @@ QString OlvShortcut::toString()
 
 OlvShortcut *OlvShortcut::fromAddress(qulonglong address)
 {
-    for (OlvShortcut *shortcut : qAsConst(livingShortcuts())) {
-        if (reinterpret_cast<qulonglong>(shortcut) == address) {
-            return shortcut;
-        }
-    }
-    return nullptr;
+    return livingShortcuts().find(address);
 }

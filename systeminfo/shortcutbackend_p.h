@@ -3,27 +3,43 @@
 
 #include <Qt>
 
+#include <mutex>
+
 class OlvShortcut;
 
 /**
- * What registers shortcuts with a desktop of one kind. A kind of desktop is one class behind this
- * interface, made in ShortcutBackend::instance().
+ * What registers shortcuts with a desktop of one kind. Each kind of desktop has a class behind this
+ * interface, of which there is one object, in the thread of the application object. Shortcuts may
+ * be destroyed in other threads and are unregistered there, so mutex() guards what a backend knows
+ * of them.
  */
 class ShortcutBackend
 {
 public:
     /**
-     * The backend for the platform that the application runs on, made by the first call and deleted
-     * with the application object; null where there is none.
+     * Registers a combination with the desktop that the application runs on, and emits the
+     * shortcut's activated() for it from then on; returns whether it is registered. False in every
+     * thread but the application's, and where there is no desktop that takes shortcuts.
      */
-    static ShortcutBackend *instance();
-    /** The same, but null as well before the first call of instance(). */
-    static ShortcutBackend *existingInstance();
+    static bool registerShortcut(OlvShortcut *shortcut, Qt::Key key,
+                                 Qt::KeyboardModifiers modifiers);
+    /** Releases what the shortcut has registered, if anything. May be called in any thread. */
+    static void unregisterShortcut(OlvShortcut *shortcut);
 
     virtual ~ShortcutBackend();
 
-    /** Registers a combination, and emits the shortcut's activated() for it from then on. */
+protected:
+    /** Never destroyed, and not recursive: nothing is emitted while it is locked. */
+    static std::mutex &mutex();
+    /** Called first by a backend's destructor, so that no other thread uses the backend any more.
+     */
+    void withdraw();
+
+    /** Registers a combination. The mutex is locked. */
     virtual bool grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers) = 0;
-    /** Lets go of what the shortcut has registered, if anything. */
+    /** Releases what the shortcut has registered, if anything. The mutex is locked. */
     virtual void release(OlvShortcut *shortcut) = 0;
+
+private:
+    static ShortcutBackend *instanceOfThisThread();
 };

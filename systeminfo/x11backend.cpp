@@ -15,7 +15,7 @@
 
 namespace {
 
-/** The event's type without the bit that marks it as sent by another program. */
+/** The event's type without the bit that says that another program has sent the event. */
 int typeOf(const xcb_generic_event_t *event)
 {
     return event->response_type & 0x7f;
@@ -40,6 +40,7 @@ X11Backend::X11Backend(QObject *parent)
 
 X11Backend::~X11Backend()
 {
+    withdraw();
     m_keymap.reset();
     delete m_notifier;
     xcb_disconnect(m_connection);
@@ -56,8 +57,8 @@ bool X11Backend::grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers 
     }
     const QVector<X11Key> keys = m_keymap->find(key, modifiers).keys;
     readEventsSoon();
-    // The server would grant this connection the same keys again, and letting go of either would
-    // let go of both.
+    // The server would grant this connection the same keys again, and releasing either grab would
+    // release both.
     if (keys.isEmpty() || !isFree(keys) || !grabKeys(keys)) {
         return false;
     }
@@ -94,7 +95,7 @@ bool X11Backend::setUpKeyboard()
     details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
     xcb_xkb_select_events_aux(m_connection, XCB_XKB_ID_USE_CORE_KBD, events, 0, 0, mapParts,
                               mapParts, &details);
-    // Without this, a group that a held key sets stands among the modifiers of the events.
+    // Without this flag, key events have an extra modifier while a held key sets the group.
     constexpr quint32 flags = XCB_XKB_PER_CLIENT_FLAG_GRABS_USE_XKB_STATE;
     std::free(xcb_xkb_per_client_flags_reply(
         m_connection,
@@ -103,16 +104,9 @@ bool X11Backend::setUpKeyboard()
     return true;
 }
 
-bool X11Backend::isAlive()
+bool X11Backend::isAlive() const
 {
-    if (!m_notifier) {
-        return false;
-    }
-    if (xcb_connection_has_error(m_connection)) {
-        m_notifier->setEnabled(false);
-        return false;
-    }
-    return true;
+    return m_notifier && !xcb_connection_has_error(m_connection);
 }
 
 bool X11Backend::grabKeys(const QVector<X11Key> &keys)
@@ -178,25 +172,33 @@ void X11Backend::readEventsSoon()
 
 void X11Backend::readEvents()
 {
+    const Activations activations = takeActivations();
+    for (const QPointer<OlvShortcut> &shortcut : activations) {
+        if (shortcut) {
+            Q_EMIT shortcut->activated();
+        }
+    }
+}
+
+/** Handles the events that have arrived; returns the shortcuts of this thread that were pressed. */
+X11Backend::Activations X11Backend::takeActivations()
+{
+    const std::lock_guard<std::mutex> lock(mutex());
     Activations activations;
     while (xcb_generic_event_t *event = xcb_poll_for_event(m_connection)) {
         handleEvent(event, &activations);
         std::free(event);
     }
     if (!isAlive()) {
-        return;
-    }
-    // once for the hundreds of notices that a single change may bring
-    if (m_mappingChanged) {
+        // A closed socket is always readable, so the notifier would keep the event loop busy.
+        m_notifier->setEnabled(false);
+    } else if (m_mappingChanged) {
+        // A single change may bring hundreds of events, so the mapping is read after the last one.
         m_mappingChanged = false;
         followMapping();
         readEventsSoon();
     }
-    for (const QPointer<OlvShortcut> &shortcut : qAsConst(activations)) {
-        if (shortcut) {
-            Q_EMIT shortcut->activated();
-        }
-    }
+    return activations;
 }
 
 void X11Backend::handleEvent(const xcb_generic_event_t *event, Activations *activations)
@@ -224,31 +226,38 @@ void X11Backend::handleEvent(const xcb_generic_event_t *event, Activations *acti
 
 void X11Backend::handleKeyboardChange(const xcb_generic_event_t *event)
 {
-    // What the events of the extension have in common; the kind of event stands in the second byte.
+    // The second byte of every event of the extension is the kind of event.
     if (event->pad0 != XCB_XKB_STATE_NOTIFY) {
         m_mappingChanged = true;
         return;
     }
     const auto *state = reinterpret_cast<const xcb_xkb_state_notify_event_t *>(event);
     m_keymap->setGroup(state->group);
-    // The presses that come after it in the queue are those of the new group.
+    // Presses that are behind this event in the queue were made in the new group.
     moveRegistrations();
 }
 
 void X11Backend::handlePress(const xcb_key_press_event_t *press, Activations *activations)
 {
-    // The press has given this connection the whole keyboard. It is handed back before anybody
-    // hears of the press: no other key is swallowed then, and the focus stays.
+    // The press has grabbed the whole keyboard for this connection. It is released before the
+    // signal is emitted, so that other keys reach the window that has the focus.
     const xcb_void_cookie_t cookie = xcb_ungrab_keyboard_checked(m_connection, XCB_CURRENT_TIME);
     std::free(xcb_request_check(m_connection, cookie));
 
-    // A key that repeats is told as released and pressed at the same time.
+    // A held key that repeats is reported as released and pressed at the same time.
     if (press->detail == m_releasedCode && press->time == m_releaseTime) {
         return;
     }
     const X11Key key{ press->detail, m_keymap->withoutLocks(press->state) };
-    if (OlvShortcut *shortcut = holderOf(key)) {
+    OlvShortcut *shortcut = holderOf(key);
+    if (!shortcut) {
+        return;
+    }
+    if (shortcut->thread() == thread()) {
         activations->append(shortcut);
+    } else {
+        // Its thread may destroy it as soon as the mutex is unlocked; Qt then drops a queued call.
+        QMetaObject::invokeMethod(shortcut, &OlvShortcut::activated, Qt::QueuedConnection);
     }
 }
 
@@ -258,7 +267,7 @@ void X11Backend::followMapping()
     moveRegistrations();
 }
 
-/** Grabs anew what the keymap has on other keys than before. */
+/** Grabs the keys of the combinations that are on other keys than before. */
 void X11Backend::moveRegistrations()
 {
     struct Move
@@ -268,11 +277,12 @@ void X11Backend::moveRegistrations()
     };
     std::vector<Move> moves;
     const QVector<quint16> locks = m_keymap->lockCombinations();
-    // All that move let go before any takes: a key may go from one combination to another.
+    // All keys are released before any is grabbed, since one may pass from one combination to
+    // another.
     for (Registration &registration : m_registrations) {
         const X11Keymap::Match match = m_keymap->find(registration.key, registration.modifiers);
-        // A combination that has its keys from another group may have to leave them to one of this
-        // group, so that it moves in any case.
+        // One that has its keys from another group releases them too, since a symbol of the group
+        // in effect may need them.
         if (locks != m_locks || registration.keys != match.keys || !match.isInGroup) {
             ungrabKeys(registration.keys);
             registration.keys.clear();

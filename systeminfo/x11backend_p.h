@@ -17,7 +17,7 @@ class QSocketNotifier;
  * Shortcuts on an X server: passive grabs on the root window, over a connection of this library's
  * own.
  *
- * Qt's connection will not do: it does not tell of a changed keyboard mapping.
+ * Qt's connection cannot be used, since it gets no event when the keyboard mapping changes.
  */
 class X11Backend : public QObject, public ShortcutBackend
 {
@@ -25,6 +25,7 @@ public:
     explicit X11Backend(QObject *parent);
     ~X11Backend() override;
 
+protected:
     bool grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers) override;
     void release(OlvShortcut *shortcut) override;
 
@@ -39,13 +40,14 @@ private:
     using Activations = QVector<QPointer<OlvShortcut>>;
 
     bool setUpKeyboard();
-    bool isAlive();
+    bool isAlive() const;
     bool grabKeys(const QVector<X11Key> &keys);
     void ungrabKeys(const QVector<X11Key> &keys);
     bool isFree(const QVector<X11Key> &keys) const;
     OlvShortcut *holderOf(X11Key key) const;
     void readEvents();
     void readEventsSoon();
+    Activations takeActivations();
     void handleEvent(const xcb_generic_event_t *event, Activations *activations);
     void handlePress(const xcb_key_press_event_t *press, Activations *activations);
     void handleKeyboardChange(const xcb_generic_event_t *event);

@@ -54,7 +54,7 @@ constexpr NamedKey namedKeys[] = {
     { Qt::Key_Calculator, XKB_KEY_XF86Calculator },
 };
 
-/** The symbol of a named key; none for text keys, and for keys that are no shortcut. */
+/** The symbol of a named key; none for text keys and for keys that cannot be a shortcut. */
 xkb_keysym_t symbolOf(Qt::Key key)
 {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F35) {
@@ -68,7 +68,7 @@ xkb_keysym_t symbolOf(Qt::Key key)
     return XKB_KEY_NoSymbol;
 }
 
-/** Whether the key is its own character, in upper case where it has one. */
+/** Whether the key's number is that of its character, in upper case if it has one. */
 bool isText(Qt::Key key)
 {
     return key >= Qt::Key_Space && uint(key) <= QChar::LastValidCodePoint;
@@ -161,7 +161,7 @@ quint16 X11Keymap::withoutLocks(quint16 modifiers) const
 void X11Keymap::readSymbols(xcb_connection_t *connection)
 {
     const int device = xkb_x11_get_core_keyboard_device_id(connection);
-    // The mapping comes from the server alone, not from files or the environment.
+    // The server has the whole mapping, so neither files nor the environment are read.
     const std::unique_ptr<xkb_context, Unref> context(xkb_context_new(
         xkb_context_flags(XKB_CONTEXT_NO_DEFAULT_INCLUDES | XKB_CONTEXT_NO_ENVIRONMENT_NAMES)));
     if (device < 0 || !context) {
@@ -209,16 +209,16 @@ QVector<X11Key> X11Keymap::keysInGroup(Qt::Key key, quint16 modifiers, int group
     const auto isFound = [&](xkb_keycode_t code) {
         return std::any_of(keys.cbegin(), keys.cend(), [=](X11Key k) { return k.code == code; });
     };
-    // A key is the same with the modifiers whether it is named by what it gives without any, by
-    // what it gives with Shift, which it then takes, or by what it gives with all of them, as Alt
-    // and Print give SysReq.
+    // A shortcut may name a key by its symbol without modifiers, by its symbol with Shift, which is
+    // then part of the combination, or by its symbol with all the modifiers, as Alt and Print give
+    // SysReq.
     for (const quint16 held : { quint16(0), quint16(XCB_MOD_MASK_SHIFT), modifiers }) {
         const bool isShifted = held & XCB_MOD_MASK_SHIFT;
         xkb_state_update_mask(m_state.get(), held, 0, 0, 0, 0, xkb_layout_index_t(group));
         for (xkb_keycode_t code = xkb_keymap_min_keycode(m_keymap.get());
              code <= xkb_keymap_max_keycode(m_keymap.get()); ++code) {
             const xkb_keysym_t symbol = xkb_state_key_get_one_sym(m_state.get(), code);
-            // What stands shifted on a keypad is chosen by Num Lock, not by Shift.
+            // On a keypad, Num Lock and not Shift chooses the shifted symbol.
             if (gives(symbol, key) && !(isShifted && isOnKeypad(symbol)) && !isFound(code)) {
                 keys.append({ xcb_keycode_t(code), quint16(modifiers | held) });
             }
@@ -248,7 +248,7 @@ bool X11Keymap::hasSymbol(xcb_keycode_t code, std::initializer_list<xkb_keysym_t
 
 quint16 X11Keymap::maskOf(std::initializer_list<xkb_keysym_t> symbols, quint16 fallback) const
 {
-    // Shift, Lock and Control have places of their own.
+    // The first three modifiers are always Shift, Lock and Control.
     constexpr int firstFreeModifier = 3;
     for (int modifier = firstFreeModifier; m_keymap && modifier < modifierCount; ++modifier) {
         for (const xcb_keycode_t code : m_modifierCodes.at(modifier)) {

@@ -10,7 +10,7 @@
 #include <initializer_list>
 #include <memory>
 
-/** A key with modifiers, in the server's numbers: what a passive grab is made of. */
+/** A key and modifiers in the server's numbers, as a passive grab takes them. */
 struct X11Key
 {
     xcb_keycode_t code;
@@ -79,9 +79,9 @@ private:
     bool hasSymbol(xcb_keycode_t code, std::initializer_list<xkb_keysym_t> symbols) const;
     quint16 maskOf(std::initializer_list<xkb_keysym_t> symbols, quint16 fallback) const;
 
-    /** Null where the server does not tell the mapping. */
+    /** Null where the mapping could not be read. */
     std::unique_ptr<xkb_keymap, Unref> m_keymap;
-    /** Made to say what a key gives; not the state of the keyboard. */
+    /** For looking up what keys give; it does not follow the keyboard's own state. */
     std::unique_ptr<xkb_state, Unref> m_state;
     int m_group = 0;
     /** The keycodes of each of the eight modifiers, Shift first. */

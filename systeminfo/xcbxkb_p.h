@@ -3,8 +3,8 @@
 
 #include <xcb/xcb.h>
 
-// A member in this C header is named like a keyword of C++. Compilers warn of what that takes, but
-// not in a system's header.
+// A member in this C header has the name of a C++ keyword. Compilers warn of a macro with that
+// name, except in system headers.
 #pragma GCC system_header
 #define explicit explicitParts
 #include <xcb/xkb.h>
