@@ -63,8 +63,21 @@ public:
          * that the application has given a focus policy keeps it.
          */
         Keyboard = 0x02,
+        /**
+         * A ring in the palette's highlight colour around the widget that has the focus, when the
+         * keyboard brought it there (by Tab or a mnemonic) or has been used on it since; not after
+         * a click. It lies in the widget's window, or in the viewport that the widget is scrolled
+         * in, and is none of the widget's pixels.
+         */
+        FocusRing = 0x04,
+        /**
+         * The look of a disabled widget: it is faded, by a QGraphicsEffect that it has for as long
+         * as it is disabled. A widget that has an effect of the application's keeps that, and its
+         * look.
+         */
+        DisabledLook = 0x08,
         /** All of the above. */
-        AllFeatures = 0x03,
+        AllFeatures = 0x0f,
     };
     /** Several features. */
     Q_DECLARE_FLAGS(Features, Feature)

@@ -67,3 +67,36 @@ FormKind formKindOf(const QWidget *widget)
     }
     return isOne<OlvDragWidget>(widget) ? FormKind::Placeholder : FormKind::None;
 }
+
+bool isStill(const QWidget *widget, FormKind kind)
+{
+    switch (kind) {
+    case FormKind::None:
+        break;
+    case FormKind::Button:
+        return isOne<OlvButton>(widget);
+    case FormKind::Tile:
+        return isOne<OlvIconButton>(widget);
+    case FormKind::Glyph:
+        return isOne<OlvSimpleIconButton>(widget);
+    case FormKind::BarButton:
+        return isOne<QPushButton>(widget);
+    case FormKind::LineEdit:
+        return isOne<OlvLineEdit>(widget);
+    case FormKind::ShortcutEdit:
+        return isOne<OlvShortcutEdit>(widget);
+    case FormKind::Switch:
+        return isOne<OlvSwitch>(widget);
+    case FormKind::Slider:
+        return isOne<OlvSlider>(widget);
+    case FormKind::Bar:
+        return isOne<OlvControlBar>(widget);
+    case FormKind::Grid:
+        return isOne<OlvGridLayout>(widget);
+    case FormKind::Panel:
+        return isOne<OlvFlexWidget>(widget);
+    case FormKind::Placeholder:
+        return isOne<OlvDragWidget>(widget);
+    }
+    return false;
+}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QGraphicsEffect>
 #include <QPointer>
 #include <QSize>
 #include <QWidget>
@@ -25,6 +26,12 @@ enum class FormKind {
 /** What @p widget is to a form. */
 FormKind formKindOf(const QWidget *widget);
 
+/**
+ * Whether @p widget, which was of @p kind, is so still. What is left of one that is being destroyed
+ * is a plain widget, to which events come and which pointers do not know to be gone.
+ */
+bool isStill(const QWidget *widget, FormKind kind);
+
 /** Whether a widget of @p kind may have others of the form in it, and not just its own parts. */
 inline bool holdsOthers(FormKind kind)
 {
@@ -47,4 +54,6 @@ struct FormMember
     bool hasPolicy = false;
     bool hasFocusPolicy = false;
     bool hasFocusProxy = false;
+    /** The effect that a disabled one is seen through; the widget's. */
+    QPointer<QGraphicsEffect> fade;
 };

@@ -1,19 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "forms/formsupport_p.h"
 
+#include <OlvWidgets/input.h>
+
+#include "forms/disabledlook_p.h"
 #include "forms/formsizes_p.h"
 
+#include <QLineEdit>
 #include <QWidget>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int smallestCrowd = 32;
-
 QWidget *asWidget(QObject *object)
 {
     return object && object->isWidgetType() ? static_cast<QWidget *>(object) : nullptr;
+}
+
+/** The text in a line edit, whose events are a support's business, too; null for other widgets. */
+QLineEdit *textOf(const QWidget *widget, FormKind kind)
+{
+    return kind == FormKind::LineEdit ? static_cast<const OlvLineEdit *>(widget)->lineEdit()
+                                      : nullptr;
 }
 
 } // namespace
@@ -60,7 +69,6 @@ OlvFormSupport::Private::Private(OlvFormSupport *support, QWidget *form, Feature
     : m_support(support)
     , m_form(form)
     , m_features(features)
-    , m_crowd(smallestCrowd)
 { }
 
 OlvFormSupport::Features OlvFormSupport::Private::features() const
@@ -88,8 +96,11 @@ void OlvFormSupport::Private::setFeatures(Features features)
 void OlvFormSupport::Private::leave()
 {
     supports().removeOne(m_support);
-    if (!m_form) {
-        return; // the form is being deleted, and all that is in it
+    // a form that deletes its children has taken this from their list already
+    const bool formIsDying =
+        !m_form || (m_support->parent() == m_form && !m_form->children().contains(m_support));
+    if (formIsDying) {
+        return;
     }
     // Undoing sends events: whoever hears of one may delete the form, which must not delete this
     // once more.
@@ -183,7 +194,16 @@ void OlvFormSupport::Private::settleOne(QWidget *widget)
 FormMember *OlvFormSupport::Private::memberAt(const QObject *widget)
 {
     const auto found = m_members.find(widget);
-    return found != m_members.end() && found->widget ? &*found : nullptr;
+    const bool isThere =
+        found != m_members.end() && found->widget && isStill(found->widget, found->kind);
+    return isThere ? &*found : nullptr;
+}
+
+/** The line edit among the members that @p text is the text of; null for other widgets. */
+QWidget *OlvFormSupport::Private::editAround(const QWidget *text)
+{
+    const FormMember *edit = memberAt(text->parentWidget());
+    return edit && textOf(edit->widget, edit->kind) == text ? edit->widget.data() : nullptr;
 }
 
 void OlvFormSupport::Private::adopt(QWidget *widget)
@@ -196,12 +216,14 @@ void OlvFormSupport::Private::adopt(QWidget *widget)
     if (memberAt(widget)) {
         return; // installing the filter again would put it in front of the application's
     }
-    forgetDeleted();
     FormMember member;
     member.widget = widget;
     member.kind = kind;
     m_members.insert(widget, member);
     widget->installEventFilter(m_support);
+    if (QLineEdit *text = textOf(widget, kind)) {
+        text->installEventFilter(m_support);
+    }
     give(widget, m_features);
 }
 
@@ -210,9 +232,15 @@ void OlvFormSupport::Private::release(QWidget *widget)
     const QPointer<QWidget> alive(widget);
     const Guard self(m_support);
     take(alive, m_features);
-    if (self && m_members.remove(widget) > 0 && alive) {
-        alive->removeEventFilter(m_support);
+    const FormMember *member = self ? memberAt(alive) : nullptr;
+    if (!member) {
+        return;
     }
+    alive->removeEventFilter(m_support);
+    if (QLineEdit *text = textOf(alive, member->kind)) {
+        text->removeEventFilter(m_support);
+    }
+    m_members.remove(widget);
 }
 
 void OlvFormSupport::Private::give(const QPointer<QWidget> &widget, Features features)
@@ -226,12 +254,23 @@ void OlvFormSupport::Private::give(const QPointer<QWidget> &widget, Features fea
     if (member && features.testFlag(Keyboard)) {
         FormKeys::give(*member);
     }
+    member = self ? memberAt(widget) : nullptr;
+    if (member && features.testFlag(DisabledLook)) {
+        ::DisabledLook::fit(*member);
+    }
 }
 
 void OlvFormSupport::Private::take(const QPointer<QWidget> &widget, Features features)
 {
     const Guard self(m_support);
     FormMember *member = memberAt(widget);
+    if (member && features.testFlag(DisabledLook)) {
+        ::DisabledLook::take(*member);
+    }
+    member = self ? memberAt(widget) : nullptr;
+    if (member && features.testFlag(FocusRing)) {
+        m_focus.leave(widget);
+    }
     if (member && features.testFlag(Keyboard)) {
         m_keys.take(*member);
     }
@@ -252,31 +291,24 @@ QVector<QPointer<QWidget>> OlvFormSupport::Private::members() const
     return widgets;
 }
 
-void OlvFormSupport::Private::forgetDeleted()
-{
-    if (m_members.size() < m_crowd) {
-        return;
-    }
-    for (auto member = m_members.begin(); member != m_members.end();) {
-        if (member->widget) {
-            ++member;
-        } else {
-            member = m_members.erase(member);
-        }
-    }
-    m_crowd = qMax(smallestCrowd, 2 * m_members.size());
-}
-
 bool OlvFormSupport::Private::handle(QObject *watched, QEvent *event)
 {
     QWidget *widget = asWidget(watched);
     if (!widget) {
         return false;
     }
+    if (event->type() == QEvent::Destroy) {
+        m_members.remove(widget);
+        return false;
+    }
     const FormMember *member = memberAt(widget);
     const FormKind kind = member ? member->kind : FormKind::None;
     const Guard self(m_support);
     const QPointer<QObject> alive(watched);
+    if (QWidget *edit = member ? nullptr : editAround(widget)) {
+        handleInText(edit, event);
+        return !alive;
+    }
     if (member && handleInMember(widget, kind, event)) {
         event->accept(); // an ignored key goes on to the parent although it has been filtered out
         return true;
@@ -325,7 +357,27 @@ bool OlvFormSupport::Private::handleInMember(QWidget *widget, FormKind kind, QEv
         && FormSizes::isLaidOut(widget)) {
         FormSizes::give(*memberAt(widget));
     }
-    return self && alive && m_features.testFlag(Keyboard) && m_keys.handle(widget, kind, event);
+    if (self && alive && event->type() == QEvent::EnabledChange
+        && m_features.testFlag(DisabledLook)) {
+        ::DisabledLook::fit(*memberAt(widget));
+    }
+    if (self && alive && m_features.testFlag(FocusRing)) {
+        m_focus.handle(widget, kind, event);
+    }
+    if (!self || !alive || !m_features.testFlag(Keyboard) || !m_keys.handle(widget, kind, event)) {
+        return false;
+    }
+    if (self && alive && m_features.testFlag(FocusRing)) {
+        m_focus.noteKey(widget, kind);
+    }
+    return true;
+}
+
+void OlvFormSupport::Private::handleInText(QWidget *edit, QEvent *event)
+{
+    if (m_features.testFlag(FocusRing)) {
+        m_focus.handle(edit, FormKind::LineEdit, event);
+    }
 }
 
 void OlvFormSupport::Private::fitWidgetsIn(const QWidget *container)

@@ -3,6 +3,7 @@
 
 #include <OlvWidgets/forms.h>
 
+#include "forms/formfocus_p.h"
 #include "forms/formkeys_p.h"
 #include "forms/formmember_p.h"
 
@@ -15,8 +16,8 @@
  * The members of a form, and the events that change who is one.
  *
  * A form consists of its members, which are widgets of the library, and of the widgets that hold
- * others; the support filters the events of all of them. Nothing is connected to them: members that
- * have been deleted are known by their pointers, and are forgotten when the table grows.
+ * others; the support filters the events of all of them. Nothing is connected to them: that a
+ * member is deleted is an event, too.
  */
 class Q_DECL_HIDDEN OlvFormSupport::Private
 {
@@ -40,14 +41,15 @@ private:
     static void settleOne(QWidget *widget);
 
     FormMember *memberAt(const QObject *widget);
+    QWidget *editAround(const QWidget *text);
     void adopt(QWidget *widget);
     void release(QWidget *widget);
     void give(const QPointer<QWidget> &widget, Features features);
     void take(const QPointer<QWidget> &widget, Features features);
     QVector<QPointer<QWidget>> members() const;
-    void forgetDeleted();
 
     void handleInContainer(QWidget *container, QEvent *event);
+    void handleInText(QWidget *edit, QEvent *event);
     bool handleInMember(QWidget *widget, FormKind kind, QEvent *event);
     void fitWidgetsIn(const QWidget *container);
 
@@ -55,6 +57,6 @@ private:
     const QPointer<QWidget> m_form;
     Features m_features;
     QHash<const QObject *, FormMember> m_members;
-    int m_crowd; ///< how many members there are when deleted ones are looked for
     FormKeys m_keys;
+    FormFocus m_focus;
 };

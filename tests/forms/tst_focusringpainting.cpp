@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "pixels.h"
+#include "ringaround.h"
+#include "widgetform.h"
+
+#include <QHash>
+#include <QPainter>
+#include <QPainterPath>
+#include <QTest>
+
+namespace {
+
+constexpr int margin = 3;
+constexpr int thickness = 2;
+
+QImage pictureAt(QWidget &window, qreal ratio)
+{
+    QImage image((QSizeF(window.size()) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    window.render(&image);
+    return image;
+}
+
+/** A picture with a ring of corners of @p radius drawn around @p rect. */
+QImage withRing(QImage picture, QRectF rect, qreal radius, const QColor &color)
+{
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF outer = rect.adjusted(-margin, -margin, margin, margin);
+    const QRectF inner = outer.adjusted(thickness, thickness, -thickness, -thickness);
+    QPainterPath path;
+    path.addRoundedRect(outer, radius + margin, radius + margin);
+    path.addRoundedRect(inner, radius + margin - thickness, radius + margin - thickness);
+    painter.fillPath(path, color);
+    return picture;
+}
+
+} // namespace
+
+class TestFocusRingPainting : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isTheSameAsADrawing_data();
+    void isTheSameAsADrawing();
+    void isSharpOnAFractionalScale();
+};
+
+void TestFocusRingPainting::isTheSameAsADrawing_data()
+{
+    QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<QString>("widget");
+    for (const qreal ratio : { 1.0, 2.0 }) {
+        for (const char *widget : { "save", "wifi", "volume", "mail" }) {
+            QTest::addRow("%s at %g", widget, ratio) << ratio << QString::fromLatin1(widget);
+        }
+    }
+}
+
+void TestFocusRingPainting::isTheSameAsADrawing()
+{
+    QFETCH(qreal, ratio);
+    QFETCH(QString, widget);
+    WidgetForm form;
+    auto *support = new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    const QHash<QString, QPair<QWidget *, int>> all{
+        { QStringLiteral("save"), { form.save, form.save->height() / 5 } },
+        { QStringLiteral("wifi"), { form.wifi, form.wifi->height() / 2 } },
+        { QStringLiteral("volume"), { form.volume, form.volume->height() / 2 } },
+        { QStringLiteral("mail"), { form.mail, 10 } },
+    };
+    const auto [framed, radius] = all.value(widget);
+    tabTo(framed);
+    QVERIFY(hasRing(form));
+    const QImage actual = pictureAt(form, ratio);
+    support->setFeatures(support->features() & ~OlvFormSupport::FocusRing);
+    QVERIFY(!hasRing(form));
+    const QImage without = pictureAt(form, ratio);
+    COMPARE_PICTURES(actual,
+                     withRing(without, QRectF(framed->geometry()), radius,
+                              form.palette().color(QPalette::Highlight)));
+}
+
+/** Each edge is as many whole pixels of the screen thick, wherever it begins between them. */
+void TestFocusRingPainting::isSharpOnAFractionalScale()
+{
+    for (const qreal ratio : { 1.25, 1.5, 1.75 }) {
+        WidgetForm form;
+        auto *support = new OlvFormSupport(&form);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        tabTo(form.save);
+        const QImage with = pictureAt(form, ratio);
+        support->setFeatures({});
+        const QImage without = pictureAt(form, ratio);
+        const int middle = qRound(form.save->geometry().center().x() * ratio);
+        const QRgb color = form.palette().color(QPalette::Highlight).rgb();
+        int colored = 0;
+        int others = 0;
+        for (int y = 0; y < with.height(); ++y) {
+            const QRgb pixel = with.pixel(middle, y);
+            if (pixel == color) {
+                ++colored;
+            } else if (pixel != without.pixel(middle, y)) {
+                ++others;
+            }
+        }
+        QCOMPARE(colored, 2 * qRound(thickness * ratio));
+        QCOMPARE(others, 0);
+    }
+}
+
+QTEST_MAIN(TestFocusRingPainting)
+#include "tst_focusringpainting.moc"
