@@ -78,11 +78,17 @@ OlvButton::OlvButton(QString text, QWidget *parent)
     setText(text);
 }
 
+// An event filter that hears of a new property may delete the button, so each setter asks for the
+// repaint, which comes later, before it sets its last property.
+
 OlvButton *OlvButton::setOlvStyle(QString color, QString type)
 {
+    const QPointer<OlvButton> self(this);
     setProperty(typeProperty, type);
-    setProperty(ButtonsProperties::color, color);
-    update();
+    if (self) {
+        update();
+        setProperty(ButtonsProperties::color, color);
+    }
     return this;
 }
 
@@ -93,14 +99,14 @@ void OlvButton::setColor(QStringList shades)
 
 void OlvButton::setText(QString text)
 {
-    setProperty(ButtonsProperties::content, text);
     update();
+    setProperty(ButtonsProperties::content, text);
 }
 
 void OlvButton::setChecked(bool checked)
 {
-    setProperty(ButtonsProperties::checked, checked);
     update();
+    setProperty(ButtonsProperties::checked, checked);
 }
 
 bool OlvButton::isChecked()
@@ -195,6 +201,9 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
 
 void OlvButton::setCheckedByClick(bool checked)
 {
+    const QPointer<OlvButton> self(this);
     setChecked(checked);
-    Q_EMIT toggled(checked);
+    if (self) {
+        Q_EMIT toggled(checked);
+    }
 }

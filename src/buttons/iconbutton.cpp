@@ -8,6 +8,7 @@
 #include "support/childaddress_p.h"
 
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 
 #include <limits>
@@ -43,11 +44,15 @@ OlvIconButton::OlvIconButton(QWidget *parent)
     auto *timer = new QTimer(this);
     timer->setInterval(burstInterval);
     setProperty(clickNumberProperty, 0);
+    // The timer goes with the QWidget: it may fire while only that is left of the tile, in an event
+    // loop that another child's end runs.
     connect(
         timer, &QTimer::timeout, this,
-        [this, timer] {
+        [object = static_cast<QObject *>(this), timer] {
             timer->stop();
-            report();
+            if (auto *tile = qobject_cast<OlvIconButton *>(object)) {
+                tile->report();
+            }
         },
         Qt::DirectConnection);
     setProperty(clickTimerProperty, reinterpret_cast<qulonglong>(timer));
@@ -95,8 +100,11 @@ void OlvIconButton::setColor(const QColor &color)
 
 void OlvIconButton::setCheckable(bool checkable)
 {
+    const QPointer<OlvIconButton> self(this);
     setProperty(ButtonsProperties::checkable, checkable);
-    setProperty(ButtonsProperties::checked, false);
+    if (self) {
+        setProperty(ButtonsProperties::checked, false);
+    }
 }
 
 void OlvIconButton::setValue(const QVariant &value)
@@ -119,14 +127,21 @@ void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
     if (!ButtonState::release(this)) {
         return;
     }
+    // an event filter that hears of a new property may delete the tile
+    const QPointer<OlvIconButton> self(this);
     const int count = property(clickNumberProperty).toInt();
     setProperty(clickNumberProperty, qMin(count, std::numeric_limits<int>::max() - 1) + 1);
+    if (!self) {
+        return;
+    }
     if (auto *timer = childAtAddress<QTimer>(this, property(clickTimerProperty))) {
         timer->start();
     }
     setProperty(ButtonsProperties::value, !property(ButtonsProperties::value).toBool());
-    setProperty(ButtonsProperties::checked, !property(ButtonsProperties::checked).toBool());
-    update();
+    if (self) {
+        update();
+        setProperty(ButtonsProperties::checked, !property(ButtonsProperties::checked).toBool());
+    }
 }
 
 void OlvIconButton::enterEvent(QEvent * /*event*/)
@@ -163,9 +178,13 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
 
 void OlvIconButton::report()
 {
+    const QPointer<OlvIconButton> self(this);
     const int count = property(clickNumberProperty).toInt();
-    // zeroed before the report: a slot with an event loop of its own starts a burst anew
+    // zeroed before the signal: a slot that runs an event loop begins a new burst in it
     setProperty(clickNumberProperty, 0);
+    if (!self) {
+        return;
+    }
     if (count == 1) {
         Q_EMIT clicked();
     } else {

@@ -3,6 +3,8 @@
 
 #include "support/accessibility_p.h"
 
+#include <QPointer>
+
 namespace {
 
 constexpr int sideLength = 30;
@@ -34,8 +36,15 @@ void OlvSimpleIconButton::setToggle(const QString &checkedText)
     setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(184,186,188);}"
                                  "QPushButton:hover{color:rgb(32,32,32)}"
                                  "QPushButton:checked{color:rgb(32,32,32)}"));
+    // an event filter that hears of either property may delete the button
+    const QPointer<OlvSimpleIconButton> self(this);
     setProperty(uncheckedProperty, text());
-    setProperty(checkedProperty, checkedText);
+    if (self) {
+        setProperty(checkedProperty, checkedText);
+    }
+    if (!self) {
+        return;
+    }
     connect(this, &QPushButton::clicked, this, [this](bool checked) {
         setText(property(checked ? checkedProperty : uncheckedProperty).toString());
     });
@@ -43,7 +52,12 @@ void OlvSimpleIconButton::setToggle(const QString &checkedText)
 
 void OlvSimpleIconButton::setTextIcon(const QString &uncheckedText, const QString &checkedText)
 {
+    const QPointer<OlvSimpleIconButton> self(this);
     setProperty(uncheckedProperty, uncheckedText);
-    setProperty(checkedProperty, checkedText);
-    setText(isChecked() ? checkedText : uncheckedText);
+    if (self) {
+        setProperty(checkedProperty, checkedText);
+    }
+    if (self) {
+        setText(isChecked() ? checkedText : uncheckedText);
+    }
 }

@@ -23,6 +23,12 @@ constexpr QRgb frameColor = qRgb(220, 223, 230);
 constexpr QRgb iconColor = qRgb(184, 186, 188);
 constexpr QRgb focusedIconColor = qRgb(18, 183, 245);
 
+/** An application may have written any number. */
+int bounded(int width)
+{
+    return qBound(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX);
+}
+
 QString normalState()
 {
     return QStringLiteral("normal");
@@ -30,12 +36,24 @@ QString normalState()
 
 } // namespace
 
-/** The parts of a line; an application may find and delete either. */
+/**
+ * The parts of a line. An application may find and delete either; while one is being destroyed,
+ * only its QWidget may be left of it, which is no QLineEdit or button any more.
+ */
 class OlvLineEdit::Private
 {
 public:
-    QPointer<QLineEdit> editor;
-    QPointer<OlvSimpleIconButton> pwdButton;
+    QLineEdit *editor() const
+    {
+        return qobject_cast<QLineEdit *>(editorObject);
+    }
+    OlvSimpleIconButton *pwdButton() const
+    {
+        return qobject_cast<OlvSimpleIconButton *>(pwdButtonObject);
+    }
+
+    QPointer<QObject> editorObject;
+    QPointer<QObject> pwdButtonObject;
 };
 
 OlvLineEdit::OlvLineEdit(QWidget *parent)
@@ -53,17 +71,20 @@ OlvLineEdit::OlvLineEdit(QWidget *parent)
     activateWindow();
     setFocusPolicy(Qt::StrongFocus);
 
-    d->editor = new QLineEdit(this);
-    d->editor->setStyleSheet(QStringLiteral("border: none;background-color:rgba(0,0,0,0)"));
-    d->editor->installEventFilter(this);
+    auto *editor = new QLineEdit(this);
+    d->editorObject = editor;
+    editor->setStyleSheet(QStringLiteral("border: none;background-color:rgba(0,0,0,0)"));
+    editor->installEventFilter(this);
 
-    d->pwdButton = new OlvSimpleIconButton(visible, QFont(QStringLiteral("FontAwesome")), this);
-    d->pwdButton->hide();
-    d->pwdButton->setToggle(invisible);
-    connect(d->pwdButton, &QPushButton::clicked, d->editor,
-            [editor = d->editor.data()](bool checked) {
-                editor->setEchoMode(checked ? QLineEdit::Normal : QLineEdit::Password);
-            });
+    auto *pwdButton = new OlvSimpleIconButton(visible, QFont(QStringLiteral("FontAwesome")), this);
+    d->pwdButtonObject = pwdButton;
+    pwdButton->hide();
+    pwdButton->setToggle(invisible);
+    connect(pwdButton, &QPushButton::clicked, editor, [object = d->editorObject](bool checked) {
+        if (auto *alive = qobject_cast<QLineEdit *>(object)) {
+            alive->setEchoMode(checked ? QLineEdit::Normal : QLineEdit::Password);
+        }
+    });
 }
 
 OlvLineEdit::~OlvLineEdit() = default;
@@ -80,64 +101,80 @@ void OlvLineEdit::setValue(const QVariant &value)
 
 void OlvLineEdit::setText(const QString &text)
 {
-    if (d->editor) {
-        d->editor->setText(text);
+    if (QLineEdit *editor = d->editor()) {
+        editor->setText(text);
     }
 }
 
 QString OlvLineEdit::getText()
 {
-    return d->editor ? d->editor->text() : QString();
+    const QLineEdit *editor = d->editor();
+    return editor ? editor->text() : QString();
 }
 
 QLineEdit *OlvLineEdit::lineEdit() const
 {
-    return d->editor;
+    return d->editor();
 }
 
 void OlvLineEdit::setPlaceholderText(const QString &text)
 {
-    if (d->editor) {
-        d->editor->setPlaceholderText(text);
+    if (QLineEdit *editor = d->editor()) {
+        editor->setPlaceholderText(text);
     }
 }
 
+// An event filter on the line or on a part of it may delete the line at each step that sends an
+// event: a new property, font or visibility.
+
 void OlvLineEdit::setIcon(const QString &icon)
 {
+    const QPointer<OlvLineEdit> self(this);
     setProperty(iconProperty, icon);
-    setProperty(iconWidthProperty, iconWidth(icon));
-    resizeEvent(nullptr);
-    update();
+    if (self) {
+        setProperty(iconWidthProperty, iconWidth(icon));
+    }
+    if (self) {
+        update();
+        resizeEvent(nullptr);
+    }
 }
 
 void OlvLineEdit::setPassWord(bool on)
 {
+    const QPointer<OlvLineEdit> self(this);
     setProperty(passwordProperty, on);
-    if (d->pwdButton) {
-        d->pwdButton->setVisible(on);
+    if (OlvSimpleIconButton *pwdButton = self ? d->pwdButton() : nullptr) {
+        pwdButton->setVisible(on);
     }
-    if (d->editor) {
-        d->editor->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
+    if (QLineEdit *editor = self ? d->editor() : nullptr) {
+        editor->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
     }
-    resizeEvent(nullptr);
-    update();
+    if (self) {
+        update();
+        resizeEvent(nullptr);
+    }
 }
 
 void OlvLineEdit::setPwdIcon(const QString &hidden, const QString &shown)
 {
-    if (d->pwdButton) {
-        d->pwdButton->setTextIcon(hidden, shown);
+    if (OlvSimpleIconButton *pwdButton = d->pwdButton()) {
+        pwdButton->setTextIcon(hidden, shown);
     }
 }
 
 bool OlvLineEdit::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn) {
-        setProperty(stateProperty, QStringLiteral("edit"));
-        update();
-    } else if (event->type() == QEvent::FocusOut) {
-        setProperty(stateProperty, normalState());
-        update();
+    if (event->type() != QEvent::FocusIn && event->type() != QEvent::FocusOut) {
+        return QObject::eventFilter(watched, event);
+    }
+    const QPointer<OlvLineEdit> self(this);
+    const QPointer<QObject> receiver(watched);
+    update();
+    setProperty(stateProperty,
+                event->type() == QEvent::FocusIn ? QStringLiteral("edit") : normalState());
+    if (!self || !receiver) {
+        return true; // an object that has gone must not get the event
     }
     return QObject::eventFilter(watched, event);
 }
@@ -150,44 +187,51 @@ void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
     painter.drawRoundedRect(QRectF(0, 0, width(), height()), frameRadius, frameRadius);
     const bool isNormal = property(stateProperty).toString() == normalState();
     painter.setPen(QColor(isNormal ? iconColor : focusedIconColor));
-    painter.drawText(QRect(0, 0, property(iconWidthProperty).toInt(), height()), Qt::AlignCenter,
-                     property(iconProperty).toString());
+    painter.drawText(QRect(0, 0, bounded(property(iconWidthProperty).toInt()), height()),
+                     Qt::AlignCenter, property(iconProperty).toString());
 }
 
 void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
 {
+    const QPointer<OlvLineEdit> self(this);
+    const QPointer<QWidget> editor(d->editor());
+    const QPointer<QWidget> pwdButton(d->pwdButton());
     QFont sized = font();
     // QFont keeps its size, with a warning, when it is told to be 0 points large
     if (height() / 2 > 0) {
         sized.setPointSize(height() / 2);
     }
     setFont(sized);
-    if (d->editor) {
-        d->editor->setFont(sized);
+    if (editor) {
+        editor->setFont(sized);
     }
-    if (d->pwdButton) {
-        d->pwdButton->setFont(sized);
+    if (pwdButton) {
+        pwdButton->setFont(sized);
+    }
+    if (!self) {
+        return;
     }
 
     const int column = iconWidth(property(iconProperty).toString());
     const int pwdWidth = property(passwordProperty).toBool() ? height() : 0;
     setProperty(iconWidthProperty, column);
-    if (d->editor) {
-        d->editor->setGeometry(column, 0, width() - column - pwdWidth, height());
+    if (self && editor) {
+        editor->setGeometry(column, 0, width() - column - pwdWidth, height());
     }
-    if (d->pwdButton) {
-        d->pwdButton->setGeometry(width() - height(), 0, height(), height());
+    if (self && pwdButton) {
+        pwdButton->setGeometry(width() - height(), 0, height(), height());
     }
 }
 
 void OlvLineEdit::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (d->editor) {
-        d->editor->setFocus(Qt::OtherFocusReason);
+    if (QLineEdit *editor = d->editor()) {
+        editor->setFocus(Qt::OtherFocusReason);
     }
 }
 
 int OlvLineEdit::iconWidth(const QString &icon) const
 {
-    return qMax(QFontMetrics(font()).boundingRect(icon).width() + iconMargin, height());
+    const int width = QFontMetrics(font()).boundingRect(icon).width();
+    return qMax(bounded(width) + iconMargin, height());
 }

@@ -31,6 +31,7 @@ public:
     ShortcutCapture capture;
     QPointer<OlvShortcut> held;
     OwnToolTip tip;
+    bool isEnding = false; // nothing would delete a shortcut that is taken now
 };
 
 OlvShortcutEdit::OlvShortcutEdit(QWidget *parent)
@@ -54,13 +55,13 @@ OlvShortcutEdit::OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent)
 
 OlvShortcutEdit::~OlvShortcutEdit()
 {
+    d->isEnding = true;
     delete d->held;
 }
 
 OlvShortcut *OlvShortcutEdit::shortcut()
 {
-    // The properties are open to anybody's writing: they can hide the shortcut, but not name
-    // another.
+    // An application may write the properties: that can hide the shortcut, but not name another.
     const bool isHeld = property(hasShortcutProperty).toBool()
         && property(shortcutProperty).toULongLong() == reinterpret_cast<qulonglong>(d->held.data());
     return isHeld ? d->held.data() : nullptr;
@@ -80,6 +81,13 @@ void OlvShortcutEdit::setValue(const QVariant &value)
 bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
 {
     if (!shortcut) {
+        return false;
+    }
+    if (d->isEnding) {
+        // called by a slot that hears of the end of the one that is held
+        if (shortcut != d->held) {
+            delete shortcut;
+        }
         return false;
     }
     const QPointer<OlvShortcutEdit> self(this);
@@ -102,11 +110,17 @@ bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
             return false;
         }
     }
+    // From here on others hear of it, and may delete the field or have it hold another shortcut.
     setProperty(hasShortcutProperty, true);
-    setProperty(shortcutProperty, reinterpret_cast<qulonglong>(candidate.data()));
-    Q_EMIT shortcutChanged(this->shortcut());
     if (self) {
-        Q_EMIT valueChanged(getValue());
+        setProperty(shortcutProperty, reinterpret_cast<qulonglong>(d->held.data()));
+    }
+    if (self) {
+        Q_EMIT shortcutChanged(this->shortcut());
+    }
+    const QVariant value = self ? getValue() : QVariant();
+    if (self) {
+        Q_EMIT valueChanged(value);
     }
     return true;
 }
@@ -118,7 +132,7 @@ void OlvShortcutEdit::clear()
     }
     const QPointer<OlvShortcutEdit> self(this);
     delete d->held;
-    if (self) {
+    if (self && !d->held) { // a slot of destroyed() may have set another
         setProperty(hasShortcutProperty, false);
     }
 }

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "deletiontable.h"
+
+namespace DeletionTable {
+
+/** Qt's own widgets. */
+QVector<Subject> plainSubjects();
+QVector<Subject> buttonSubjects();
+QVector<Subject> inputSubjects();
+
+/** All of them. */
+const QVector<Subject> &everySubject();
+
+} // namespace DeletionTable

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "subjects.h"
+
+#include <QTest>
+
+using namespace DeletionTable;
+
+/** Listeners to updates of accessibility that delete the widget that they hear of. */
+class TestDeletionByAssistants : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survives_data();
+    void survives();
+};
+
+void TestDeletionByAssistants::survives_data()
+{
+    addRows(everySubject(), Listener::UpdateHandler);
+}
+
+void TestDeletionByAssistants::survives()
+{
+    check(everySubject(), Listener::UpdateHandler);
+}
+
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    TestDeletionByAssistants test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_deletionbyassistants.moc"
