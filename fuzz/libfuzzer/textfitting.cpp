@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "fuzztarget.h"
+#include "wrappedslowly.h"
 
 #include <OlvWidgets/foundation.h>
 
@@ -8,107 +9,6 @@
 #include <QGuiApplication>
 
 #include <array>
-
-/** The documented rules, implemented a second time in the simplest way. */
-namespace Plain {
-
-bool isDigit(QChar character)
-{
-    return character.unicode() >= 48 && character.unicode() <= 57;
-}
-
-bool isLetter(QChar character)
-{
-    const ushort code = character.unicode();
-    return (code >= 65 && code <= 90) || (code >= 97 && code <= 122);
-}
-
-int run(const QString &text, QChar next)
-{
-    int length = 0;
-    for (int i = text.size() - 1; i >= 0; --i) {
-        const bool belongs =
-            (isDigit(next) && isDigit(text[i])) || (isLetter(next) && isLetter(text[i]));
-        if (!belongs) {
-            break;
-        }
-        ++length;
-    }
-    return length;
-}
-
-int fitting(const QString &text, int width, const QFontMetrics &metrics)
-{
-    long long sum = 0;
-    int count = 0;
-    for (const QChar character : text) {
-        sum += metrics.horizontalAdvance(character);
-        if (sum >= width) {
-            break;
-        }
-        ++count;
-    }
-    return count;
-}
-
-int lines(const QString &text, int width, const QFontMetrics &metrics)
-{
-    int count = 0;
-    const QStringList paragraphs = text.split(QLatin1Char('\n'));
-    for (QString rest : paragraphs) {
-        while (!rest.isEmpty()) {
-            ++count;
-            const int taken = fitting(rest, width, metrics);
-            if (taken == rest.size()) {
-                break;
-            }
-            const int carried = run(rest.left(taken), rest[taken]);
-            // a run that is wider than a line is split, and a line takes a character at least
-            rest = rest.mid(qMax(1, carried == taken ? taken : taken - carried));
-        }
-    }
-    return count;
-}
-
-int pointSize(const QString &text, const QSize &box, QFont font)
-{
-    const auto isHighEnough = [&] {
-        const QFontMetrics metrics(font);
-        return static_cast<long long>(lines(text, box.width(), metrics)) * metrics.lineSpacing()
-            <= box.height();
-    };
-    if (isHighEnough()) {
-        return font.pointSize();
-    }
-    int size = font.pointSize() > 0 ? font.pointSize() - 1 : QFontInfo(font).pointSize();
-    while (size > 1) {
-        font.setPointSize(size);
-        if (isHighEnough()) {
-            return size;
-        }
-        --size;
-    }
-    return 1;
-}
-
-QSize size(const QString &text, const QFontMetrics &metrics)
-{
-    int width = 0;
-    int height = metrics.lineSpacing();
-    QString line;
-    for (const QChar character : text + QLatin1Char('\n')) {
-        if (character != QLatin1Char('\n')) {
-            line.append(character);
-            continue;
-        }
-        width += metrics.horizontalAdvance(line);
-        line.clear();
-    }
-    height += text.count(QLatin1Char('\n')) * metrics.lineSpacing();
-    return QSize(width, height);
-}
-
-} // namespace Plain
 
 namespace {
 
@@ -187,21 +87,21 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     settle(text, font);
     const QFontMetrics metrics(font);
-    require(OlvGlobal::rightDocumentLine(text, next) == Plain::run(text, next), "the run");
-    require(OlvGlobal::accommodate(text, width, font) == Plain::fitting(text, width, metrics),
+    require(OlvGlobal::rightDocumentLine(text, next) == Slowly::run(text, next), "the run");
+    require(OlvGlobal::accommodate(text, width, font) == Slowly::fitting(text, width, metrics),
             "what fits");
-    const int lines = Plain::lines(text, width, metrics);
+    const int lines = Slowly::lines(text, width, metrics);
     require(OlvGlobal::adaptDocumentOfLine(text, width, font) == lines, "the lines");
     require(OlvGlobal::adaptDocumentHeight(text, width, font) == lines * metrics.lineSpacing(),
             "the height");
-    require(OlvGlobal::autoSize(text, font) == Plain::size(text, metrics), "the size");
+    require(OlvGlobal::autoSize(text, font) == Slowly::size(text, metrics), "the size");
     if (!(choice & 0x40)) {
         return 0; // what follows makes a font for each size, and takes most of the time
     }
     settleSmallerSizes(text, font);
     const QSize box(width, height);
     require(OlvGlobal::adaptDocumentToPointSize(text, box, font)
-                == Plain::pointSize(text, box, font),
+                == Slowly::pointSize(text, box, font),
             "the point size");
     return 0;
 }
