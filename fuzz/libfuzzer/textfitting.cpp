@@ -14,12 +14,13 @@ namespace {
 
 const QFont &fontOf(int choice)
 {
-    static const std::array<QFont, 6> fonts = [] {
-        std::array<QFont, 6> made{ QFont(QStringLiteral("DejaVu Sans"), 9),
+    static const std::array<QFont, 7> fonts = [] {
+        std::array<QFont, 7> made{ QFont(QStringLiteral("DejaVu Sans"), 9),
                                    QFont(QStringLiteral("DejaVu Sans"), 14),
                                    QFont(QStringLiteral("宋体"), 9),
                                    QFont(QStringLiteral("FontAwesome"), 12),
                                    QFont(QStringLiteral("DejaVu Sans Mono"), 2),
+                                   QFont(QStringLiteral("DejaVu Sans"), 150),
                                    QFont(QStringLiteral("DejaVu Sans")) };
         made.back().setPixelSize(13);
         for (size_t i = 1; i < made.size(); ++i) {

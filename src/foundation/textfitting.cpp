@@ -11,6 +11,10 @@
 namespace {
 
 constexpr int smallestPointSize = 1;
+/** The sizes from here downwards are tried one by one. */
+constexpr int largestTriedPointSize = 48;
+/** What a length in pixels may differ by from the one that its font's size makes it. */
+constexpr int slack = 2;
 constexpr QLatin1Char newline('\n');
 
 /** A length in pixels; one that no int holds becomes the largest that an int holds. */
@@ -131,14 +135,37 @@ int wrappedLines(const QString &text, int width, Advances &advances,
     return lines;
 }
 
-bool fits(const QString &text, const QSize &box, const QFont &font)
+bool fits(const QString &text, const QSize &box, Advances &advances)
 {
     if (box.height() < 0) {
         return false;
     }
-    Advances advances(font);
     const int most = box.height() / qMax(advances.lineSpacing(), 1);
     return wrappedLines(text, box.width(), advances, most) <= most;
+}
+
+/**
+ * Whether @p text, which is too high for @p box at the size of @p advances, may fit at a size
+ * between half of that and that one.
+ *
+ * Half the size makes everything half as large, but for what rounding, hinting and small bitmaps do
+ * to it: a length is taken to be at least a quarter of what it was, less the slack, and at most as
+ * large plus the slack. A line is narrower than the box unless it has one character alone.
+ */
+bool mayFitAboveHalf(const QString &text, const QSize &box, Advances &advances)
+{
+    qint64 length = 0;
+    int widest = box.width();
+    for (const QChar character : text) {
+        if (character != newline) {
+            const int advance = advances.of(character);
+            length += qMax(advance / 4 - slack, 0);
+            widest = qMax(widest, advance + slack);
+        }
+    }
+    const qint64 lines = qMax<qint64>(length / qMax(widest, 1), 1);
+    const qint64 spacing = advances.lineSpacing() / 4 - slack;
+    return lines * spacing <= box.height();
 }
 
 } // namespace
@@ -178,16 +205,23 @@ int OlvGlobal::adaptDocumentHeight(const QString &text, int width, const QFont &
 
 int OlvGlobal::adaptDocumentToPointSize(const QString &text, const QSize &box, QFont font)
 {
-    if (fits(text, box, font)) {
-        return font.pointSize();
+    {
+        Advances advances(font);
+        if (fits(text, box, advances)) {
+            return font.pointSize();
+        }
     }
     // a font sized in pixels has no point size to start below
     int pointSize = font.pointSize() > 0 ? font.pointSize() - 1 : QFontInfo(font).pointSize();
-    for (; pointSize > smallestPointSize; --pointSize) {
+    while (pointSize > smallestPointSize) {
         font.setPointSize(pointSize);
-        if (fits(text, box, font)) {
+        Advances advances(font);
+        if (fits(text, box, advances)) {
             return pointSize;
         }
+        const bool isFarAbove =
+            pointSize > largestTriedPointSize && !mayFitAboveHalf(text, box, advances);
+        pointSize = isFarAbove ? pointSize / 2 : pointSize - 1;
     }
     return smallestPointSize;
 }

@@ -3,6 +3,7 @@
 
 #include <OlvGlobal>
 
+#include <QElapsedTimer>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QTest>
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void stopsAtOnePoint_data();
     void stopsAtOnePoint();
     void endsForFontsSizedInPixels();
+    void isQuickFromHugeSizes_data();
+    void isQuickFromHugeSizes();
     void handlesAMegabyteOfText();
 };
 
@@ -306,6 +309,35 @@ void TestTextFitting::endsForFontsSizedInPixels()
     QVERIFY(OlvGlobal::adaptDocumentHeight(QStringLiteral("abcdef"), 60, font) <= 20);
     font.setPointSize(shrunk + 1);
     QVERIFY(OlvGlobal::adaptDocumentHeight(QStringLiteral("abcdef"), 60, font) > 20);
+}
+
+void TestTextFitting::isQuickFromHugeSizes_data()
+{
+    QTest::addColumn<QSize>("box");
+    QTest::newRow("a caption's box") << QSize(120, 36);
+    QTest::newRow("a high box") << QSize(120, 400);
+    QTest::newRow("a wide box") << QSize(2000, 40);
+    QTest::newRow("a box without room") << QSize(5, 5);
+    QTest::newRow("a box without width") << QSize(0, 500);
+    QTest::newRow("an invalid box") << QSize(-1, -1);
+}
+
+void TestTextFitting::isQuickFromHugeSizes()
+{
+    QFETCH(QSize, box);
+    const QString text = QStringLiteral("A caption of 5 words");
+    QFont font = fixedFont();
+    // nothing larger than this fits any of the boxes
+    font.setPointSize(400);
+    const int expected = Slowly::pointSize(text, box, font);
+    QElapsedTimer clock;
+    clock.start();
+    font.setPointSize(20000);
+    QCOMPARE(OlvGlobal::adaptDocumentToPointSize(text, box, font), expected);
+    font.setPixelSize(20000);
+    QCOMPARE(OlvGlobal::adaptDocumentToPointSize(text, box, font), expected);
+    // trying every size takes several times as long
+    QVERIFY2(clock.elapsed() < 2000, QByteArray::number(clock.elapsed()).constData());
 }
 
 void TestTextFitting::handlesAMegabyteOfText()

@@ -38,14 +38,15 @@ constexpr int randomRounds = 3000;
 
 } // namespace
 
-/** Compares with the rules as they are told, worked out the slow way, on random texts. */
+/** Compares the library with a slow implementation of the documented rules, on random texts. */
 class TestTextFittingRandom : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void agreesWithTheSlowWayOnRandomTexts();
-    void pointSizeFitsOrIsOneOnRandomTexts();
+    void findsTheSizeThatTryingEachFinds();
+    void findsTheSizeThatTryingEachFindsFromLargeSizes();
 };
 
 void TestTextFittingRandom::agreesWithTheSlowWayOnRandomTexts()
@@ -67,13 +68,29 @@ void TestTextFittingRandom::agreesWithTheSlowWayOnRandomTexts()
     }
 }
 
-void TestTextFittingRandom::pointSizeFitsOrIsOneOnRandomTexts()
+void TestTextFittingRandom::findsTheSizeThatTryingEachFinds()
 {
     QRandomGenerator random(7);
     for (int round = 0; round < randomRounds / 4; ++round) {
         const QString text = randomText(random);
         const QFont font = randomFont(random);
         const QSize box(random.bounded(300), random.bounded(120));
+        QCOMPARE(OlvGlobal::adaptDocumentToPointSize(text, box, font),
+                 Slowly::pointSize(text, box, font));
+    }
+}
+
+void TestTextFittingRandom::findsTheSizeThatTryingEachFindsFromLargeSizes()
+{
+    QRandomGenerator random(11);
+    for (int round = 0; round < randomRounds / 40; ++round) {
+        // Qt would look through all fonts for the characters that this one has not, at every size
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setStyleStrategy(QFont::NoFontMerging);
+        const int size = random.bounded(49, 300);
+        random.bounded(4) == 0 ? font.setPixelSize(size) : font.setPointSize(size);
+        const QString text = randomText(random);
+        const QSize box(random.bounded(2 * size), random.bounded(2 * size));
         QCOMPARE(OlvGlobal::adaptDocumentToPointSize(text, box, font),
                  Slowly::pointSize(text, box, font));
     }
