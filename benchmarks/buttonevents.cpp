@@ -18,13 +18,13 @@ namespace {
 constexpr QRect buttonGeometry(10, 10, 120, 36);
 constexpr QRect sliderGeometry(10, 10, 200, 30);
 constexpr int dragSteps = 10;
-// far enough from one end to beyond the other, so that every drag begins at a place that is known
+// the steps lead beyond the end of the track, so that every drag begins at one of its ends
 constexpr int dragStep = 20; // pixels
 
 /**
  * What the events cost until each has returned. A QPushButton paints itself at once, within the
- * handling of a press and of a click, where the library leaves that to the event loop; the same
- * without any painting, and with all that the events led to, stands beside it.
+ * handling of a press and of a click, while the library leaves painting to the event loop. Other
+ * cases measure the same without any painting, and with all painting that the events cause.
  */
 enum class Painting { AsItComes, None, Complete };
 
@@ -35,7 +35,7 @@ void showFor(Painting painting, QWidget &window)
     settle();
 }
 
-/** The pointer comes, clicks and goes. @p clicks counts what the button reports. */
+/** The pointer enters, clicks and leaves. @p clicks counts the signals of the button. */
 void measureVisits(benchmark::State &state, Painting painting, QWidget &window, QWidget &button,
                    const int &clicks)
 {
@@ -85,12 +85,12 @@ void visitPushButton(benchmark::State &state, Painting painting, const QString &
     measureVisits(state, painting, window, *button, clicks);
 }
 
-/** Drags the knob @p steps times by @p step pixels; the pointer holds it where it took it. */
+/** Drags the knob in several steps of @p step pixels, and releases it. */
 void dragKnob(QWidget &knob, int step)
 {
     QPointF place(knob.rect().center());
     sendMouse(knob, QEvent::MouseButtonPress, place);
-    // the knob has grown and follows the pointer: it is always pulled by one step
+    // the position is relative to the knob, which follows the pointer, and so is the same each time
     for (int i = 0; i < dragSteps; ++i) {
         sendMouse(knob, QEvent::MouseMove, place + QPointF(step, 0));
     }

@@ -42,7 +42,7 @@ QColor fillOf(const ButtonCase &look)
     return look.type == QLatin1String("plain") ? QColor(236, 245, 255) : QColor(64, 158, 255);
 }
 
-/** The button's drawing with nothing left to find out. */
+/** The button's drawing with everything computed in advance. */
 PreparedDrawing preparedDrawing(const ButtonCase &look)
 {
     const bool plain = look.type == QLatin1String("plain");
@@ -61,7 +61,7 @@ PreparedDrawing preparedDrawing(const ButtonCase &look)
     return drawing;
 }
 
-/** The same look in the words of a style sheet. */
+/** The same look as a style sheet. */
 QString styleSheetOf(const ButtonCase &look)
 {
     const QString shape = look.type == QLatin1String("round")
@@ -90,7 +90,7 @@ void bringInto(State state, QWidget &button)
     settle();
 }
 
-/** Times @p button in @p window, shown and in its state. */
+/** Times the painting of @p button in @p window, shown and in its state. */
 void measureButton(benchmark::State &state, QWidget &window, QWidget &button,
                    const ButtonCase &look)
 {
@@ -130,7 +130,7 @@ void paintPrepared(benchmark::State &state, const ButtonCase &look)
     measurePainting(state, *floor);
 }
 
-/** Each caption is drawn once in a long while, and so is new to whatever remembers captions. */
+/** Each caption is drawn so rarely that no cache still has it. */
 template <typename Button> void paintNewCaptions(benchmark::State &state, const QString &styleSheet)
 {
     QWidget window;

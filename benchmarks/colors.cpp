@@ -30,7 +30,7 @@ void addColors()
     addColorBenchmark("color-from-string/qcolor", [hexadecimal] { return QColor(hexadecimal); });
     addColorBenchmark("color-to-string/library", [color] { return OlvColorToString(color); });
     addColorBenchmark("color-to-string/qcolor", [color] { return color.name(); });
-    // what any new string of that length costs before its first character is written
+    // the cost of allocating a new string of that length
     const int length = decimal.size();
     addColorBenchmark("color-to-string/empty-string",
                       [length] { return QString(length, Qt::Uninitialized); });

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** What one writes instead of a listener. */
+/** The subclass that one writes instead of installing a listener. */
 class Overriding : public QWidget
 {
 public:
@@ -22,7 +22,7 @@ protected:
     }
 };
 
-/** Sends @p type over and over; the heap is asked how often the sending made it give memory. */
+/** Sends @p type repeatedly, and counts the heap allocations of sending. */
 void measureSending(benchmark::State &state, QWidget &receiver, QEvent::Type type)
 {
     QMouseEvent event(type, QPointF(1, 1), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);

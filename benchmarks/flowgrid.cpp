@@ -35,8 +35,8 @@ bool allMoved(const Tiles &tiles, const QVector<QPoint> &before)
 }
 
 /**
- * Alternates between two gaps, which moves every tile each time. What the moves leave to paint is
- * painted between, so that each step finds the window as a user's would.
+ * Alternates between two gaps, which moves every tile each time. Pending updates are painted
+ * between the steps, so that each step finds the window in its usual state.
  */
 template <typename SetGap>
 void measureAllMoving(benchmark::State &state, QWidget &window, const Tiles &tiles, SetGap setGap)
@@ -139,7 +139,7 @@ void addEach(benchmark::State &state, int count, Add add)
     }
 }
 
-/** One step down, one up, each until it is painted. */
+/** Scrolls one step down and one up, and paints after each. */
 void measureScrolling(benchmark::State &state, QWidget &window, const QWidget &content,
                       QScrollBar &bar, int step)
 {

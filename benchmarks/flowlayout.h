@@ -5,14 +5,13 @@
 #include <QList>
 
 /**
- * The layout that one writes on stock Qt to put widgets into rows: each item as large as its size
+ * The layout that one writes with plain Qt to put widgets into rows: each item as large as its size
  * hint, a new row where the next one does not fit.
  */
 class FlowLayout : public QLayout
 {
 public:
-    /** As the example in Qt's documentation has it, or with the one care that Qt's own layouts
-     * take. */
+    /** As in the example of Qt's documentation, or cached as in Qt's own layouts. */
     enum class Sizes { WorkedOutEachTime, Remembered };
     FlowLayout(QWidget *parent, Sizes sizes);
     ~FlowLayout() override;

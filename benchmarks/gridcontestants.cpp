@@ -8,7 +8,7 @@ namespace {
 
 constexpr QSize viewSize(960, 640);
 
-/** Puts one tile behind the other and a new row below the last. */
+/** Places one tile after the other, and starts a new row below the last one. */
 class Flow
 {
 public:
@@ -118,7 +118,7 @@ void ScrolledFlowLayout::add(const Tiles &tiles)
     for (QWidget *tile : tiles) {
         layout->addWidget(tile);
     }
-    // adding a widget that is shown already asks for nothing
+    // adding a visible widget does not invalidate the layout
     layout->invalidate();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }

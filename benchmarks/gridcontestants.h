@@ -14,12 +14,12 @@ using Tiles = QList<QWidget *>;
 
 /** A tile that draws nothing, so that the container alone is measured. */
 QWidget *makeEmptyTile(QWidget *parent);
-/** @p count tiles of several sizes in @p parent, shown as soon as it is. */
+/** @p count tiles of several sizes in @p parent, which are shown with it. */
 Tiles makeTiles(int count, QWidget *parent, QWidget *(*makeTile)(QWidget *parent) = makeEmptyTile);
-/** The gap that the library's grid begins with, and the others with it. */
+/** The gap that the library's grid has by default, which the others use as well. */
 constexpr int defaultGap = 15;
 
-/** Where a flow of @p tiles in @p width pixels puts each of them. */
+/** The positions of @p tiles in a flow of @p width pixels. */
 QVector<QPoint> flowPositions(const Tiles &tiles, int width, int gap);
 
 /** The library's grid in a viewport of its window. */
@@ -36,7 +36,7 @@ struct LibraryGrid
     OlvGridLayout *content;
 };
 
-/** The same on stock Qt: a scroll area whose widget has a flow layout. */
+/** The same in plain Qt: a scroll area whose widget has a flow layout. */
 struct ScrolledFlowLayout
 {
     explicit ScrolledFlowLayout(FlowLayout::Sizes sizes = FlowLayout::Sizes::WorkedOutEachTime);
@@ -65,13 +65,13 @@ struct BareTiles
     QWidget *content;
 };
 
-/** Nothing but a move to each tile's place. */
+/** Only moves each tile to its place. */
 struct MovedTiles : BareTiles
 {
     void add(const Tiles &tiles);
 };
 
-/** The grid in its simplest form: all is placed anew at each addition. */
+/** The simplest grid: places all tiles again when one is added. */
 struct NaiveGrid : BareTiles
 {
     void add(QWidget *tile);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/** Each registers the cases of the file that is named so. */
+/** Each registers the cases of the file of that name. */
 void addButtons();
 void addButtonEvents();
 void addColors();

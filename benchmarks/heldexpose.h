@@ -7,8 +7,8 @@
 class QWidget;
 
 /**
- * Keeps the expose event of a window that was just shown back, so that waiting for the window
- * system can be left out of what is timed while the paint that follows is not.
+ * Holds back the expose event of a window that was just shown, so that the wait for the window
+ * system is not timed but the paint after it is.
  */
 class HeldExpose : public QObject
 {
@@ -16,9 +16,9 @@ public:
     /** For @p window, shown already, and @p probe, the widget in it that is painted last. */
     HeldExpose(QWidget &window, QWidget &probe);
 
-    /** Lets events be handled until the window is exposed. False where that painted already. */
+    /** Handles events until the window is exposed. False if that has already painted it. */
     bool waitFor();
-    /** Hands the expose event over to the window. False where that does not paint. */
+    /** Delivers the expose event to the window. False if that does not paint it. */
     bool handOver();
 
     bool eventFilter(QObject *watched, QEvent *event) override;

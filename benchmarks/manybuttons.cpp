@@ -81,7 +81,7 @@ std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count)
     return window;
 }
 
-/** The wait for the window system is left out; the paint that the expose asks for is not. */
+/** Times the paint that the expose event causes, but not the wait for the window system. */
 void measureFirstPaint(benchmark::State &state, const Contestant &contestant, int count)
 {
     settle();
@@ -114,7 +114,7 @@ double heapOfShown(const Contestant &contestant, int count)
 
 void measureHeap(benchmark::State &state, const Contestant &contestant)
 {
-    // whatever the first of its kind brings along is not a button's
+    // what is allocated once, with the first button, is not counted
     heapOfShown(contestant, heapButtonCount);
     settle();
     double bytes = 0;

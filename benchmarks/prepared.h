@@ -9,7 +9,7 @@
 #include <QVector>
 #include <QWidget>
 
-/** One shape with a caption, in the arguments of the QPainter calls that draw it. */
+/** One shape with a caption, as arguments of the QPainter calls that draw it. */
 struct PreparedDrawing
 {
     /** The radius with which an ellipse is drawn. */
@@ -26,8 +26,8 @@ struct PreparedDrawing
 };
 
 /**
- * The floor of all painting: a widget that makes the same QPainter calls as the library's, with
- * every colour, pen, font and rectangle prepared.
+ * The lower bound of all painting: a widget that makes the same QPainter calls as the library's,
+ * with every colour, pen, font and rectangle prepared.
  */
 class PreparedWidget : public QWidget
 {

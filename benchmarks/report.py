@@ -1,9 +1,9 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Holds the results of the benchmarks against the targets.
+"""Compares the results of the benchmarks with the targets.
 
-Prints one table, and with --docs writes performance.md and its plot as well. It succeeds whether or
-not the targets are met: the table says so.
+Prints one table, and with --docs writes performance.md and its plot as well. Ends with success whether
+or not the targets are met, which the table shows.
 """
 
 import argparse
@@ -73,13 +73,13 @@ class Results:
 
 
 def nanoseconds(run):
-    # what was timed in a child process is known to the benchmark alone
+    # only the benchmark knows the time of what ran in a child process
     value = run["real_time" if "/manual_time" in run["name"] else "cpu_time"]
     return value * {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}[run["time_unit"]]
 
 
 def slope(points):
-    """Of the straight line that fits the logarithms best."""
+    """The slope of the straight line that fits the logarithms best."""
     logarithms = [(math.log(size), math.log(cost)) for size, cost in points]
     mean_x = statistics.mean(x for x, _ in logarithms)
     mean_y = statistics.mean(y for _, y in logarithms)
@@ -89,7 +89,7 @@ def slope(points):
 
 
 def measured(results, target):
-    """What the library reached; None where it was not measured."""
+    """The measured value of the library; None where it was not measured."""
     if isinstance(target, Slope):
         points = results.curves()[target.case]["library"]
         return slope(points) if len(points) > 1 else None

@@ -14,7 +14,7 @@
 
 namespace {
 
-/** Set by callers who count instructions: the same number of steps in each run. */
+/** The fixed number of steps per run, which scripts/bench sets to count instructions. */
 constexpr char iterationsVariable[] = "OLV_BENCH_ITERATIONS";
 
 std::atomic<quint64> allocations = 0;
@@ -27,7 +27,8 @@ void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
 void *__libc_realloc(void *memory, std::size_t size);
 
-// In place of the ones that Qt and the C++ library would call: those are counted as well.
+// These replace the C library's functions also for Qt and the C++ library, so that their calls are
+// counted as well.
 void *malloc(std::size_t size)
 {
     allocations.fetch_add(1, std::memory_order_relaxed);

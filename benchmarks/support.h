@@ -14,7 +14,7 @@
 
 /**
  * @file support.h
- * What the groups of cases share. A case stands once for each contestant, under the name
+ * Shared by the groups of cases. A case is registered once for each contestant, under the name
  * "case/contestant" or, where the cost is measured against a size, "case/contestant/size".
  */
 
@@ -25,23 +25,23 @@ benchmark::internal::Benchmark *addBenchmark(const std::string &name, Benchmark 
 
 /** Shows @p window, the only window then, and returns once it is exposed and painted. */
 void showAndWait(QWidget &window);
-/** Handles everything that is posted or due, so that nothing of it falls into a timed loop. */
+/** Handles all posted events and due timers, so that none of them is handled in a timed loop. */
 void settle();
-/** Has @p window painted as far as it was updated, as the event loop would do it next. */
+/** Paints the updated parts of @p window, as the event loop would do next. */
 void paintUpdates(QWidget &window);
 
-/** What @p widget and its children draw, on nothing. */
+/** What @p widget and its children draw, on a transparent background. */
 QImage pictureOf(QWidget &widget);
 /**
- * The timed loop of all painting: @p widget drawn over and over into one image, with a @p change
- * before each time if there is one.
+ * The timed loop of all painting: draws @p widget repeatedly into one image, with @p change called
+ * before each time if it is given.
  */
 void measurePainting(benchmark::State &state, QWidget &widget,
                      const std::function<void()> &change = nullptr);
 
 /**
- * Opens its painter, reads properties, and draws nothing. It has copies of the properties of
- * another widget, and reads some of them.
+ * Has copies of the properties of another widget. Its paint event opens a painter, reads some of
+ * them, and draws nothing.
  */
 class UndrawnWidget : public QWidget
 {
@@ -55,15 +55,15 @@ private:
     QVector<const char *> m_read;
 };
 
-/** Tells @p widget that the pointer came in, and moved, at @p place. */
+/** Sends @p widget an enter event and a mouse move at @p place. */
 void enter(QWidget &widget, QPointF place);
 /** Sends @p widget a mouse event of the left button at @p place. */
 void sendMouse(QWidget &widget, QEvent::Type type, QPointF place);
 
-/** The look of the library's slider in the words of a style sheet for a QSlider. */
+/** The look of the library's slider as a style sheet for a QSlider. */
 QString sliderStyleSheet();
 
-/** How often this process has asked for memory on the heap. */
+/** The number of heap allocations of this process so far. */
 quint64 heapAllocations();
 /** The bytes of the heap that are in use. */
 double heapInUse();

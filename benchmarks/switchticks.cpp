@@ -39,7 +39,7 @@ public:
         return m_on;
     }
 
-    /** @p progress is 0 at the start of the way and 1 at its end. */
+    /** @p progress is 0 at the start of the animation and 1 at its end. */
     void slideTo(qreal progress)
     {
         const int travel = width() - height();
@@ -131,7 +131,7 @@ void toggleHandWritten(benchmark::State &state)
     }
 }
 
-/** The frames come from the benchmark in place of the clock. */
+/** The benchmark requests the frames instead of a timer. */
 void toggleAnimated(benchmark::State &state)
 {
     QWidget window;

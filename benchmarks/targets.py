@@ -1,8 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the library is held to: the one place where the targets stand.
-
-A row without a limit is shown beside the others and held to nothing.
-"""
+"""The targets for the costs of the library. A row without a limit is for comparison only."""
 
 from typing import NamedTuple, Optional
 

@@ -33,9 +33,8 @@ void fitByLibrary(benchmark::State &state, const QString &text)
 }
 
 /**
- * What no search by trying can do without when it starts anew at each size: every character is
- * measured once. Where the lines break and whether they fit is not even asked, and the size at
- * which to stop is known beforehand.
+ * The least work of any search that tries one size after the other: it measures every character
+ * once at each size. Breaking lines is left out, and the size at which to stop is known in advance.
  */
 void measureAtEachSize(benchmark::State &state, const QString &text)
 {

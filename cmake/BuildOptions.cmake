@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What every target of this project is compiled with; linked privately, so that none of it reaches a
-# user's build.
+# The compile options of all targets of this project. Targets link it privately, so that users of the
+# libraries do not inherit them.
 add_library(olv_build_options INTERFACE)
 
 target_compile_options(olv_build_options INTERFACE

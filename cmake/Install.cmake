@@ -4,8 +4,8 @@ include(CMakePackageConfigHelpers)
 set(olv_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OlvWidgets)
 set(olv_qmake_dir ${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/modules)
 
-# The components are the packages that distributions make: one of each library, one for developers,
-# and the plugin's, which its own folder installs.
+# The components match the packages of a distribution: one for each library, one for developers, and one
+# for the Designer plugin, which its own folder installs.
 install(TARGETS OlvWidgets
     EXPORT OlvWidgetsTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
@@ -30,8 +30,8 @@ install(FILES
     DESTINATION ${olv_cmake_dir}
     COMPONENT development)
 
-# pkg-config and qmake find the installed tree relative to their own files, so that a tree installed
-# into another prefix (cmake --install --prefix) works as it stands.
+# The files for pkg-config and qmake name folders relative to their own, so that a tree installed into
+# another prefix (cmake --install --prefix) works unchanged.
 file(RELATIVE_PATH olv_prefix_from_pkgconfig
     /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 file(RELATIVE_PATH olv_prefix_from_qmake /prefix/${olv_qmake_dir} /prefix)

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-# Run by CPack once it has made the packages: takes out the maintainer scripts that CPack gives to the
-# packages of libraries, which run ldconfig. Their triggers do that already, once for all packages. And
-# says what CPack cannot say: all files lie in folders of their architecture, or are the same in all, so
-# that the packages of several architectures can be installed side by side.
+# Run by CPack once it has made the packages. Removes the maintainer scripts that CPack adds to packages of
+# libraries to run ldconfig, since the packages' triggers do that already. Adds the field Multi-Arch, which
+# CPack cannot write: files lie in folders of their architecture or are the same on all architectures, so
+# that the packages of several architectures can be installed together.
 foreach(package IN LISTS CPACK_PACKAGE_FILES)
     set(content ${CPACK_OLV_GENERATED_DIR}/content)
     file(REMOVE_RECURSE ${content})

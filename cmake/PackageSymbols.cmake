@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Run by CPack between the installation and the packages: checks each library against the symbols file
-# that is kept for it, makes the control files of its package, and tells dpkg-shlibdeps which of the
-# packages to come has which library.
+# Run by CPack after the installation and before the packages are made: compares each library with its
+# symbols file, makes the control files of its package, and tells dpkg-shlibdeps which of the new packages
+# contains which library.
 set(version ${CPACK_PACKAGE_VERSION})
 string(REGEX MATCH "^[0-9]+" major ${version})
 
@@ -17,7 +17,7 @@ foreach(pair "widgets libOlvWidgets" "systeminfo libOlvSystemInfo")
     file(WRITE ${control_dir}/shlibs "${dependency}")
     file(WRITE ${control_dir}/triggers "activate-noawait ldconfig\n")
     string(APPEND shlibs "${dependency}")
-    # level 4: a symbol that has come or gone is an error, with a patch of the kept file
+    # level 4: added and removed symbols are errors, and the difference is printed
     execute_process(
         COMMAND dpkg-gensymbols -c4 -p${package} -v${version} -e${file}
             -I${CPACK_OLV_PACKAGING_DIR}/${package}.symbols -O${control_dir}/symbols

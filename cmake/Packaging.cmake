@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-# The Debian packages, one a component: "cpack -G DEB" in a build tree configured with the prefix
-# /usr makes them; scripts/packages does all of it.
+# The Debian packages, one per component. "cpack -G DEB" makes them in a build tree configured with the
+# prefix /usr; scripts/packages does both.
 set(olv_packaging_dir ${PROJECT_SOURCE_DIR}/packaging)
-# The changelog has the version. Its revision begins with 0, so that a package of Debian's own, which
-# begins at 1, would replace this one.
+# The changelog has the version. Its revision begins with 0, so that Debian's own package, whose revision
+# would begin at 1, would be newer.
 file(STRINGS ${olv_packaging_dir}/changelog olv_changelog_entry LIMIT_COUNT 1)
 string(REGEX MATCH "\\(([^-]+)-([^)]+)\\)" olv_debian_version "${olv_changelog_entry}")
 if(NOT CMAKE_MATCH_1 VERSION_EQUAL PROJECT_VERSION)
@@ -16,8 +16,8 @@ set(olv_debian_version ${PROJECT_VERSION}-${olv_debian_revision})
 #             [RECOMMENDS <package>...] [SUGGESTS <package>...]
 #             [ENHANCES <package>...] [LIBRARY])
 #
-# LIBRARY says that the package is that of a shared library, which needs more control files:
-# PackageSymbols.cmake makes them.
+# LIBRARY is for the package of a shared library, which needs more control files, made by
+# PackageSymbols.cmake.
 function(olv_package component package section synopsis description)
     cmake_parse_arguments(arg "LIBRARY" "" "DEPENDS;RECOMMENDS;SUGGESTS;ENHANCES" ${ARGN})
     string(TOUPPER ${component} upper)
@@ -34,7 +34,7 @@ function(olv_package component package section synopsis description)
             ${control_dir}/shlibs ${control_dir}/symbols ${control_dir}/triggers PARENT_SCOPE)
     endif()
 
-    # policy wants each package to bring its changelog and its licence
+    # Debian policy requires a changelog and the licence in each package
     set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package})
     install(FILES ${olv_packaging_dir}/copyright
         DESTINATION ${doc_dir}
@@ -45,7 +45,7 @@ function(olv_package component package section synopsis description)
         COMPONENT ${component} EXCLUDE_FROM_ALL)
 endfunction()
 
-# gzip's own time stamp and file name would make each build's packages differ
+# without gzip's time stamp and file name, which would make the packages of two builds differ
 find_program(OLVWIDGETS_GZIP gzip)
 function(olv_compress source target)
     if(OLVWIDGETS_GZIP)
@@ -65,7 +65,7 @@ olv_package(widgets libolvwidgets${PROJECT_VERSION_MAJOR} libs
 .
 This package contains the library itself."
     LIBRARY
-    # the glyphs of control bars and password buttons
+    # has the glyphs of control bars and password buttons
     RECOMMENDS fonts-font-awesome)
 olv_package(systeminfo libolvsysteminfo${PROJECT_VERSION_MAJOR} libs
     "shortcuts on the whole desktop for Qt 5 programs"

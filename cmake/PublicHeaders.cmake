@@ -6,8 +6,7 @@ include(GenerateExportHeader)
 # Gives the library <target> its public headers, which lie in include/<target>/, and everything that
 # is made from them: the export header, one forwarding header per exported class (so that
 # "#include <OlvSlider>" works) and the umbrella header <<target>/<target>>. Nothing but what these
-# headers declare is exported. The target's property OLV_PUBLIC_HEADERS lists what <target>/ may be
-# followed by in an #include, but the classes.
+# headers declare is exported. The target's property OLV_PUBLIC_HEADERS lists the headers and the umbrella.
 function(olv_public_headers target)
     string(TOLOWER ${target} lower)
     string(TOUPPER ${target} upper)
@@ -25,7 +24,7 @@ function(olv_public_headers target)
     set(umbrella "// SPDX-License-Identifier: MIT\n#pragma once\n")
     foreach(header IN LISTS ARGN)
         set(path ${source_dir}/${target}/${header})
-        # moc looks for Q_OBJECT in the headers that are a target's sources
+        # AUTOMOC looks for Q_OBJECT in headers that are sources of the target
         target_sources(${target} PRIVATE ${path})
         set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${path})
         list(APPEND installed ${path})

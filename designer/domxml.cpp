@@ -80,8 +80,7 @@ void startProperty(QXmlStreamWriter &xml, const QString &name)
     xml.writeAttribute(QStringLiteral("name"), name);
 }
 
-/** Without a size hint of its own, which few of the widgets have, a layout would leave it no room.
- */
+/** A layout shrinks a widget that has no size hint to nothing, unless it has a minimum size. */
 bool needsLeastSize(const WidgetKind &kind)
 {
     const std::unique_ptr<QWidget> widget(kind.create(nullptr));
@@ -195,7 +194,7 @@ QString document(const WidgetKind &kind, void (*write)(QXmlStreamWriter &, const
     QXmlStreamWriter xml(&text);
     xml.writeStartElement(QStringLiteral("ui"));
     xml.writeAttribute(QStringLiteral("language"), QStringLiteral("c++"));
-    // no display name: the widget box shows tool tips only where the entry's name is the class's
+    // no display name: the widget box shows tool tips only for entries named after their class
     write(xml, kind);
 
     xml.writeStartElement(QStringLiteral("customwidgets"));

@@ -5,8 +5,8 @@
 
 struct WidgetKind;
 
-/** What a form gets when a widget of @p kind is dropped into it, as Designer wants it told. */
+/** The XML by which Designer makes a widget of @p kind when one is dropped into a form. */
 QString domXml(const WidgetKind &kind);
 
-/** The same for a widget that lies in a plain one, which it fills. */
+/** The same for a widget inside a plain QWidget, which it fills. */
 QString viewportDomXml(const WidgetKind &kind);

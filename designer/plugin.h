@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
-/** The plugin: every widget of the library that a form may have. */
+/** The plugin: all widgets of the library that can be put into a form. */
 class Plugin : public QObject, public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT

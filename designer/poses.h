@@ -3,7 +3,7 @@
 
 class QWidget;
 
-/** What makes a good picture of a widget for its icon. */
+/** Set a widget up so that its icon shows what it is. */
 namespace Pose {
 
 void lightUp(QWidget *button);
@@ -14,7 +14,7 @@ void switchOn(QWidget *widget);
 void showWindowButtons(QWidget *bar);
 void slideHalfWay(QWidget *slider);
 void fillWithTiles(QWidget *widget);
-/** The placeholder draws nothing, so that it is shown by an outline. */
+/** An outline, for the placeholder, which draws nothing itself. */
 void outline(QWidget *widget);
 
 } // namespace Pose

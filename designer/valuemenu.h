@@ -11,8 +11,8 @@
 class QWidget;
 
 /**
- * The entries of a widget's context menu in Designer for the properties whose values the property
- * editor takes badly or not at all: glyphs that no key types, and colours that are numbers.
+ * The entries of a widget's context menu in Designer for properties that are hard to enter in the
+ * property editor: glyphs, which are not on the keyboard, and colours stored as numbers.
  */
 class ValueMenu : public QObject, public QDesignerTaskMenuExtension
 {

@@ -44,7 +44,7 @@ void dropInViewport(QDesignerWidgetBoxInterface *box, const QString &group, cons
     if (first < 0 || category.widget(first).domXml() == wanted) {
         return;
     }
-    // entries can only be appended: those behind it are taken out and added again
+    // entries can only be appended, so this one and those after it are removed and added again
     for (int i = category.widgetCount() - 1; i >= first; --i) {
         box->removeWidget(place, i);
     }

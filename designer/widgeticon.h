@@ -5,5 +5,5 @@
 
 struct WidgetKind;
 
-/** An icon of the widget itself, as it comes into a form. */
+/** An icon that shows the widget as a form gets it. */
 QIcon widgetIcon(const WidgetKind &kind);

@@ -9,15 +9,15 @@
 
 class QWidget;
 
-/** A property that a new widget of a form is given. */
+/** A property that is set on a widget when it is dropped into a form. */
 struct KindProperty
 {
     enum Way {
-        Declared, ///< one of the class's own, with a setter
-        Dynamic,  ///< one that the widget reads by its name
+        Declared, ///< a Q_PROPERTY of the class
+        Dynamic,  ///< a dynamic property, which the widget reads by its name
     };
 
-    /** What the widget's context menu in Designer asks for, beside the property editor. */
+    /** The dialog that the widget's context menu in Designer offers for the property. */
     enum Dialog {
         NoDialog,
         Glyph, ///< a character of an icon font: a QChar, or a string of one
@@ -26,35 +26,35 @@ struct KindProperty
 
     QString name;
     QVariant value;
-    /** What Designer's property editor says about it. */
+    /** The tool tip in Designer's property editor. */
     QString tip;
-    /** Whether it is a text for the program's user, to be translated. */
+    /** Whether it is a text to be translated. */
     bool isText = false;
     Way way = Dynamic;
     Dialog dialog = NoDialog;
 };
 
-/** What Designer is told about one class of widgets. */
+/** The description of one class of widgets for Designer. */
 struct WidgetKind
 {
     QString className;
-    /** The nearest class that Designer knows by itself. */
+    /** The nearest base class that Designer knows. */
     QString baseName;
     QString toolTip;
     QString whatsThis;
-    /** The size of a new one. */
+    /** The size of a new widget. */
     QSize size;
     QSizePolicy::Policy horizontal;
     QSizePolicy::Policy vertical;
     bool isContainer;
     QVector<KindProperty> properties;
     QWidget *(*create)(QWidget *parent);
-    /** The size of the widget in its icon, and what else makes a good picture of it, or null. */
+    /** The size of the widget in its icon, and a function that prepares it for that, or null. */
     QSize sampleSize;
     void (*pose)(QWidget *widget);
-    /** Whether it belongs into a plain widget, which it fills. */
+    /** Whether it has to be the child of a plain QWidget, which it fills. */
     bool needsViewport = false;
 };
 
-/** Every widget that a form may have, in the order of the widget box. */
+/** All widgets that can be put into a form, in the order of the widget box. */
 QVector<WidgetKind> widgetKinds();

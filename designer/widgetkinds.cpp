@@ -228,7 +228,7 @@ WidgetKind dragWidgetKind()
 
 WidgetKind gridKind()
 {
-    // no container: the widgets in it are made by the program, which adds each to the grid
+    // no container: only widgets that the program passes to addWidget() are arranged
     return { QStringLiteral("OlvGridLayout"),
              QStringLiteral("QWidget"),
              QStringLiteral("Rows of widgets that scroll in a plain widget, the viewport"),

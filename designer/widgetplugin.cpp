@@ -70,8 +70,8 @@ QWidget *WidgetPlugin::createWidget(QWidget *parent)
     QWidget *widget = m_kind.create(parent);
     if (m_isInDesigner) {
         if (parent && m_kind.needsViewport) {
-            // It would follow the form's size as well, and only some time later; so it is made to
-            // follow its viewport here, whose size uic's code sets before there is a widget in it.
+            // The grid's own event filter would also fit it to the form, and only from the event
+            // loop; uic's code sets the viewport's size before the grid exists.
             parent->removeEventFilter(widget);
             parent->installEventFilter(this);
         }
@@ -105,7 +105,7 @@ bool WidgetPlugin::eventFilter(QObject *watched, QEvent *event)
         const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
         auto *widget = qobject_cast<QWidget *>(watched);
         if (widget && isOffered(QString::fromUtf8(name))) {
-            // some widgets arrange themselves by their properties when they are resized
+            // some widgets read their properties only in a resize event
             QResizeEvent resize(widget->size(), widget->size());
             QCoreApplication::sendEvent(widget, &resize);
             widget->update();
@@ -117,7 +117,7 @@ bool WidgetPlugin::eventFilter(QObject *watched, QEvent *event)
 void WidgetPlugin::fillViewport(QWidget *viewport) const
 {
     const auto *form = QDesignerFormWindowInterface::findFormWindow(viewport);
-    // a preview has no form
+    // a preview belongs to no form window
     if (viewport->isWindow() || (form && viewport == form->mainContainer())) {
         return;
     }
@@ -144,14 +144,14 @@ bool WidgetPlugin::asksForValues() const
 void WidgetPlugin::watch(QDesignerFormWindowInterface *form)
 {
     if (m_kind.needsViewport) {
-        // by now the widget box is filled
+        // the widget box is filled only now, after the plugins were loaded
         dropInViewport(form->core()->widgetBox(), group(), m_kind);
     }
     connect(form, &QDesignerFormWindowInterface::widgetManaged, this,
             [=](QWidget *widget) { hideInternalProperties(form, widget); });
 }
 
-/** Designer lists every dynamic property, those that are the widget's own business included. */
+/** Designer lists every dynamic property, also those that widgets keep for internal use. */
 void WidgetPlugin::hideInternalProperties(QDesignerFormWindowInterface *form, QWidget *widget) const
 {
     if (QLatin1String(widget->metaObject()->className()) != m_kind.className) {

@@ -32,8 +32,8 @@ public:
     bool isInitialized() const override;
 
     /**
-     * In Designer: shows a widget anew when one of the properties that it reads is edited, and
-     * keeps one that needs a viewport as large as that.
+     * In Designer: repaints a widget when one of the properties that it reads is edited, and keeps
+     * a widget that needs a viewport at the viewport's size.
      */
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What the examples share; each of them can be configured alone as well, with an installed library.
+# Shared by the examples. Each of them can also be configured alone, with an installed library.
 if(NOT TARGET OlvWidgets::OlvWidgets)
     find_package(OlvWidgets 1.0 REQUIRED)
 endif()
@@ -13,8 +13,8 @@ endif()
 
 # olv_ship_icon_font(<program>)
 #
-# Ships the icon font with <program> as an application should: the font job lists "Font" and loads
-# from "fonts", so that both names stand beside the program.
+# Ships the icon font with <program> as an application should. The font job lists the folder "Font" and
+# loads from the folder "fonts", so the program needs both names beside it.
 function(olv_ship_icon_font program)
     set(fonts ${CMAKE_CURRENT_BINARY_DIR}/Font)
     add_custom_command(

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-# What the scripts beside this file share; to be sourced. Sets `root`, the project's folder.
+# Shared by the scripts in this folder, which source it. Sets `root`, the project's folder.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# Qt needs a locale whose character set has the widgets' Chinese texts.
+# Qt needs a UTF-8 locale for the widgets' Chinese texts.
 export LC_ALL=${LC_ALL:-C.UTF-8}
 
 build_packages=(
@@ -26,7 +26,7 @@ test_packages=(
 # what scripts/packages needs besides
 package_packages=("${docs_packages[@]}" qttools5-dev dpkg-dev file gzip lintian)
 
-# clang's sanitizers and libFuzzer come with the version that the package "clang" stands for
+# the version of libclang-rt is the one of Debian 12's package "clang"
 fuzz_packages=(clang libclang-rt-14-dev)
 
 fail() {
@@ -57,7 +57,7 @@ install_packages() {
         as_root=(sudo)
     fi
     printf 'Installing: %s\n' "${missing[*]}"
-    # an old package list may name versions that the archive no longer has
+    # an outdated package list names versions that the archive no longer has
     "${as_root[@]}" apt-get update -q || fail "apt-get update failed; needed: ${missing[*]}"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -q -y --no-install-recommends "${missing[@]}" ||

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Where a C++ file can be changed a little, so that a test ought to notice."""
+"""Small changes to a C++ file that a test should notice."""
 
 import re
 from dataclasses import dataclass
@@ -13,8 +13,8 @@ TOKEN = re.compile(
       | (?P<sign><<=|>>=|->|::|\+\+|--|<<|>>|<=|>=|==|!=|&&|\|\||[-+*/%&|^]=|.)''',
     re.VERBOSE | re.DOTALL | re.MULTILINE)
 
-# With blanks on both sides, as the code is formatted, these are binary: "<" opens no template, "*"
-# and "&" declare nothing.
+# Given how the code is formatted, these are binary operators if they have blanks on both sides: "<"
+# opens no template, "*" and "&" declare nothing.
 SWAPS = {
     '<': ('<=', '>='), '<=': ('<', '>'), '>': ('>=', '<='), '>=': ('>', '<'),
     '==': ('!=',), '!=': ('==',), '&&': ('||',), '||': ('&&',),
@@ -23,7 +23,7 @@ SWAPS = {
 }
 STEPS = {'++': '--', '--': '++'}
 WORDS = {'true': 'false', 'false': 'true', 'qMin': 'qMax', 'qMax': 'qMin'}
-# Values of one kind, each of which the compiler takes for another.
+# Values of one type each, which can be exchanged.
 KINDS = (
     'Qt::white Qt::black Qt::gray', 'Qt::AlignCenter Qt::AlignLeft', 'Qt::Vertical Qt::Horizontal',
     'Qt::OtherFocusReason Qt::MouseFocusReason', 'Qt::StrongFocus Qt::ClickFocus',
@@ -51,7 +51,7 @@ NO_CALL = re.compile(r'(?:return|static_assert|Q_DECLARE|Q_DISABLE|if|for|while|
 
 @dataclass(frozen=True)
 class Mutant:
-    """One change: the text from start to end of a file becomes another one."""
+    """One change: replaces the text of a file from start to end."""
     file: str
     start: int
     end: int
@@ -76,7 +76,7 @@ def tokens_of(source):
 
 
 def matching(tokens, i):
-    """The place of the bracket that closes the one at i."""
+    """The index of the bracket that closes the one at i."""
     depth = 0
     for place in range(i, len(tokens)):
         if tokens[place].text in '([{':
@@ -120,7 +120,7 @@ def ends_label(code, i):
 
 
 def statements_of(code):
-    """The places of the first token and the semicolon of each statement."""
+    """The indices of the first token and the semicolon of each statement."""
     for i, token in enumerate(code[:-1]):
         if token.text not in ('{', '}', ';') and not (token.text == ':' and ends_label(code, i)):
             continue
@@ -158,7 +158,7 @@ def mutants_of(file, source):
         elif token.text in ('if', 'while') and code[i + 1].text == '(':
             first, last = code[i + 1], code[matching(code, i + 1)]
             condition = source[first.end:last.start]
-            # where it is one "!" already, taking that away is the same
+            # removing a leading "!" is a mutant already
             if not re.fullmatch(r'![^&|]*', condition):
                 add(first, last, '(!(%s))' % condition, 'negation')
         elif token.kind == 'name':

@@ -1,2 +1,2 @@
 // SPDX-License-Identifier: MIT
-// A library that links what the library of widgets links, and has nothing in it.
+// An empty library that links the same libraries as the library of widgets.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What loading the library costs a program that has Qt already: so this program links Qt, but not
+// The cost of loading the library into a program that has loaded Qt: this program links Qt, but not
 // the library.
 #include <benchmark/benchmark.h>
 
@@ -42,7 +42,7 @@ bool load(const char *path, Cost &cost)
 {
     const double bytes = heapInUse();
     const double seconds = cpuSeconds();
-    // lazily, as the program that links it has it loaded
+    // lazy binding, as for a program that links the library
     const void *handle = dlopen(path, RTLD_LAZY | RTLD_LOCAL);
     cost.seconds = cpuSeconds() - seconds;
     cost.bytes = heapInUse() - bytes;
@@ -52,7 +52,7 @@ bool load(const char *path, Cost &cost)
     return handle;
 }
 
-/** Loads in a process of its own, since a library that Qt knows of is never unloaded. */
+/** Loads it in a child process, since the library is never unloaded. */
 bool loadInChild(const char *path, Cost &cost)
 {
     std::array<int, 2> ends{};
@@ -95,7 +95,7 @@ int main(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
     }
-    // What Qt loads on a desktop: the second library shares the X libraries with it.
+    // Qt's platform plugin for X, which uses the same X libraries as the second library.
     if (!dlopen(xcbPlatform, RTLD_NOW | RTLD_GLOBAL)) {
         std::fprintf(stderr, "%s\n", dlerror());
         return 1;

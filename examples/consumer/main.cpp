@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The smallest program on the installed package: shows a slider, or with --check reports what it
-// holds and leaves.
+// The smallest program that uses the installed package: shows a slider, or with --check prints its
+// value and exits.
 #include <OlvSlider>
 #include <OlvWidgets/OlvGlobal>
 #include <OlvWidgets/OlvSlider>

@@ -26,7 +26,7 @@ public:
         connect(bar, &OlvControlBar::changed, this, &EditorWindow::change);
         connect(bar, &OlvControlBar::custom, this, [=](int i) { i == 0 ? open() : void(save()); });
         auto *title = new QLabel(tr("Editor"));
-        title->setAttribute(Qt::WA_TransparentForMouseEvents); // the header below it is dragged
+        title->setAttribute(Qt::WA_TransparentForMouseEvents); // so that presses reach the window
         title->setIndent(16);
         connect(this, &QWidget::windowTitleChanged, title, &QLabel::setText);
         auto *layout = new QGridLayout(this);
@@ -53,7 +53,7 @@ private:
         switch (state) {
         case OlvControlBar::Float:
             setWindowFlag(Qt::Tool, on);
-            setAttribute(Qt::WA_QuitOnClose); // which Qt takes from a tool window
+            setAttribute(Qt::WA_QuitOnClose); // Qt clears it for a tool window
             break;
         case OlvControlBar::Min:
             return showMinimized();
@@ -61,12 +61,12 @@ private:
             return on ? showMaximized() : showNormal();
         case OlvControlBar::Close:
             return void(close());
-        default: // the bar unchecks the other one
+        default: // the bar unchecks the other button
             setWindowFlag(Qt::WindowStaysOnBottomHint, on && state == OlvControlBar::Bottom);
             setWindowFlag(Qt::WindowStaysOnTopHint, on && state == OlvControlBar::Top);
         }
         move(place);
-        show(); // a change of its flags hides a window
+        show(); // changing the flags of a window hides it
     }
 
     bool mayLoseText()

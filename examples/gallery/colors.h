@@ -5,11 +5,11 @@
 
 class QPushButton;
 
-/** Dark text on white: the gallery's colours, and those of what lies on a widget that is light. */
+/** Dark text on white: the gallery's default, and the colours of text on a light widget. */
 QPalette lightColors();
 
 /** Light text on dark grey. */
 QPalette darkColors();
 
-/** On a dark background: makes a glyph light where its own style sheet makes it dark. */
+/** On a dark background: a style sheet that makes a button's glyph light instead of dark. */
 void lightenGlyph(QPushButton *button);

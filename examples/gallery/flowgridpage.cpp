@@ -17,7 +17,7 @@ namespace {
 
 constexpr int tileCount = 240;
 
-/** A tile with its number; the sizes differ, so that rows do as well. */
+/** A tile with its number; the sizes differ, and so do the heights of the rows. */
 QWidget *makeTile(QWidget *grid, int number)
 {
     static const char *const colors[] = { "64,158,255", "103,194,58", "230,162,60", "245,108,108" };
@@ -30,7 +30,7 @@ QWidget *makeTile(QWidget *grid, int number)
     return tile;
 }
 
-/** A grid in a window of its own, which becomes as high as its content. */
+/** A grid in its own window, which becomes as high as its content. */
 void openWindow(QWidget *parent)
 {
     auto *window = new QWidget(parent, Qt::Window);

@@ -35,7 +35,7 @@ FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
 
     auto *header = new QHBoxLayout;
     header->setContentsMargins(16, headerMargin, 8, headerMargin);
-    // the mouse goes through the title to the window, which is moved by it
+    // the title ignores the mouse, so that presses reach the window and drag it
     auto *label = new QLabel(title);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     header->addWidget(label);
@@ -79,7 +79,7 @@ void FramelessWindow::change(OlvControlBar::WindowState state, bool checked)
         setFlag(Qt::Tool, checked);
         break;
     case OlvControlBar::Bottom:
-        // the bar unchecks the other button by itself, and tells only of this one
+        // the bar unchecks the other button itself, and emits a signal for this one only
         setWindowFlag(Qt::WindowStaysOnTopHint, false);
         setFlag(Qt::WindowStaysOnBottomHint, checked);
         break;
@@ -103,8 +103,8 @@ void FramelessWindow::setFlag(Qt::WindowType flag, bool on)
 {
     const QPoint place = pos();
     setWindowFlags(on ? windowFlags() | flag : (windowFlags() & ~flag) | Qt::Window);
-    setAttribute(Qt::WA_QuitOnClose); // which Qt takes from a tool window
-    // a change of its flags hides a window
+    setAttribute(Qt::WA_QuitOnClose); // which Qt clears for a tool window
+    // changing the flags of a window hides it
     move(place);
     show();
 }

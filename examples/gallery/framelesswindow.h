@@ -9,8 +9,8 @@ class OlvMoveWidget;
 class OlvResizeWidget;
 
 /**
- * A window that draws its own frame: a header with a title and the control bar, by which it is
- * moved, handles at its edges, by which it is resized, and its content below.
+ * A window that draws its own frame: a header with a title and the control bar, by which the user
+ * moves it, handles at its edges, by which the user resizes it, and the content below the header.
  */
 class FramelessWindow : public QWidget
 {

@@ -34,7 +34,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     , m_pages(new QStackedWidget)
 {
     setWindowTitle(QStringLiteral("OlvWidgets gallery"));
-    setAutoFillBackground(true); // within another window too
+    setAutoFillBackground(true); // also as the child of the frameless window
     resize(windowSize);
 
     m_names->setFixedWidth(listWidth);

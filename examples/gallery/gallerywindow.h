@@ -14,7 +14,7 @@ public:
     explicit GalleryWindow(QWidget *parent = nullptr);
 
     QStringList pageNames() const;
-    /** Shows the page of that name, whatever its case; false when there is none. */
+    /** Shows the page of that name, ignoring case; false when there is none. */
     bool showPage(const QString &name);
     /**
      * Shows each page in turn and writes a picture of the window to a PNG file named after the page

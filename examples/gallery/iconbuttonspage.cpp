@@ -119,7 +119,7 @@ Page *createIconButtonsPage(QWidget *parent)
 
     page->addHeading(QStringLiteral("OlvSimpleIconButton: a toggle, a plain one, a disabled one"));
     auto *star = makeSimple(page, QStringLiteral("star"), emptyStar);
-    star->setToggle(QChar(fullStar)); // brings a style sheet of its own
+    star->setToggle(QChar(fullStar)); // sets a style sheet as well
     lightenGlyph(star);
     auto *disabled = makeSimple(page, QStringLiteral("disabled"), trash);
     disabled->setEnabled(false);

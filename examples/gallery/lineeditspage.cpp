@@ -25,7 +25,7 @@ OlvLineEdit *addLine(Page *page, const QString &heading, const QString &name, QS
     auto *line = new OlvLineEdit;
     line->setObjectName(name);
     line->setFixedSize(size);
-    // the text is the application's colour, the line white whatever that is
+    // the text has the colour of the application's palette, but the line is always white
     line->findChild<QLineEdit *>()->setPalette(lightColors());
     page->content()->addWidget(line);
     return line;
@@ -64,7 +64,7 @@ Page *createLineEditsPage(QWidget *parent)
     large->setPlaceholderText(QStringLiteral("Mail address"));
     large->setProperty("state", QStringLiteral("edit"));
 
-    // the lines tell nobody when they change: they are asked
+    // line edits emit no signal when their text changes, so a button reads it
     auto *ask = new OlvButton(QStringLiteral("getText()"));
     ask->setFixedSize(100, 30);
     QObject::connect(ask, &OlvButton::clicked, page, [=] {

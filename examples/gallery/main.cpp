@@ -17,7 +17,7 @@ int main(int argc, char **argv)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
-    // 1.5 is 1.5, and not 2
+    // a scale factor of 1.5 is not rounded
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 #endif
@@ -42,14 +42,13 @@ int main(int argc, char **argv)
     parser.addOptions({ page, screenshots, frameless, dark });
     parser.process(application);
 
-    // "Font" and "fonts" lie beside the program, and the font job looks for them here; a folder
-    // that was named on the command line still means the one the user stood in
+    // The font job looks for "Font" and "fonts", which lie beside the program, in the current
+    // folder. A relative path on the command line refers to the folder before the change.
     const QString pictures = QDir().absoluteFilePath(parser.value(screenshots));
     QDir::setCurrent(QApplication::applicationDirPath());
     OlvGlobal::init();
 
-    // for the whole program: a palette that is set on a window does not reach style sheets within
-    // it
+    // set on the application, since widgets with a style sheet ignore the palette of their window
     QApplication::setPalette(parser.isSet(dark) ? darkColors() : lightColors());
 
     QTextStream errors(stderr);

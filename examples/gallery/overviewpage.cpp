@@ -98,7 +98,7 @@ QWidget *makeLine(ushort glyph, const QString &text, bool isPassword)
 {
     auto *line = new OlvLineEdit;
     line->setFixedSize(lineSize);
-    // the text is the application's colour, the line white whatever that is
+    // the text has the colour of the application's palette, but the line is always white
     line->findChild<QLineEdit *>()->setPalette(lightColors());
     line->setIcon(QChar(glyph));
     line->setPassWord(isPassword);
@@ -133,12 +133,13 @@ QWidget *makeSwitch(Page *page, const QString &name, const QColor &whenOn, bool 
     return toggle;
 }
 
-/** A slider at that percentage; setValue() alone would leave its knob at the left. */
+/** A slider at that percentage; setValue() would not move its knob. */
 QWidget *makeSlider(int percentage)
 {
     auto *slider = new OlvSlider;
     slider->setFixedSize(lineSize.width(), slider->height());
-    // the knob learns of the track's length from this, which comes only when the slider is shown
+    // a resize event tells the knob how long its track is; Qt sends it only once the slider is
+    // shown
     QResizeEvent resized(slider->size(), QSize());
     QCoreApplication::sendEvent(slider, &resized);
     QAccessible::queryAccessibleInterface(slider)->valueInterface()->setCurrentValue(percentage);
@@ -170,7 +171,7 @@ QWidget *makeBar(Page *page)
 
 QWidget *makeFlowGrid(Page *page)
 {
-    auto *viewport = new QWidget(page); // without a parent it would be a window to the grid
+    auto *viewport = new QWidget(page); // the grid would treat one without a parent as a window
     viewport->setFixedSize(gridSize);
     auto *grid = new OlvGridLayout(viewport);
     grid->resize(viewport->size()); // until it follows the viewport's first resize
@@ -210,7 +211,7 @@ QWidget *makeStage()
     return stage;
 }
 
-/** Shows the glyphs once the icon font, which is registered in the background, is there. */
+/** Shows the glyphs once the icon font has been registered, which happens in the background. */
 void repaintWithFonts(Page *page)
 {
     auto *poll = new QTimer(page);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr QSize editSize(260, 32);
 
-/** A field, and beside it how often its shortcut has been pressed, in whichever window. */
+/** A field, and a count of the presses of its shortcut, whichever window has the focus. */
 void addEdit(Page *page, QFormLayout *form, const QString &name, OlvShortcutEdit *edit)
 {
     edit->setObjectName(name);

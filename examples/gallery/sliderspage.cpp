@@ -9,7 +9,7 @@
 
 namespace {
 
-/** Dragging is silent, so a slider that is to be followed overrides setValue(). */
+/** Dragging emits no signal, so this slider overrides setValue() to follow it. */
 class LoggedSlider : public OlvSlider
 {
 public:

@@ -67,7 +67,7 @@ Page *createStartUpPage(QWidget *parent)
                             .arg(OlvGlobal::desktopSize.height()));
         icons->setFont(OlvGlobal::getFont(QStringLiteral("FontAwesome"), glyphSize));
         page->log(QStringLiteral("OlvGlobal::isReady() is true"));
-        // the scale is stored just after the flag, so it is read when the flag is seen again later
+        // the thread stores the scale just after the flag, so it is read one poll later
         QTimer::singleShot(pollInterval, page, [=] {
             if (OlvGlobal::isReady()) {
                 scale->setText(QString::number(OlvGlobal::DPI));

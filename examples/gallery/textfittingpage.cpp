@@ -32,7 +32,7 @@ public:
         resize(300, 90);
     }
 
-    /** What to do whenever the caption has been fitted. */
+    /** Called each time the caption has been fitted. */
     void setFitted(const std::function<void()> &fitted)
     {
         m_fitted = fitted;
@@ -65,7 +65,7 @@ protected:
     void paintEvent(QPaintEvent * /*event*/) override
     {
         QPainter painter(this);
-        // an outline would lie half outside, where scales such as 1.5 lose it
+        // two fills instead of an outline, half of which would be clipped at scales such as 1.5
         painter.fillRect(rect(), QColor(64, 158, 255));
         painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor(236, 245, 255));
         painter.setPen(QColor(48, 49, 51));

@@ -62,7 +62,7 @@ public:
         setPalette(colors);
         m_status->setStyleSheet(QStringLiteral("color: rgb(144,147,153); padding: 10px 16px;"));
 
-        // the grid scrolls in its parent, so that this one is a viewport
+        // the grid scrolls within its parent, so it needs one of its own as a viewport
         auto *viewport = new QWidget;
         auto *layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);

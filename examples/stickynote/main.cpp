@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Sticky notes: floating panels that keep on top, that the user drags by their rims and resizes.
-// Each is stored whenever it changes, and so comes back however the program has ended.
+// Each is stored whenever it changes, so that none is lost if the program crashes.
 #include <OlvFlexWidget>
 #include <OlvGlobal>
 #include <OlvSimpleIconButton>
@@ -63,7 +63,7 @@ private:
         connect(remove, &QPushButton::clicked, m_text, &QPlainTextEdit::clear);
         connect(remove, &QPushButton::clicked, this, &QWidget::close);
         connect(m_text, &QPlainTextEdit::textChanged, this, &Note::store);
-        m_settling.setSingleShot(true); // a drag moves the note many times
+        m_settling.setSingleShot(true); // a drag moves the note many times, and stores it once
         m_settling.setInterval(200);
         connect(&m_settling, &QTimer::timeout, this, &Note::store);
     }
@@ -72,7 +72,7 @@ private:
     {
         auto *button =
             new OlvSimpleIconButton(QChar(glyph), QFont(QStringLiteral("FontAwesome"), 11));
-        button->setCheckable(false); // it comes checkable
+        button->setCheckable(false); // the default is true
         button->setFixedSize(22, 22);
         button->setToolTip(tip);
         row->addWidget(button);

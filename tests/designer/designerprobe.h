@@ -10,7 +10,7 @@
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
-/** Every plugin of Designer's stands for a class. */
+/** Every plugin of Designer's describes a class. */
 class ProbeWidget : public QWidget
 {
     Q_OBJECT

@@ -14,7 +14,7 @@
 #include <QStandardItemModel>
 #include <QThread>
 
-// The examples of the classes' documentation stand in what they take for granted: files named after
+// The context that the examples of the classes' documentation assume: files named after
 // the classes, which extract-examples takes out of the headers.
 
 inline void saveWindowPlaces() { }
@@ -134,7 +134,7 @@ public:
     QString checked;
 };
 
-/** Can be had everywhere. */
+/** Can be registered on every platform. */
 class FreeShortcut : public OlvShortcut
 {
 public:

@@ -11,8 +11,8 @@
 constexpr int patience = 30000;
 
 /**
- * An example as its user runs it: a program of its own, with settings of its own, that is worked
- * with through the X server. Questions about a window are about the one that was found last.
+ * An example as its user runs it: a separate program, with its own settings, that is operated
+ * through the X server. Questions about a window refer to the one that was found last.
  */
 class ExampleProgram
 {
@@ -23,7 +23,7 @@ public:
     /** Starts the program, again as well; programs that it starts are looked for in @p path. */
     bool start(const QStringList &options = QStringList(), const QString &path = QString());
     void kill();
-    /** Whether it comes, or has come, to a good end without having complained. */
+    /** Whether it ends, or has ended, successfully and without any output of errors. */
     bool ends();
     bool isRunning() const;
     qint64 processId() const;

@@ -247,7 +247,7 @@ void TestFramelessEditor::tellsThatItCouldNotSave()
     answer(QStringLiteral("Open"), name);
     awaitWindow(name);
     write(QStringLiteral("er"));
-    // whoever runs the test may write to every file, but not to a folder
+    // root may write to every file, but nobody can write to a folder
     QVERIFY(QFile::remove(m_editor->path(name)) && QDir().mkdir(m_editor->path(name)));
     press(Save);
     awaitDialog();

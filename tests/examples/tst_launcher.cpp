@@ -36,7 +36,7 @@ void TestLauncher::namesTheTileThatIsClicked()
 void TestLauncher::startsTheProgramThatIsDoubleClicked()
 {
     ExampleProgram launcher(QStringLiteral(OLV_LAUNCHER));
-    // stands for the browser, whatever is installed
+    // in place of the installed browser, if any
     const QString browser = QStringLiteral("bin/x-www-browser");
     launcher.write(browser, "#!/bin/sh\necho started >>\"$XDG_CONFIG_HOME/browser\"\n");
     QVERIFY(QFile::setPermissions(launcher.path(browser), QFile::ReadUser | QFile::ExeUser));
