@@ -144,7 +144,10 @@ public:
     /** Moves the handles to their places in the widget as large as it is now. */
     void reset();
 
-    /** Resizes the widget as a handle is dragged; consumes nothing. */
+    /**
+     * Resizes the widget as a handle is dragged. It consumes nothing but a move that led to the end
+     * of the handle, which nothing may be sent to then.
+     */
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 

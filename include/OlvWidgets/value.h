@@ -55,6 +55,8 @@ public:
     void dragTo(int progress);
 
 protected:
+    /** Has a release end the drag also when the knob was disabled during it; else as any widget. */
+    bool event(QEvent *event) override;
     /** Draws the disc: white, with a ring 2 pixels wide. */
     void paintEvent(QPaintEvent *event) override;
     /** Any button: grows the knob about its centre and starts a drag. */

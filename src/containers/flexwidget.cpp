@@ -80,12 +80,14 @@ OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
     setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
     const QPointer<OlvResizeWidget> resizing(resizer);
     const QPointer<OlvMoveWidget> moving(mover);
-    connect(timer, &QTimer::timeout, this, [=] {
+    connect(timer, &QTimer::timeout, this, [=, self = static_cast<QObject *>(this)] {
         timer->stop();
-        if (moving) {
-            moving->setMoveArea(rect());
+        // the timer goes after the panel, and may fire while only a QWidget is left of that
+        const auto *panel = qobject_cast<OlvFlexWidget *>(self);
+        if (panel && moving) {
+            moving->setMoveArea(panel->rect());
         }
-        if (resizing) {
+        if (panel && resizing) {
             resizing->reset();
         }
     });
@@ -102,15 +104,24 @@ void OlvFlexWidget::stay(OlvStayType type)
         return;
     }
     const Qt::WindowFlags flags = (windowFlags() ^ hintOf(before)) | hintOf(type);
+    // event filters and listeners of assistive programs may delete the panel at each of these
+    const QPointer<OlvFlexWidget> self(this);
     setProperty(stayProperty, int(type));
-    setWindowFlags(flags);
-    show();
+    if (self) {
+        setWindowFlags(flags);
+    }
+    if (self) {
+        show();
+    }
 }
 
 void OlvFlexWidget::toggleTool()
 {
+    const QPointer<OlvFlexWidget> self(this);
     setWindowFlags(windowFlags() ^ Qt::Tool);
-    show();
+    if (self) {
+        show();
+    }
 }
 
 void OlvFlexWidget::setHeaderWay(HeaderWay way, QColor color)
@@ -118,8 +129,11 @@ void OlvFlexWidget::setHeaderWay(HeaderWay way, QColor color)
     if (way < HeaderTop || way > HeaderRight) {
         return;
     }
+    const QPointer<OlvFlexWidget> self(this);
     setProperty(headerWayProperty, int(way));
-    setProperty(headerColorProperty, color.rgba());
+    if (self) {
+        setProperty(headerColorProperty, color.rgba());
+    }
 }
 
 void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/containers.h>
 
+#include "support/pixels_p.h"
+
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPointer>
@@ -28,12 +30,6 @@ constexpr int scrollStep = 25; // pixels of a unit
 bool isInWindow(const QWidget *parent)
 {
     return !parent || !parent->parent() || (int(parent->windowFlags()) & windowBits) != 0;
-}
-
-/** A coordinate or a length that a widget can have. */
-int toPixels(qint64 value)
-{
-    return int(qBound<qint64>(-QWIDGETSIZE_MAX, value, QWIDGETSIZE_MAX));
 }
 
 /** Moves @p widget, unless it is there already: Qt takes longer to find that out. */
@@ -93,6 +89,12 @@ QString emptyText()
     return QCoreApplication::translate("OlvGridLayout", "空");
 }
 
+/** The grid; null once its destructor has run, also while the children of the widget go. */
+OlvGridLayout *whole(QObject *grid)
+{
+    return qobject_cast<OlvGridLayout *>(grid);
+}
+
 } // namespace
 
 class OlvGridLayout::Private
@@ -142,25 +144,21 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
 
     auto *timer = new QTimer(this);
     timer->setInterval(settlingTime);
-    // what follows the parent's size may lead to the end of the grid
-    connect(timer, &QTimer::timeout, this, [this, timer, self = QPointer<OlvGridLayout>(this)] {
+    connect(timer, &QTimer::timeout, this, [timer, self = QPointer<QObject>(this)] {
         timer->stop();
-        fitParent();
-        if (self) {
-            reUi();
+        // again after what follows the parent's size, which may lead to the end of the grid
+        if (auto *grid = whole(self)) {
+            grid->fitParent();
+        }
+        if (auto *grid = whole(self)) {
+            grid->reUi();
         }
     });
     setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
     d->resizeTimer = timer;
 }
 
-OlvGridLayout::~OlvGridLayout()
-{
-    // the tiles are destroyed after the list, and nothing may look for them in it then
-    for (QWidget *tile : qAsConst(d->tiles)) {
-        tile->disconnect(this);
-    }
-}
+OlvGridLayout::~OlvGridLayout() = default;
 
 void OlvGridLayout::addWidget(QWidget *widget)
 {
@@ -218,30 +216,28 @@ void OlvGridLayout::setSpacing(int spacing)
 
 void OlvGridLayout::reUi()
 {
+    // what hears of a size, of a place or of the label may delete the grid
     const QPointer<OlvGridLayout> self(this);
-    QWidget *parent = parentWidget();
     if (d->tiles.isEmpty()) {
+        const QWidget *parent = parentWidget();
         resize(width(), isSubWindow() || !parent ? emptyHeight : parent->height());
-        if (QLabel *label = d->label()) {
+        if (QLabel *label = self ? d->label() : nullptr) {
             label->show();
         }
     } else {
         if (QLabel *label = d->label()) {
             label->hide();
         }
-        arrange();
-        if (!self) {
-            return;
+        if (self) {
+            arrange();
         }
-        parent = parentWidget();
-        if (!isSubWindow()) {
+        if (self && !isSubWindow()) {
             fitScrollBar();
-        } else if (parent) {
+        } else if (QWidget *parent = self ? parentWidget() : nullptr) {
             parent->resize(parent->width(), height() + 2 * windowBorder);
         }
     }
-    QLabel *label = self ? d->label() : nullptr;
-    if (label) {
+    if (QLabel *label = self ? d->label() : nullptr) {
         label->resize(size());
     }
 }
@@ -278,7 +274,8 @@ void OlvGridLayout::wheelEvent(QWheelEvent *event)
         return;
     }
     const int units = deltaOf(event) < 0 ? unitsPerNotch : -unitsPerNotch;
-    bar->setValue(qBound(0, bar->value() + units, bar->maximum()));
+    // an application may have set any range
+    bar->setValue(int(qBound<qint64>(0, qint64(bar->value()) + units, bar->maximum())));
 }
 
 bool OlvGridLayout::isSubWindow() const
@@ -305,15 +302,20 @@ void OlvGridLayout::makeScrollBar()
                        "QScrollBar::add-line,QScrollBar::sub-line{border:none}"
                        "QScrollBar::sub-page,QScrollBar::add-page{background:rgba(0,0,0,0)}"));
     bar->hide();
-    connect(bar, &QScrollBar::valueChanged, this,
-            [this](int value) { move(0, toPixels(-qint64(value) * scrollStep)); });
+    connect(bar, &QScrollBar::valueChanged, this, [self = static_cast<QObject *>(this)](int value) {
+        if (auto *grid = whole(self)) {
+            grid->move(0, toPixels(-qint64(value) * scrollStep));
+        }
+    });
 }
 
 void OlvGridLayout::watch(QWidget *widget)
 {
-    connect(widget, &QObject::destroyed, this, [this, widget] {
-        d->tiles.removeAll(widget);
-        ++d->departures;
+    connect(widget, &QObject::destroyed, this, [self = static_cast<QObject *>(this), widget] {
+        if (auto *grid = whole(self)) {
+            grid->d->tiles.removeAll(widget);
+            ++grid->d->departures;
+        }
     });
 }
 
@@ -328,8 +330,9 @@ void OlvGridLayout::fitParent()
         resize(parent->width() - 2 * windowBorder, height());
         return;
     }
+    const QPointer<OlvGridLayout> self(this);
     resize(parent->width(), height());
-    if (QScrollBar *bar = scrollBar()) {
+    if (QScrollBar *bar = self ? scrollBar() : nullptr) {
         bar->setGeometry(width() - barDistance, 0, barWidth, d->viewHeight);
     }
 }

@@ -59,6 +59,21 @@ const OlvControlBar::WindowState *stateOf(const QPushButton *button)
     return index < windowButtons.size() ? &windowButtons[index].state : nullptr;
 }
 
+/**
+ * Has a click of a button of @p bar lead to @p reaction, unless the destructor of the bar has run
+ * and only a QWidget is left of it.
+ */
+template <typename Reaction>
+void onClick(OlvControlBar *bar, const QPushButton *button, Reaction reaction)
+{
+    QObject::connect(button, &QPushButton::clicked, bar,
+                     [self = static_cast<QObject *>(bar), reaction] {
+                         if (qobject_cast<OlvControlBar *>(self)) {
+                             reaction();
+                         }
+                     });
+}
+
 } // namespace
 
 class OlvControlBar::Private
@@ -126,8 +141,7 @@ void OlvControlBar::addCustomButton(const QList<QChar> &icons, int index, const 
 {
     QPushButton *button = addButton(icons, firstCustomIcon + index, index, tip);
     button->setStyleSheet(actionStyleSheet());
-    connect(button, &QPushButton::clicked, this,
-            [=] { Q_EMIT custom(button->property(indexProperty).toInt()); });
+    onClick(this, button, [=] { Q_EMIT custom(button->property(indexProperty).toInt()); });
 }
 
 void OlvControlBar::addWindowButton(const QList<QChar> &icons, int index)
@@ -141,19 +155,19 @@ void OlvControlBar::addWindowButton(const QList<QChar> &icons, int index)
     case Top:
         button->setCheckable(true);
         button->setStyleSheet(toggleStyleSheet());
-        connect(button, &QPushButton::clicked, this, [=] { tellToggled(button); });
+        onClick(this, button, [=] { tellToggled(button); });
         break;
     case Max:
         button->setStyleSheet(actionStyleSheet());
         button->setCheckable(true);
         button->setProperty(maximiseProperty, icons.value(index));
         button->setProperty(restoreProperty, icons.value(restoreIcon));
-        connect(button, &QPushButton::clicked, this, [=] { tellMaximised(button); });
+        onClick(this, button, [=] { tellMaximised(button); });
         break;
     case Min:
     case Close:
         button->setStyleSheet(actionStyleSheet());
-        connect(button, &QPushButton::clicked, this, [=] {
+        onClick(this, button, [=] {
             if (const WindowState *state = stateOf(button)) {
                 Q_EMIT changed(*state, true);
             }

@@ -18,33 +18,41 @@ QPoint positionOf(const QEvent *event)
     return mousePosition(static_cast<const QMouseEvent *>(event));
 }
 
-/** A coordinate moved by a drag; the property that says from where may hold any number. */
+/** A coordinate that a drag moves; the property with the place of the press may hold any number. */
 int moved(int coordinate, int to, int from)
 {
     constexpr qint64 farthest = 1 << 29;
     return int(qBound(-farthest, qint64(coordinate) + to - from, farthest));
 }
 
-/** QRect::width() cannot tell the width of an area that spans more than an int. */
+/** In more bits than QRect::width(), which overflows where an area spans more than an int. */
 bool isOfNoWidth(const QRect &area)
 {
     return qint64(area.right()) - area.left() + 1 == 0;
 }
 
-void startMove(OlvMoveWidget *helper, QPoint position)
+/** A listener hears of the mouse before Qt keeps that from a disabled widget. */
+bool isMovable(const QWidget *target)
+{
+    return target && target->isEnabled();
+}
+
+void startMove(const QPointer<OlvMoveWidget> &helper, QPoint position)
 {
     const auto *target = qobject_cast<QWidget *>(helper->parent());
     const QVariant area = helper->property(moveAreaProperty);
-    if (!target || target->isMaximized() || !area.isValid() || !area.toRect().contains(position)) {
+    if (!isMovable(target) || target->isMaximized() || !area.toRect().contains(position)) {
         return;
     }
     helper->setProperty(canMoveProperty, true);
-    helper->setProperty(pressPosProperty, position);
+    if (helper) { // an event filter may have deleted it
+        helper->setProperty(pressPosProperty, position);
+    }
 }
 
-void follow(OlvMoveWidget *helper, QWidget *target, QPoint position)
+void follow(const OlvMoveWidget *helper, QWidget *target, QPoint position)
 {
-    if (helper->property(canMoveProperty).toBool()) {
+    if (isMovable(target) && helper->property(canMoveProperty).toBool()) {
         const QPoint pressed = helper->property(pressPosProperty).toPoint();
         const QPoint place = target->pos();
         target->move(moved(place.x(), position.x(), pressed.x()),
@@ -68,7 +76,7 @@ void OlvMoveWidget::setMoveArea(QRect area)
         area = target->rect();
     }
     if (!property(moveAreaProperty).isValid()) {
-        // the filter is the target's: it may outlive this helper
+        // the filter belongs to the target, which an application may keep longer than this helper
         const QPointer<OlvMoveWidget> helper(this);
         const QPointer<QWidget> moved(target);
         auto *filter = new OlvPluginEventFilter(target);
@@ -78,7 +86,7 @@ void OlvMoveWidget::setMoveArea(QRect area)
             }
         });
         filter->addEventListener(QEvent::MouseMove, [helper, moved](QEvent *event) {
-            if (helper && moved) {
+            if (helper) {
                 follow(helper, moved, positionOf(event));
             }
         });

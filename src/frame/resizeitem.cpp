@@ -55,8 +55,9 @@ OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, 
         resize(cornerThickness * d->width, cornerThickness * d->width);
     }
     place();
-    OlvLastOnceFunction([handle = QPointer<OlvResizeItem>(this)] {
-        if (handle) {
+    OlvLastOnceFunction([handle = QPointer<QWidget>(this)] {
+        // not while the destructor of QWidget is at work, whose parent has forgotten it already
+        if (dynamic_cast<OlvResizeItem *>(handle.data())) {
             handle->raise();
         }
     });
@@ -113,12 +114,12 @@ void OlvResizeItem::place()
 
 void OlvResizeItem::placeAll()
 {
-    place();
-    if (OlvResizeItem *first = firstPartner()) {
-        first->place();
-    }
-    if (OlvResizeItem *second = secondPartner()) {
-        second->place();
+    // what hears of the new place of one may delete any of them
+    const QPointer<QWidget> handles[] = { this, d->first, d->second };
+    for (const QPointer<QWidget> &widget : handles) {
+        if (auto *handle = dynamic_cast<OlvResizeItem *>(widget.data())) {
+            handle->place();
+        }
     }
 }
 

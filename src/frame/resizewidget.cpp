@@ -36,14 +36,12 @@ void OlvResizeWidget::reset()
 
 bool OlvResizeWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool passOn = QObject::eventFilter(watched, event);
     auto *target = qobject_cast<QWidget *>(parent());
-    if (event->type() != QEvent::MouseMove || !target || target->isMaximized()) {
-        return passOn;
-    }
-    const QPointer<OlvResizeItem> handle(dynamic_cast<OlvResizeItem *>(watched));
-    if (!handle) {
-        return passOn;
+    const bool isMove = event->type() == QEvent::MouseMove && target && !target->isMaximized();
+    const QPointer<OlvResizeItem> handle(isMove ? dynamic_cast<OlvResizeItem *>(watched) : nullptr);
+    // a filter hears of the mouse before Qt keeps that from a disabled widget
+    if (!handle || !handle->isEnabled()) {
+        return QObject::eventFilter(watched, event);
     }
     QPoint moved = mousePosition(static_cast<QMouseEvent *>(event)) - handle->pressPosition();
     if (handle->type() == OlvResizeItem::RightEdge) {
@@ -52,9 +50,9 @@ bool OlvResizeWidget::eventFilter(QObject *watched, QEvent *event)
         moved.setX(0);
     }
     target->resize(target->width() + moved.x(), target->height() + moved.y());
-    // whoever heard of the resize may have destroyed the handle
     if (handle) {
         handle->placeAll();
     }
-    return passOn;
+    // the target's resize event may have led to the end of the handle: it gets no more events then
+    return !handle;
 }

@@ -4,6 +4,7 @@
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/mouseposition_p.h"
+#include "support/pixels_p.h"
 #include "value/slidermetrics_p.h"
 
 #include <QPainter>
@@ -17,7 +18,7 @@ constexpr int noProgress = -1;
 
 void tell(QWidget *parent, int progress)
 {
-    // asked each time: what is left of a slider that is being destroyed is no slider any more
+    // asked each time, since the destructor of the slider may have run, which is a QWidget then
     if (auto *slider = dynamic_cast<OlvSlider *>(parent)) {
         slider->setValue(progress);
     }
@@ -66,7 +67,7 @@ void SliderRound::dragTo(int progress)
     progress = qBound(0, progress, SliderMetrics::fullProgress);
     const QPointer<QWidget> slider(d->slider);
     d->progress = progress;
-    placeAt(progress); // after which the knob may be gone
+    placeAt(progress); // what hears of the move may delete the knob
     tell(slider, progress);
 }
 
@@ -81,7 +82,7 @@ void SliderRound::placeAt(int progress)
     // Rounded up, since a drag rounds down: from there it gives the same percentage, wherever the
     // track has a pixel for it.
     const qint64 x =
-        (qBound<qint64>(0, d->maxX, QWIDGETSIZE_MAX) * progress + SliderMetrics::fullProgress - 1)
+        (qMax<qint64>(0, toPixels(d->maxX)) * progress + SliderMetrics::fullProgress - 1)
         / SliderMetrics::fullProgress;
     move(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), y());
 }
@@ -97,12 +98,25 @@ void SliderRound::paintEvent(QPaintEvent * /*event*/)
     disc.stroke(canvas, QColor(SliderMetrics::blue), ringWidth);
 }
 
+bool SliderRound::event(QEvent *event)
+{
+    // Qt keeps the mouse from a disabled widget, also from one that was disabled during a drag
+    if (event->type() == QEvent::MouseButtonRelease && d->pressed && !isEnabled()) {
+        mouseReleaseEvent(static_cast<QMouseEvent *>(event));
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void SliderRound::mousePressEvent(QMouseEvent *event)
 {
-    setGeometry(x() - SliderMetrics::knobInset, 0, SliderMetrics::pressedKnobSize,
+    const QPointer<SliderRound> self(this);
+    setGeometry(toPixels(qint64(x()) - SliderMetrics::knobInset), 0, SliderMetrics::pressedKnobSize,
                 SliderMetrics::pressedKnobSize);
-    d->pressed = true;
-    d->pressX = mousePosition(event).x();
+    if (self) { // what hears of the geometry may have deleted the knob
+        d->pressed = true;
+        d->pressX = mousePosition(event).x();
+    }
 }
 
 void SliderRound::mouseMoveEvent(QMouseEvent *event)
@@ -111,21 +125,21 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const qint64 newX = qint64(mousePosition(event).x()) - d->pressX + x();
-    // setMaxX() takes any number
-    const int maxX = qBound(-QWIDGETSIZE_MAX, d->maxX, QWIDGETSIZE_MAX);
+    const int maxX = toPixels(d->maxX);
+    int place = 0;
     int progress = 0;
     if (newX > maxX) {
-        // a slider narrower than the knob ends left of its start: every drag ends here then
-        move(maxX, 0);
+        // in a slider narrower than the knob maxX is negative, and every drag ends here
+        place = maxX;
         progress = SliderMetrics::fullProgress;
-    } else if (newX < 0) {
-        move(0, 0);
-    } else {
-        move(int(newX), 0);
-        // a slider as wide as the knob has room for 0 alone
+    } else if (newX >= 0) {
+        place = int(newX);
+        // in a slider as wide as the knob maxX is 0, and no drag moves it
         progress = maxX > 0 ? int(newX * SliderMetrics::fullProgress / maxX) : 0;
     }
-    if (progress == d->progress) {
+    const QPointer<SliderRound> self(this);
+    move(place, 0);
+    if (!self || progress == d->progress) {
         return;
     }
     d->progress = progress;
@@ -134,7 +148,10 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
 
 void SliderRound::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    setGeometry(x() + SliderMetrics::knobInset, SliderMetrics::knobInset,
+    const QPointer<SliderRound> self(this);
+    setGeometry(toPixels(qint64(x()) + SliderMetrics::knobInset), SliderMetrics::knobInset,
                 SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
-    d->pressed = false;
+    if (self) {
+        d->pressed = false;
+    }
 }

@@ -29,8 +29,7 @@ constexpr int stepInterval = 50; // milliseconds
 constexpr double stepCount = 5.0;
 constexpr int lastMovingStep = 3; // counted from 0; the step after it is the end
 
-/** Towards zero, as a cast does it; what lies beyond every widget ends at the largest widget's
- * edge. */
+/** Cut off towards zero, and bounded to the coordinates that a widget can have. */
 int truncated(double x)
 {
     return int(qBound<double>(-QWIDGETSIZE_MAX, qIsNaN(x) ? 0.0 : x, QWIDGETSIZE_MAX));
@@ -43,7 +42,7 @@ QList<QAbstractEventDispatcher::TimerInfo> timersOf(const OlvSwitch *widget)
                       : QList<QAbstractEventDispatcher::TimerInfo>();
 }
 
-/** From the start of the animation's timer, which comes before the first step. */
+/** Whether the animation is under way: its timer runs already before the first step. */
 bool isSliding(const OlvSwitch *widget)
 {
     if (widget->property(moveCountProperty).toInt() != 0) {
@@ -74,7 +73,7 @@ OlvSwitch::OlvSwitch(QWidget *parent)
     auto *filter = new OlvPluginEventFilter(this);
     filter->addObject(knob);
     const auto listen = [&](QEvent::Type type, void (OlvSwitch::*reaction)()) {
-        // the filter goes after the switch: an event may come while only the QWidget is left of it
+        // an event may come after the destructor of the switch, while that of QWidget is at work
         filter->addEventListener(type, [self = QPointer<QObject>(this), reaction](QEvent *) {
             if (auto *alive = qobject_cast<OlvSwitch *>(self.data())) {
                 (alive->*reaction)();
@@ -107,7 +106,7 @@ bool OlvSwitch::isChecked() const
 
 void OlvSwitch::setChecked(bool checked)
 {
-    // all of them, since each timer event is a step: a second start leaves the first timer running
+    // all of them, since a second start leaves the first timer running, and each event is a step
     const auto timers = timersOf(this);
     for (const auto &timer : timers) {
         killTimer(timer.timerId);
@@ -161,19 +160,25 @@ SwitchRound *OlvSwitch::knob() const
 
 void OlvSwitch::fitKnob()
 {
-    if (SwitchRound *round = knob()) {
-        round->resize(height(), height());
+    // what hears of the knob's new place may delete the knob and the switch
+    const QPointer<OlvSwitch> self(this);
+    const QPointer<SwitchRound> round(knob());
+    if (round) {
         round->setInset(SwitchRound::Private::insetAt(height()));
-        if (round->d->staysAtEnd && !isSliding(this)) {
-            moveKnobToEnd(property(ValueProperties::switchIsOn).toBool());
-        }
+        round->resize(height(), height());
     }
-    setProperty(moveWidthProperty, (width() - height()) / stepCount);
+    if (self && round && round->d->staysAtEnd && !isSliding(this)) {
+        moveKnobToEnd(property(ValueProperties::switchIsOn).toBool());
+    }
+    if (self) {
+        setProperty(moveWidthProperty, (width() - height()) / stepCount);
+    }
 }
 
 void OlvSwitch::toggle()
 {
-    if (property(moveCountProperty).toInt() != 0) {
+    // the listener hears of the release before Qt keeps the mouse from a disabled widget
+    if (!isEnabled() || property(moveCountProperty).toInt() != 0) {
         return;
     }
     setValue(!property(ValueProperties::switchIsOn).toBool());
@@ -187,14 +192,14 @@ void OlvSwitch::step()
         finish(!on);
         return;
     }
+    const QPointer<OlvSwitch> self(this);
     if (SwitchRound *round = knob()) {
         const double step = property(moveWidthProperty).toDouble();
         round->move(truncated(on ? round->x() - step : round->x() + step), 0);
     }
-    const QPointer<OlvSwitch> self(this);
-    setProperty(moveCountProperty, count + 1);
     if (self) {
         update();
+        setProperty(moveCountProperty, count + 1);
     }
 }
 
@@ -213,7 +218,7 @@ void OlvSwitch::moveKnobToEnd(bool on)
 
 void OlvSwitch::settle(bool on)
 {
-    // whoever hears of a property may delete the switch, an assistive program's helper for example
+    // event filters, slots and listeners of assistive programs may delete the switch
     const QPointer<OlvSwitch> self(this);
     moveKnobToEnd(on);
     if (self) {

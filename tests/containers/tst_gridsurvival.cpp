@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTest>
 
+#include <limits>
 #include <utility>
 
 namespace {
@@ -254,6 +255,16 @@ void TestGridSurvival::survivesNumbersThatNoWidgetHas()
     QCOMPARE(barOf(*scene.grid)->value(), 20);
     wheel(*scene.grid, QPoint(most, 0));
     QCOMPARE(barOf(*scene.grid)->value(), 0);
+    // a range of the application's
+    QScrollBar *bar = barOf(*scene.grid);
+    bar->setRange(least, most);
+    bar->setValue(most);
+    wheel(*scene.grid, QPoint(0, -120));
+    QCOMPARE(bar->value(), most);
+    bar->setValue(least);
+    wheel(*scene.grid, QPoint(0, 120));
+    QCOMPARE(bar->value(), 0);
+    QVERIFY(qAbs(scene.grid->y()) <= QWIDGETSIZE_MAX);
 }
 
 void TestGridSurvival::readsTheMarginAfreshForEachWidget()

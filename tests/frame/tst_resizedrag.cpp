@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "deferred.h"
+#include "onevent.h"
 #include "resizehandles.h"
 
 #include <OlvResizeWidget>
 
+#include <QPointer>
 #include <QTest>
 #include <QtMath>
 
@@ -26,6 +28,8 @@ private Q_SLOTS:
     void doesNothingToAMaximisedWidget();
     void consumesNothing();
     void survivesATargetThatDeletesItsHandles();
+    void survivesAHandleThatDeletesTheOthers_data();
+    void survivesAHandleThatDeletesTheOthers();
     void survivesNumbersThatNoWidgetHas();
 };
 
@@ -182,11 +186,42 @@ void TestResizeDrag::survivesATargetThatDeletesItsHandles()
     const QPointer<OlvResizeItem> watched(corner);
     Mouse::press(corner, { 1, 1 });
     target.armed = true;
-    // straight to the filter: Qt itself would go on to the dead handle
-    QMouseEvent move(QEvent::MouseMove, QPointF(9, 9), Qt::NoButton, Qt::LeftButton, {});
-    QVERIFY(!resizer.eventFilter(corner, &move));
+    // the filter keeps Qt from the handle, which is dead by then
+    Mouse::move(corner, { 9, 9 });
     QVERIFY(watched.isNull());
     QCOMPARE(target.size(), QSize(408, 308));
+    resizer.reset();
+}
+
+void TestResizeDrag::survivesAHandleThatDeletesTheOthers_data()
+{
+    QTest::addColumn<int>("victim");
+    QTest::newRow("the dragged one") << int(OlvResizeItem::Corner);
+    QTest::newRow("the bottom one") << int(OlvResizeItem::BottomEdge);
+}
+
+void TestResizeDrag::survivesAHandleThatDeletesTheOthers()
+{
+    QFETCH(int, victim);
+    QWidget target;
+    target.resize(400, 300);
+    const OlvResizeWidget resizer(&target, 5);
+    target.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&target));
+    const Handles handles = handlesOf(target);
+    const QPointer<OlvResizeItem> bottom(handles.bottom);
+    const QPointer<OlvResizeItem> corner(handles.corner);
+    // the right one is placed after the dragged one, and before the bottom one
+    const OnEvent onResize(handles.right, QEvent::Resize,
+                           [&] { delete (victim == OlvResizeItem::Corner ? corner : bottom); });
+    drag(handles.corner, { 1, 1 }, { 9, 9 });
+    QVERIFY(onResize.happened());
+    QCOMPARE(target.size(), QSize(408, 308));
+    QCOMPARE(!corner, victim == OlvResizeItem::Corner);
+    QCOMPARE(!bottom, victim == OlvResizeItem::BottomEdge);
+    if (bottom) {
+        QCOMPARE(bottom->geometry(), QRect(0, 303, 398, 5));
+    }
 }
 
 void TestResizeDrag::survivesNumbersThatNoWidgetHas()

@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <limits>
+
 namespace {
 
 /** Presses the knob at its middle and moves so that its logical x becomes @p newX, if it may. */
@@ -54,6 +56,7 @@ private Q_SLOTS:
     void knobOutlivesTheSliderItLeft();
     void survivesPositionsThatNoPixelHas_data();
     void survivesPositionsThatNoPixelHas();
+    void survivesPlacesThatNoKnobHas();
     void survivesAnEndThatNoSliderHas();
     void survivesADragWhileItIsDestroyed();
 };
@@ -293,6 +296,24 @@ void TestSliderDrag::survivesPositionsThatNoPixelHas()
     Mouse::press(knob, { place, place });
     Mouse::move(knob, { 10, 10 });
     QVERIFY(QRect(0, 0, 200, 30).contains(knob->geometry()));
+}
+
+void TestSliderDrag::survivesPlacesThatNoKnobHas()
+{
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    OlvSlider slider;
+    SliderRound *knob = knobOf(slider);
+    for (const int x : { least, least + 1, most - 30, most }) {
+        knob->move(x, 0);
+        Mouse::press(knob, { 10, 10 });
+        knob->move(x, 0);
+        Mouse::release(knob, { 10, 10 });
+        Mouse::press(knob, { 10, 10 });
+        Mouse::move(knob, { 10, 10 });
+        Mouse::release(knob, { 10, 10 });
+        QVERIFY(QRect(0, 0, 200, 30).contains(knob->geometry()));
+    }
 }
 
 void TestSliderDrag::survivesAnEndThatNoSliderHas()
