@@ -173,7 +173,7 @@ bool OlvLineEdit::eventFilter(QObject *watched, QEvent *event)
     update();
     setProperty(stateProperty,
                 event->type() == QEvent::FocusIn ? QStringLiteral("edit") : normalState());
-    if (!self || !receiver) {
+    if (!self || (watched && !receiver)) {
         return true; // an object that has gone must not get the event
     }
     return QObject::eventFilter(watched, event);
