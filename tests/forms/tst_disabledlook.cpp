@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "deferred.h"
 #include "pixels.h"
 #include "widgetform.h"
 
@@ -60,6 +61,10 @@ class TestDisabledLook : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup()
+    {
+        runDeferred();
+    }
     void isTheEnabledOneFaded_data();
     void isTheEnabledOneFaded();
     void isPaleForAGlyph();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which widgets a support serves: those of its form, whenever and however they come and go.
+#include "deferred.h"
 #include "widgetform.h"
 
 #include <QDialog>
@@ -27,6 +28,10 @@ class TestFormMembers : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup()
+    {
+        runDeferred();
+    }
     void areThoseThatAreThere();
     void areThoseAtAnyDepth();
     void areThoseThatComeLater();
