@@ -3,6 +3,8 @@
 
 #include <OlvWidgets/foundation.h>
 
+#include "painting/colors_p.h"
+
 #include <QColor>
 
 #include <utility>
@@ -10,7 +12,7 @@
 namespace {
 
 constexpr ButtonPalette primary{ { qRgb(236, 245, 255), qRgb(179, 216, 255), qRgb(102, 177, 255),
-                                   qRgb(64, 158, 255), qRgb(58, 142, 230) } };
+                                   Colors::primary, qRgb(58, 142, 230) } };
 constexpr ButtonPalette success{ { qRgb(240, 249, 235), qRgb(194, 231, 176), qRgb(133, 206, 97),
                                    qRgb(103, 194, 58), qRgb(93, 175, 52) } };
 constexpr ButtonPalette warning{ { qRgb(253, 246, 236), qRgb(245, 218, 177), qRgb(235, 181, 99),

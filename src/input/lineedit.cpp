@@ -2,6 +2,8 @@
 #include <OlvWidgets/buttons.h>
 #include <OlvWidgets/input.h>
 
+#include "painting/colors_p.h"
+
 #include <QEvent>
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -19,7 +21,6 @@ constexpr char stateProperty[] = "state";
 
 constexpr int iconMargin = 5;
 constexpr qreal frameRadius = 3.0;
-constexpr QRgb frameColor = qRgb(220, 223, 230);
 constexpr QRgb iconColor = qRgb(184, 186, 188);
 constexpr QRgb focusedIconColor = qRgb(18, 183, 245);
 
@@ -182,7 +183,7 @@ bool OlvLineEdit::eventFilter(QObject *watched, QEvent *event)
 void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    painter.setPen(QColor(frameColor));
+    painter.setPen(QColor(Colors::inactive));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(QRectF(0, 0, width(), height()), frameRadius, frameRadius);
     const bool isNormal = property(stateProperty).toString() == normalState();

@@ -2,6 +2,7 @@
 #include <OlvWidgets/value.h>
 
 #include "painting/canvas_p.h"
+#include "painting/colors_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 #include "value/slidermetrics_p.h"
@@ -57,7 +58,7 @@ void OlvSlider::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect track(trackInset, trackTop, width() - 2 * trackInset, trackHeight);
-    Shape::roundedRect(track, trackRadius).fill(Canvas(painter), QColor(SliderMetrics::blue));
+    Shape::roundedRect(track, trackRadius).fill(Canvas(painter), QColor(Colors::primary));
 }
 
 void OlvSlider::resizeEvent(QResizeEvent * /*event*/)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QRgb>
-
 /** What the slider and its knob share; lengths are in pixels. */
 namespace SliderMetrics {
 
@@ -14,7 +12,5 @@ constexpr int knobInset = (pressedKnobSize - restingKnobSize) / 2;
 
 /** The value at the far right, in percent. */
 constexpr int fullProgress = 100;
-
-constexpr QRgb blue = qRgb(64, 158, 255);
 
 } // namespace SliderMetrics

@@ -2,6 +2,7 @@
 #include <OlvWidgets/value.h>
 
 #include "painting/canvas_p.h"
+#include "painting/colors_p.h"
 #include "painting/shape_p.h"
 #include "support/mouseposition_p.h"
 #include "support/pixels_p.h"
@@ -95,7 +96,7 @@ void SliderRound::paintEvent(QPaintEvent * /*event*/)
     const Shape disc =
         Shape::ellipse(rect().adjusted(discInset, discInset, -discInset, -discInset));
     disc.fill(canvas, Qt::white);
-    disc.stroke(canvas, QColor(SliderMetrics::blue), ringWidth);
+    disc.stroke(canvas, QColor(Colors::primary), ringWidth);
 }
 
 bool SliderRound::event(QEvent *event)

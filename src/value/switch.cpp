@@ -3,6 +3,7 @@
 #include <OlvWidgets/value.h>
 
 #include "painting/canvas_p.h"
+#include "painting/colors_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 #include "value/switchround_p.h"
@@ -59,7 +60,7 @@ bool isSliding(const OlvSwitch *widget)
 OlvSwitch::OlvSwitch(QWidget *parent)
     : OlvWidget(parent)
 {
-    setColorOpen(QColor(220, 223, 230));
+    setColorOpen(QColor(Colors::inactive));
     setColorClose(QColor(19, 206, 102));
     setProperty(ValueProperties::switchIsOn, false);
     setProperty(moveCountProperty, 0);
