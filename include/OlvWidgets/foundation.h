@@ -8,7 +8,6 @@
 #include <QEvent>
 #include <QFont>
 #include <QHash>
-#include <QList>
 #include <QObject>
 #include <QRgb>
 #include <QSize>
@@ -16,6 +15,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 /**
  * @file foundation.h
@@ -137,11 +137,12 @@ public:
 private:
     Q_DISABLE_COPY(OlvAutoDestroy)
 
-    QList<std::function<void()>> m_list;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**
- * Defers a callable to the event loop: constructing one of these is the whole of its use.
+ * Defers a callable to the event loop; constructing an object is all that there is to do.
  *
  * @image html OlvLastOnceFunction.png
  *
@@ -158,10 +159,10 @@ class OLVWIDGETS_EXPORT OlvLastOnceFunction
 public:
     /**
      * Runs @p callable once, on the calling thread, on the first pass of its event loop after at
-     * least 1 millisecond, whatever becomes of this object. Several run in the order of their
-     * creation; nothing is merged and nothing can be cancelled, so a callable must hold weakly
-     * whatever may die before. An empty callable throws std::bad_function_call out of the event
-     * loop. The calling thread must have an event loop.
+     * least 1 millisecond, whether or not this object still exists. Several run in the order of
+     * their creation; nothing is merged and nothing can be cancelled, so a callable must hold
+     * weakly what may be destroyed before. An empty callable throws std::bad_function_call out of
+     * the event loop. The calling thread must have an event loop.
      */
     explicit OlvLastOnceFunction(std::function<void()> callable);
 };
@@ -173,7 +174,7 @@ public:
  *
  * One filter watches one or more objects and holds at most one listener for each type of event, for
  * all of them alike: a listener is not told which object the event was meant for. An event that has
- * a listener is consumed by it and never reaches the object; every other event goes its way.
+ * a listener is consumed by it and never reaches the object; every other event is delivered.
  *
  * @code
  * auto *filter = new OlvPluginEventFilter(label);
@@ -190,11 +191,11 @@ public:
      * nothing until addObject() is called, and belongs to the caller.
      */
     explicit OlvPluginEventFilter(QObject *parent = nullptr);
-    /** Stops watching, and lets go of the listeners. */
+    /** Stops watching, and destroys the listeners. */
     ~OlvPluginEventFilter() override;
 
     /**
-     * Watches @p object as well; it stays its owner's. A null object is ignored, and so is one that
+     * Watches @p object as well, without owning it. A null object is ignored, and so is one that
      * lives on another thread, with a warning of Qt's.
      */
     void addObject(QObject *object);
@@ -209,7 +210,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QHash<QEvent::Type, std::function<void(QEvent *)>> m_listeners;
+    class Private;
+    const std::unique_ptr<Private> d;
 };
 
 /**
@@ -219,7 +221,7 @@ private:
  * @image html OlvGlobal.png
  *
  * Call init() once, early, after the QGuiApplication exists; it registers the font files on a
- * thread of its own. Whatever needs those fonts or measures waits for isReady():
+ * thread of its own. Code that needs those fonts or measures waits for isReady():
  *
  * @code
  * QApplication application(argc, argv);

@@ -1,22 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/foundation.h>
 
+#include <QList>
+
 #include <utility>
+
+class OlvAutoDestroy::Private
+{
+public:
+    QList<std::function<void()>> list;
+};
 
 // SINGLEGLOBAL is defined in global.cpp, where the order of the library's static initialisation is
 // kept.
 
-OlvAutoDestroy::OlvAutoDestroy() = default;
+OlvAutoDestroy::OlvAutoDestroy()
+    : d(std::make_unique<Private>())
+{ }
 
 OlvAutoDestroy::~OlvAutoDestroy() noexcept(false)
 {
-    // Nobody may find the process-wide instance once its callables run: neither a callable that
-    // calls addDestroy(), nor a guard that would destroy it again.
+    // Cleared before the callables run: one of them may call addDestroy(), or destroy a guard,
+    // which would destroy this instance again.
     const bool isProcessWide = SINGLEGLOBAL == this;
     if (isProcessWide) {
         SINGLEGLOBAL = nullptr;
     }
-    for (const std::function<void()> &callable : qAsConst(m_list)) {
+    for (const std::function<void()> &callable : qAsConst(d->list)) {
         const std::function<void()> copy = callable;
         copy();
     }
@@ -28,6 +38,6 @@ OlvAutoDestroy::~OlvAutoDestroy() noexcept(false)
 void OlvAutoDestroy::addDestroy(std::function<void()> callable)
 {
     if (SINGLEGLOBAL) {
-        SINGLEGLOBAL->m_list.append(callable);
+        SINGLEGLOBAL->d->list.append(callable);
     }
 }

@@ -17,7 +17,7 @@
 #include <system_error>
 #include <thread>
 
-// Created first, so that it exists for whatever the library's other statics might do.
+// Created first, so that it exists for the initialisation of the library's other statics.
 OlvAutoDestroy *OlvAutoDestroy::SINGLEGLOBAL = new OlvAutoDestroy;
 
 QHash<QString, int> OlvGlobal::OlvPluginFonts;
@@ -44,8 +44,8 @@ QString fontKey(const QString &fileName)
 }
 
 /**
- * The font jobs that one application has started. They use what the application's end takes down,
- * so the end has to stop them and wait for them. The thread of each job owns a share of this
+ * The font jobs that one application has started. They use what the application's destructor
+ * destroys, so it has to stop them and wait for them. The thread of each job owns a share of this
  * object, because a job that cannot stop in time lasts longer than the application.
  */
 class FontJobs
@@ -98,7 +98,7 @@ private:
     int m_running = 0;
 };
 
-/** The font jobs of the application that is alive, and the end of those that a program has left. */
+/** The font jobs of the current application, which the end of the program stops. */
 class CurrentFontJobs
 {
 public:

@@ -13,8 +13,8 @@ OlvLastOnceFunction::OlvLastOnceFunction(std::function<void()> callable)
 {
     auto *timer = new QTimer;
     const auto runOnce = [timer, callable = std::move(callable)]() mutable {
-        // The timer repeats and owns this closure: it goes first, so that an event loop within the
-        // callable cannot fire it again, and the callable is taken out of it before it goes.
+        // The repeating timer owns this closure: it is deleted first, so that an event loop within
+        // the callable cannot fire it again, after the callable has been moved out of it.
         const std::function<void()> taken = std::move(callable);
         delete timer;
         taken();

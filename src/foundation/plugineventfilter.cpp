@@ -1,19 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/foundation.h>
 
+#include <QHash>
+
+class OlvPluginEventFilter::Private
+{
+public:
+    QHash<QEvent::Type, std::function<void(QEvent *)>> listeners;
+};
+
 OlvPluginEventFilter::OlvPluginEventFilter(QObject *parent)
     : QObject(parent)
+    , d(std::make_unique<Private>())
 {
     addObject(parent);
 }
 
 OlvPluginEventFilter::~OlvPluginEventFilter()
 {
-    // What listeners hold may send events when it goes, and add further listeners. Until then the
-    // filter watches: it must have a table to look into, an empty one.
-    while (!m_listeners.isEmpty()) {
-        decltype(m_listeners) going;
-        m_listeners.swap(going);
+    // Destroying what listeners hold may send events to this filter, which still watches, and may
+    // add listeners: each round leaves a valid, empty table.
+    while (!d->listeners.isEmpty()) {
+        decltype(d->listeners) going;
+        d->listeners.swap(going);
     }
 }
 
@@ -27,15 +36,15 @@ void OlvPluginEventFilter::addObject(QObject *object)
 void OlvPluginEventFilter::addEventListener(QEvent::Type type,
                                             std::function<void(QEvent *)> listener)
 {
-    // the one before goes with the argument, once the table is in order: what it holds may come
-    // back
-    m_listeners[type].swap(listener);
+    // the previous listener is destroyed with the argument, after the table has changed, because
+    // its destruction may call this function again
+    d->listeners[type].swap(listener);
 }
 
 bool OlvPluginEventFilter::eventFilter(QObject *watched, QEvent *event)
 {
-    const auto found = m_listeners.constFind(event->type());
-    if (found == m_listeners.cend() || !*found) {
+    const auto found = d->listeners.constFind(event->type());
+    if (found == d->listeners.cend() || !*found) {
         return QObject::eventFilter(watched, event);
     }
     // a copy: the listener may replace itself in the table, and destroy the filter
