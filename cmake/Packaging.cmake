@@ -79,7 +79,7 @@ olv_package(development libolvwidgets-dev libdevel
     "${olv_about}
 .
 This package contains the headers, and what CMake, pkg-config and qmake need
-to build programs with it and with its sister library OlvSystemInfo."
+to build programs with it and with the library OlvSystemInfo."
     DEPENDS
     "libolvwidgets${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
     "libolvsysteminfo${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"

@@ -43,7 +43,7 @@
  *
  * Lifetime: a shortcut may be made before the application object and outlive it. While there is no
  * application object, active() returns false; what was registered ends with that object, and
- * active() registers it anew with the next one.
+ * active() registers it again with the next one.
  */
 class OLVSYSTEMINFO_EXPORT OlvShortcut : public QObject
 {

@@ -86,8 +86,7 @@ public:
 
     /** Puts every widget into its place, and adjusts the scroll bar or the window. */
     void reUi();
-    /** Asks for a reflow to the parent's size in 300 milliseconds; asking again starts them anew.
-     */
+    /** Asks for a reflow to the parent's size in 300 milliseconds; each call restarts the time. */
     void resized();
 
     /** Asks for a reflow when the parent is resized; consumes nothing. */
@@ -183,6 +182,6 @@ Q_SIGNALS:
 protected:
     /** Draws the panel and its band; square instead of rounded while it is maximised. */
     void paintEvent(QPaintEvent *event) override;
-    /** Starts the two seconds anew. */
+    /** Restarts the two seconds. */
     void resizeEvent(QResizeEvent *event) override;
 };

@@ -25,7 +25,7 @@ class QWidget;
  * It is a child of the form that it serves: a dialog, a page, a group box, a window, or a single
  * widget of the library. It works on every widget of the library in that form, those that are added
  * or reparented later too. A widget that leaves the form loses what it was given, and so do all
- * when the support is deleted: whatever the application has not changed meanwhile is as it was. A
+ * when the support is deleted: what the application has not changed meanwhile is restored. A
  * window within the form, such as a dialog, is a form of its own and needs a support of its own.
  *
  * @code
@@ -141,7 +141,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  * keyboard; a text when editing is finished (Enter, or the focus leaves); a tile at its click; a
  * shortcut when it has been taken; every other OlvWidget at its valueChanged(). A value that the
  * application sets is submitted in the same way. Under ManualSubmit all of them wait for
- * QDataWidgetMapper::submit(). Escape shows the record anew.
+ * QDataWidgetMapper::submit(). Escape shows the record again.
  *
  * Only what has changed since it was shown is written, in the type of what it replaces where it
  * converts to that. So data that a widget cannot show is not overwritten by what the widget shows

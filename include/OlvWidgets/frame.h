@@ -85,7 +85,7 @@ public:
      */
     OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, int width,
                   OlvResizeItem *first, OlvResizeItem *second);
-    /** Leaves its partners to the target. */
+    /** Leaves the other handles, which the target owns. */
     ~OlvResizeItem() override;
 
     /** Where the handle lies. */
@@ -96,7 +96,7 @@ public:
     OlvResizeItem *firstPartner() const;
     /** The other one of them; null when it does not exist. */
     OlvResizeItem *secondPartner() const;
-    /** Sets the other handles, which stay their target's. */
+    /** Sets the other handles, which their target owns. */
     void setPartners(OlvResizeItem *first, OlvResizeItem *second);
     /** Moves the handle to its place in the target as large as that is now. */
     void place();
@@ -119,7 +119,7 @@ private:
  *
  * It is a child of the widget that it resizes, typically a frameless window or a floating panel,
  * and puts three handles into it; the widget's minimum and maximum sizes hold. A maximised widget
- * is not resized. Whoever resizes the widget by other means calls reset():
+ * is not resized. After a resize by other means call reset():
  *
  * @code
  * Window::Window()
@@ -145,8 +145,8 @@ public:
     void reset();
 
     /**
-     * Resizes the widget as a handle is dragged. It consumes nothing but a move that led to the end
-     * of the handle, which nothing may be sent to then.
+     * Resizes the widget as a handle is dragged. It consumes a move only if the handle has been
+     * deleted by it, since Qt would deliver the event to the deleted object.
      */
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
@@ -164,7 +164,7 @@ public:
  * "置底", "置顶", "最小化", "最大化" ("还原" while it is checked) and "关闭", or what a QTranslator
  * makes of them, and follow another language. An application that wants others finds the buttons,
  * which are the bar's QPushButton children from the left to the right, and gives them its own; that
- * of the maximise button anew at each changed().
+ * of the maximise button again at each changed().
  *
  * @code
  * // six glyphs of the window buttons, the one of "restore", one for each tip
@@ -191,7 +191,7 @@ public:
  * | "max"    | QChar | the maximise button | its glyph while it is unchecked                    |
  * | "normal" | QChar | the maximise button | its glyph while it is checked: that of "restore"   |
  *
- * What is written there counts from the next click; a window button with an index that is no
+ * What is written there takes effect at the next click; a window button with an index that is no
  * WindowState emits nothing.
  *
  * Accessibility: a tool bar of buttons, the checkable ones of which are check boxes. Each is called
@@ -229,7 +229,7 @@ public:
     explicit OlvControlBar(Parent *parent)
         : OlvControlBar(formIcons(), parent)
     { }
-    /** The buttons go with the bar. */
+    /** Destroys the buttons as well. */
     ~OlvControlBar() override;
 
 Q_SIGNALS:

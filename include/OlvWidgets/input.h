@@ -44,10 +44,10 @@ class QLineEdit;
  * setPwdIcon() sets the glyphs.
  *
  * Accessibility: a group, called by its accessible name, else by a label whose buddy it is, else by
- * its tool tip. It has two parts: the text, a QLineEdit, which is called as the group is, anew each
- * time it gets the focus, unless it is given an accessible name of its own; and the password
- * button, a check box called "显示密码" unless it is given an accessible name or a tool tip. The
- * action "SetFocus" leads to the text.
+ * its tool tip. It has two parts: the text, a QLineEdit, which takes the name of the group each
+ * time it gets the focus, unless it has an accessible name; and the password button, a check box
+ * called "显示密码" unless it has an accessible name or a tool tip. The action "SetFocus" gives the
+ * focus to the text.
  *
  * @code
  * auto *password = new OlvLineEdit(this);
@@ -69,7 +69,7 @@ public:
      * first resize.
      */
     explicit OlvLineEdit(QWidget *parent = nullptr);
-    /** The text and the button go with it. */
+    /** Destroys the text and the button as well. */
     ~OlvLineEdit() override;
 
     /** The text. */
@@ -82,7 +82,7 @@ public:
     QString getText();
     /**
      * The text as Qt has it, for its validator, completer and signals, as a focus proxy and the
-     * like. It stays this widget's; null when the application has deleted it.
+     * like. This widget owns it; null when the application has deleted it.
      */
     QLineEdit *lineEdit() const;
     /** Sets what is shown in grey while there is no text. */
@@ -166,7 +166,7 @@ public:
     /** Deletes the shortcut that is held. */
     ~OlvShortcutEdit() override;
 
-    /** The shortcut that is held, which stays the field's; null when there is none. */
+    /** The shortcut that is held, which the field owns; null when there is none. */
     OlvShortcut *shortcut();
 
     /** The text of the shortcut that is held, as a string; "nullptr" when there is none. */
@@ -183,7 +183,7 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /**
-     * Takes @p shortcut over, whatever becomes of it: registers it, and either holds it, in place
+     * Takes ownership of @p shortcut in every case: registers it, and either holds it, in place
      * of the one before, which is unregistered and deleted, or deletes it when it cannot be
      * registered. Returns whether it is held. Emits shortcutChanged() and then valueChanged() when
      * it is; repaints nothing. A null shortcut is ignored; the one that is held already is
@@ -197,7 +197,8 @@ public Q_SLOTS:
     void clear();
 
 protected:
-    /** Notes a key; the first one after modifiers alone were pressed and released begins anew. */
+    /** Notes a key; the first one after modifiers alone were pressed and released starts a new
+     * combination. */
     void keyPressEvent(QKeyEvent *event) override;
     /** Forgets a modifier, or makes a shortcut of the keys that were noted. */
     void keyReleaseEvent(QKeyEvent *event) override;

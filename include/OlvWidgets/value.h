@@ -37,7 +37,7 @@ class OLVWIDGETS_EXPORT SliderRound : public QWidget
 public:
     /**
      * The knob of @p slider, which owns it. In a parent that is no OlvSlider it can be dragged all
-     * the same, and tells nobody.
+     * the same, and sets no value.
      */
     explicit SliderRound(QWidget *slider);
     /** Leaves the slider without a knob, at the value that it has. */

@@ -4,9 +4,9 @@
 #include "accessibility/accessiblewidget_p.h"
 
 /**
- * A widget that is clicked: a button, or where it is checkable a check box, as it is with Qt's own
- * buttons. It has the action "press", and "toggle" where it is checkable. Both are a click, since
- * that is what applications listen to.
+ * A widget that is clicked: a button, or a check box while it is checkable, like Qt's own buttons.
+ * Its actions are "press" and, while it is checkable, "toggle"; both are a click, whose signals
+ * applications are connected to.
  */
 class AccessibleClickable : public AccessibleWidget
 {
@@ -18,7 +18,7 @@ public:
     void doAction(const QString &name) override;
 
 protected:
-    /** Clicks the widget, which is there and enabled; a slot may delete it, and this with it. */
+    /** Clicks the widget, which is alive and enabled; a slot may delete it, and this with it. */
     virtual void click() = 0;
     /** For buttons that only the mouse clicks: sends what it sends, so that subclasses get it too.
      */

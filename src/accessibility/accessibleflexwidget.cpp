@@ -12,7 +12,7 @@ QAccessible::Role AccessibleFlexWidget::role() const
 
 QString AccessibleFlexWidget::ownName() const
 {
-    // Qt says it only of windows, and without the mark of a modified one
+    // Qt gives a title only to windows, and leaves the mark of a modified one in it
     return widget()->isWindow() ? QString() : widget()->windowTitle();
 }
 

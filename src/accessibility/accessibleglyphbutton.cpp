@@ -16,11 +16,11 @@ bool isOneOfSeveral(const QAbstractButton &button)
         && (button.group() ? button.group()->exclusive() : button.autoExclusive());
 }
 
-/** A caption without the mark before the letter that is its key. */
+/** A caption without the ampersand in front of its mnemonic. */
 QString withoutMnemonic(QString caption)
 {
     const QString mark = QStringLiteral("&");
-    const QString kept(QChar::Null); // stands for a mark that is written twice, and is shown
+    const QString kept(QChar::Null); // stands for a doubled ampersand, which is shown as one
     return caption.replace(mark + mark, kept).remove(mark).replace(kept, mark);
 }
 
@@ -102,7 +102,7 @@ void AccessibleGlyphButton::click()
     }
 }
 
-/** Null once only a part of it is left. */
+/** Null while the button's base classes are being destroyed. */
 QPushButton *AccessibleGlyphButton::button() const
 {
     return isValid() ? qobject_cast<QPushButton *>(object()) : nullptr;

@@ -10,7 +10,7 @@ AccessibleLineEdit::AccessibleLineEdit(QWidget *edit)
 QAccessible::State AccessibleLineEdit::state() const
 {
     QAccessible::State state = AccessibleWidget::state();
-    // Qt says it of a widget whose focus proxy has the focus, too; but the keyboard is in the text
+    // Qt reports the focus also for a widget whose proxy has it; only the text has the focus here
     if (isValid() && widget()->focusProxy()) {
         state.focused = false;
     }

@@ -6,8 +6,8 @@
 class QLineEdit;
 
 /**
- * An OlvLineEdit: a group of the text and the password button. The keyboard is in the text, which
- * is what is read out then: so the text is called as the group is.
+ * An OlvLineEdit: a group of the text and the password button. The text gets the focus and is what
+ * assistive programs read out, so it takes the name of the group.
  */
 class AccessibleLineEdit : public AccessibleWidget
 {

@@ -65,7 +65,7 @@ QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBounda
     if (boundary != QAccessible::WordBoundary && boundary != QAccessible::SentenceBoundary) {
         return QAccessibleTextInterface::textAtOffset(offset, boundary, start, end);
     }
-    // as Qt does it, which at the end of the text looks for the end of the word for ever
+    // as Qt does it, whose own function does not return at the end of the text
     const QString whole = value().toString();
     const int place = offset == -1 ? whole.size() : offset;
     *start = *end = -1;
@@ -138,10 +138,10 @@ void AccessibleShortcutEdit::watch(QObject *watcher)
 {
     auto *editor = qobject_cast<OlvShortcutEdit *>(object());
     const auto watchHeld = [=] {
-        // not the one that the signal names: another slot may have deleted that
+        // not the shortcut in the signal, which another slot may have deleted
         watchShortcut(editor->shortcut(), watcher);
     };
-    // a new shortcut may lie where the one before it lay, so that no property changes
+    // a new shortcut may have the address of the previous one, so that no property changes
     QObject::connect(editor, &OlvShortcutEdit::shortcutChanged, watcher, [=] {
         watchHeld();
         tellChanges();
@@ -150,8 +150,8 @@ void AccessibleShortcutEdit::watch(QObject *watcher)
 }
 
 /**
- * Tells when an application has deleted the shortcut; later, since what the editor itself deletes
- * makes room for another.
+ * Tells that an application has deleted the shortcut; deferred, because the editor deletes one
+ * itself before it sets another.
  */
 void AccessibleShortcutEdit::watchShortcut(OlvShortcut *shortcut, QObject *watcher)
 {

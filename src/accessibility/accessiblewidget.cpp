@@ -30,7 +30,7 @@ QAccessible::State difference(QAccessible::State before, QAccessible::State now)
 
 } // namespace
 
-/** What was told last, and who hears of changes: nobody pays for it whom nobody looks at. */
+/** The state that was reported last; it exists only while accessibility is active. */
 struct AccessibleWidget::Told
 {
     explicit Told(AccessibleWidget *accessible)
@@ -73,10 +73,10 @@ void AccessibleWidget::tellChanges()
     const QVariant valueBefore = std::exchange(m_told->value, value());
     const QAccessible::State changed = difference(stateBefore, m_told->state);
     const bool hasOtherValue = valueBefore != m_told->value;
-    // Qt itself tells the changes of the name that the application gave
+    // Qt itself reports changes of the accessible name that the application has set
     const bool hasOtherName = nameBefore != m_told->name && widget()->accessibleName().isEmpty();
 
-    // whoever hears of a change may delete the widget, and this with it, or stop the watching
+    // an update handler may delete the widget, and this interface with it, or stop the watching
     const QPointer<QObject> watcher(&m_told->watcher);
     if (hasOtherName) {
         QAccessibleEvent event(widget(), QAccessible::NameChanged);
@@ -147,7 +147,7 @@ QString AccessibleWidget::text(QAccessible::Text kind) const
         return description == name() ? QString() : description;
     }
     case QAccessible::Accelerator:
-        // Qt takes that of a label, which leads to its buddy only when that takes the keyboard
+        // Qt shows a label's mnemonic, which works only if the buddy accepts the focus
         return widget()->focusPolicy() == Qt::NoFocus ? QString() : QAccessibleWidget::text(kind);
     default:
         return QAccessibleWidget::text(kind);
@@ -258,7 +258,7 @@ QString AccessibleWidget::readableOwnName() const
     return SpokenText::isReadable(own) ? own : QString();
 }
 
-/** The name without the one that the application gave: Qt tells when that comes or goes. */
+/** The name without the accessible name of the application, whose changes Qt reports itself. */
 QString AccessibleWidget::nameToTell() const
 {
     if (widget()->accessibleName().isEmpty()) {

@@ -8,9 +8,9 @@
 #include <memory>
 
 /**
- * What the interfaces of the library's widgets share: names, updates, and standing it when the
- * widget has died before them, or is about to: they are not valid then. Knobs and handles are parts
- * of their widget, not children.
+ * What the interfaces of the library's widgets share: names, updates, and being invalid once the
+ * widget is destroyed or being destroyed. Knobs and handles are parts of their widget, not
+ * children.
  *
  * The name is the widget's accessible name, or the subclass's ownName() where that can be read out,
  * or what any widget is called by (a label whose buddy it is, the title of a window), or the tool
@@ -47,17 +47,17 @@ protected:
     /** A property of the widget. */
     QVariant property(const char *name) const;
 
-    /** What the widget itself says that it is called; empty for nothing. */
+    /** The name that the widget itself gives, a caption for example; empty for none. */
     virtual QString ownName() const;
-    /** The states that come to state(), and whose changes Qt does not tell by itself. */
+    /** The states that are added to state(), whose changes Qt does not report. */
     virtual QAccessible::State ownState() const;
     /** The value; invalid for widgets without one. */
     virtual QVariant value() const;
-    /** Tells that value() is another now. */
+    /** Reports that value() has changed. */
     virtual void tellValue(const QVariant &before);
-    /** Watches what else may change something, until @p watcher goes. */
+    /** Connects what else may change something, until @p watcher is destroyed. */
     virtual void watch(QObject *watcher);
-    /** Hands the name on to parts that have none; comes whenever it may be another. */
+    /** Hands the name on to parts that have none; called whenever it may have changed. */
     virtual void nameParts();
 
 private:

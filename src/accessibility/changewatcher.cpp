@@ -23,11 +23,11 @@ bool ChangeWatcher::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ModifiedChange: // of the window's title
     case QEvent::LanguageChange:
     case QEvent::ParentChange:       // a box with a title, for example
-    case QEvent::Show:               // a label may have come meanwhile
-        m_accessible->tellChanges(); // after which this may be gone
+    case QEvent::Show:               // a label may have been added meanwhile
+        m_accessible->tellChanges(); // may delete this watcher
         break;
     default:
         break;
     }
-    return consumed || !widget; // what has gone must not get the event any more
+    return consumed || !widget; // Qt must not deliver the event to a deleted widget
 }

@@ -6,9 +6,9 @@
 class AccessibleWidget;
 
 /**
- * Has an interface look whenever its widget's state may have changed: that lies in dynamic
- * properties, which anybody may write. It exists only while accessibility is active, so that the
- * widgets of a program that nobody looks at are not slowed down.
+ * Tells an interface that its widget's state may have changed: the state is kept in dynamic
+ * properties, which any code may write. It exists only while accessibility is active, so that
+ * programs without assistive technology are not slowed down.
  */
 class ChangeWatcher : public QObject
 {

@@ -44,7 +44,7 @@ constexpr Maker makers[] = {
     { "OlvSwitch", make<AccessibleSwitch> },
 };
 
-/** Qt makes interfaces for every widget that is shown, whether or not anybody looks at them. */
+/** Qt makes interfaces for every widget that is shown, also while accessibility is inactive. */
 AccessibleWidget *watched(AccessibleWidget *accessible)
 {
     if (QAccessible::isActive()) {
@@ -75,21 +75,22 @@ QAccessibleInterface *makeForButtonOfBar(const QString & /*className*/, QObject 
     return button ? watched(new AccessibleGlyphButton(button)) : nullptr;
 }
 
-/** Qt asks the factory that came last first: one of the application's comes after this one. */
+/** Qt asks the factory that was installed last first, so that the application's precede this one.
+ */
 void installForClasses()
 {
     QAccessible::installFactory(makeForClass);
 }
 Q_COREAPP_STARTUP_FUNCTION(installForClasses)
 
-/** Watches the widgets that were there before somebody looked. */
+/** Starts watching the widgets that exist when accessibility becomes active. */
 class Activation : public QAccessible::ActivationObserver
 {
 public:
     void accessibilityActiveChanged(bool active) override
     {
         const QWidgetList all = QApplication::allWidgets();
-        QVector<QPointer<QWidget>> widgets; // whoever hears of a name may delete others
+        QVector<QPointer<QWidget>> widgets; // an update handler may delete any of them
         for (QWidget *widget : all) {
             widgets.append(widget);
         }
@@ -110,7 +111,7 @@ struct Installation
 
     Installation()
     {
-        install(); // so that Qt's lists are there before this, and go after it
+        install(); // creates Qt's lists first, so that they are destroyed after this
     }
     ~Installation()
     {

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/** Texts as they are when they are read out. */
+/** Texts as a screen reader reads them out. */
 namespace SpokenText {
 
 /** Whether a text says anything: blanks do not, nor do the private characters of icon fonts. */

@@ -78,8 +78,8 @@ OlvButton::OlvButton(QString text, QWidget *parent)
     setText(text);
 }
 
-// An event filter that hears of a new property may delete the button, so each setter asks for the
-// repaint, which comes later, before it sets its last property.
+// An event filter may delete the button when a property changes, so each setter schedules the
+// repaint before it sets its last property.
 
 OlvButton *OlvButton::setOlvStyle(QString color, QString type)
 {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/** Repaints later, so that asking for it first is as good and needs no living button afterwards. */
+/** Schedules the repaint first: setting the property may delete the button. */
 void setState(QWidget *button, const QString &state)
 {
     button->update();

@@ -44,8 +44,8 @@ OlvIconButton::OlvIconButton(QWidget *parent)
     auto *timer = new QTimer(this);
     timer->setInterval(burstInterval);
     setProperty(clickNumberProperty, 0);
-    // The timer goes with the QWidget: it may fire while only that is left of the tile, in an event
-    // loop that another child's end runs.
+    // The timer is destroyed with the QWidget: it may fire after the tile's own destructor, in an
+    // event loop that the destruction of another child runs.
     connect(
         timer, &QTimer::timeout, this,
         [object = static_cast<QObject *>(this), timer] {
@@ -127,7 +127,7 @@ void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
     if (!ButtonState::release(this)) {
         return;
     }
-    // an event filter that hears of a new property may delete the tile
+    // an event filter may delete the tile when a property changes
     const QPointer<OlvIconButton> self(this);
     const int count = property(clickNumberProperty).toInt();
     setProperty(clickNumberProperty, qMin(count, std::numeric_limits<int>::max() - 1) + 1);

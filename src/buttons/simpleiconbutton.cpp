@@ -18,7 +18,7 @@ OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font,
     : QPushButton(parent)
 {
     Accessibility::prepare(this);
-    setText(text); // tells assistive programs: not before they get the right interface
+    setText(text); // updates accessibility, so after the right interface is set up
     setFont(font);
     setCheckable(true);
     resize(sideLength, sideLength);
@@ -36,7 +36,7 @@ void OlvSimpleIconButton::setToggle(const QString &checkedText)
     setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(184,186,188);}"
                                  "QPushButton:hover{color:rgb(32,32,32)}"
                                  "QPushButton:checked{color:rgb(32,32,32)}"));
-    // an event filter that hears of either property may delete the button
+    // an event filter may delete the button when either property changes
     const QPointer<OlvSimpleIconButton> self(this);
     setProperty(uncheckedProperty, text());
     if (self) {

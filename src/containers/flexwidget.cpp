@@ -82,7 +82,7 @@ OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
     const QPointer<OlvMoveWidget> moving(mover);
     connect(timer, &QTimer::timeout, this, [=, self = static_cast<QObject *>(this)] {
         timer->stop();
-        // the timer goes after the panel, and may fire while only a QWidget is left of that
+        // the timer is destroyed after the panel's destructor has run, and may fire in between
         const auto *panel = qobject_cast<OlvFlexWidget *>(self);
         if (panel && moving) {
             moving->setMoveArea(panel->rect());
@@ -156,6 +156,6 @@ void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)
 void OlvFlexWidget::resizeEvent(QResizeEvent * /*event*/)
 {
     if (auto *timer = childAtAddress<QTimer>(this, property(resizeTimerProperty))) {
-        timer->start(); // anew when it runs already
+        timer->start(); // restarts a running timer
     }
 }

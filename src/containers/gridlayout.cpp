@@ -16,7 +16,7 @@ constexpr char subWindowProperty[] = "isSubWindow";
 constexpr char scrollBarProperty[] = "ScrollBar";
 constexpr char resizeTimerProperty[] = "ResizeTimer";
 
-/** The flags of a parent that is a window: Qt::Window, Qt::Dialog, Qt::Tool and their kin. */
+/** The flags of a parent that is a window: Qt::Window, Qt::Dialog, Qt::Tool and the like. */
 constexpr int windowBits = 0x0d;
 constexpr int windowBorder = 1;
 constexpr int emptyHeight = 50;
@@ -32,7 +32,7 @@ bool isInWindow(const QWidget *parent)
     return !parent || !parent->parent() || (int(parent->windowFlags()) & windowBits) != 0;
 }
 
-/** Moves @p widget, unless it is there already: Qt takes longer to find that out. */
+/** Moves @p widget unless it is there already, which costs less than an ineffective move(). */
 bool moveTo(QWidget *widget, QPoint position)
 {
     const bool isElsewhere =
@@ -47,7 +47,7 @@ bool moveTo(QWidget *widget, QPoint position)
 int deltaOf(const QWheelEvent *event)
 {
     const QPoint angle = event->angleDelta();
-    // in more bits, for the least int has no positive counterpart
+    // in 64 bits, since the smallest int has no positive counterpart
     return qAbs<qint64>(angle.x()) > qAbs<qint64>(angle.y()) ? angle.x() : angle.y();
 }
 
@@ -89,7 +89,7 @@ QString emptyText()
     return QCoreApplication::translate("OlvGridLayout", "空");
 }
 
-/** The grid; null once its destructor has run, also while the children of the widget go. */
+/** The grid; null once its destructor has run, also while its children are destroyed. */
 OlvGridLayout *whole(QObject *grid)
 {
     return qobject_cast<OlvGridLayout *>(grid);
@@ -146,7 +146,7 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     timer->setInterval(settlingTime);
     connect(timer, &QTimer::timeout, this, [timer, self = QPointer<QObject>(this)] {
         timer->stop();
-        // again after what follows the parent's size, which may lead to the end of the grid
+        // checked again: what follows the parent's size may delete the grid
         if (auto *grid = whole(self)) {
             grid->fitParent();
         }
@@ -216,7 +216,7 @@ void OlvGridLayout::setSpacing(int spacing)
 
 void OlvGridLayout::reUi()
 {
-    // what hears of a size, of a place or of the label may delete the grid
+    // resizing, moving and the label send events, whose receivers may delete the grid
     const QPointer<OlvGridLayout> self(this);
     if (d->tiles.isEmpty()) {
         const QWidget *parent = parentWidget();
@@ -340,7 +340,7 @@ void OlvGridLayout::fitParent()
 void OlvGridLayout::arrange()
 {
     const QPointer<OlvGridLayout> self(this);
-    // A tile that hears of its move may change the list, whose additions bring their own reflow.
+    // Moving a tile may change the list; each addition to it causes its own reflow.
     const QList<QWidget *> tiles = d->tiles;
     const uint departures = d->departures;
     const auto isGone = [&](QWidget *tile) {

@@ -285,7 +285,7 @@ bool FormKeys::releaseKey(QWidget *widget, FormKind kind, const QKeyEvent &key)
 void FormKeys::cancelPress()
 {
     const QPointer<QWidget> pressed(std::exchange(m_pressed, nullptr));
-    const bool hasComeIn = m_hasComeIn; // this may go with what hears of an event
+    const bool hasComeIn = m_hasComeIn; // a receiver of the events may delete this
     if (qobject_cast<OlvSwitch *>(pressed)) {
         return; // shows nothing of the press
     }

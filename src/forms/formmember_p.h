@@ -41,8 +41,8 @@ inline bool holdsOthers(FormKind kind)
 /**
  * A widget of the library in a form, and what it was given there.
  *
- * What a member is about to be given is noted before it is: the setters send events, and whoever
- * hears of one may take the member away.
+ * What a member is about to be given is noted before it is: the setters send events, whose
+ * receivers may delete the member.
  */
 struct FormMember
 {

@@ -16,8 +16,8 @@ QWidgetList laidOutIn(const QWidget *container);
 
 /**
  * Gives a member, which is laid out, its natural size as its minimum size, and a size policy, as
- * far as the application has set neither; gives it anew when it is another now. Afterwards the
- * member may be gone.
+ * far as the application has set neither; gives it again when it has changed. Afterwards the
+ * member may have been deleted.
  */
 void give(FormMember &member);
 /** Takes back what was given, unless the application has changed it. The same holds. */

@@ -102,8 +102,7 @@ void OlvFormSupport::Private::leave()
     if (formIsDying) {
         return;
     }
-    // Undoing sends events: whoever hears of one may delete the form, which must not delete this
-    // once more.
+    // Undoing sends events, whose receivers may delete the form, which must not delete this again.
     m_support->setParent(nullptr);
     const QVector<QPointer<QWidget>> all = members();
     for (const QPointer<QWidget> &widget : all) {
@@ -316,7 +315,7 @@ bool OlvFormSupport::Private::handle(QObject *watched, QEvent *event)
     if (self && alive && holdsOthers(kind)) {
         handleInContainer(widget, event);
     }
-    return !alive; // what has gone must not get the event any more
+    return !alive; // Qt must not deliver the event to a deleted widget
 }
 
 void OlvFormSupport::Private::handleInContainer(QWidget *container, QEvent *event)

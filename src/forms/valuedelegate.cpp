@@ -267,7 +267,7 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     }
     const QPointer<QObject> self(const_cast<OlvValueDelegate *>(this));
     const QPointer<OlvWidget> guarded(widget);
-    // noted first: the model tells of the change, and the record is shown anew within
+    // noted first: the model tells of the change, which shows the record again
     d->adopt(widget).shown = value;
     if (!model->setData(index, converted(value, index.data(Qt::EditRole)), Qt::EditRole) && self
         && guarded) {

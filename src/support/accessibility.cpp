@@ -5,7 +5,7 @@
 #include <QWidget>
 
 namespace {
-// initialised before any code runs, for the installer comes while the library is being loaded
+// constant initialised, since the installer is set by a constructor of the library's loading
 void (*installer)() = nullptr;
 
 /** Has Qt ask again for the interface of a widget, which may have made another one already. */

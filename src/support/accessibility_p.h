@@ -4,8 +4,8 @@
 class QWidget;
 
 /**
- * What the widgets know of their accessibility: when to have Qt ask for their interfaces. Whatever
- * makes these registers itself from above, so that no widget depends on it.
+ * What the widgets know of their accessibility: when to have Qt ask for their interfaces. The code
+ * that makes the interfaces registers itself here, so that no widget depends on it.
  */
 namespace Accessibility {
 

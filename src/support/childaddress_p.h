@@ -5,8 +5,8 @@
 #include <QVariant>
 
 /**
- * The child of @p parent, of the class Child, whose address @p property holds; null when there is
- * none such.
+ * The child of @p parent, of the class Child, whose address @p property holds; null if there is
+ * none.
  *
  * The widgets keep addresses of their children in dynamic properties, which any code may overwrite
  * with any number. So the number is compared with the addresses of the children that are alive, and

@@ -16,7 +16,7 @@ inline bool hasRing(const QWidget &window)
     return ring && ring->isVisible();
 }
 
-/** Brings the focus anew, as Tab does it: the only widget that takes it has it from the start. */
+/** Brings the focus again, as Tab does it: the only widget that takes it has it from the start. */
 inline void tabTo(QWidget *widget)
 {
     widget->clearFocus();
