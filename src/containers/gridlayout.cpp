@@ -259,8 +259,10 @@ bool OlvGridLayout::eventFilter(QObject *watched, QEvent *event)
 
 void OlvGridLayout::changeEvent(QEvent *event)
 {
+    // an assistive program's listener that hears of it may delete the grid
+    const QPointer<OlvGridLayout> self(this);
     QWidget::changeEvent(event);
-    QLabel *label = d->label();
+    QLabel *label = self ? d->label() : nullptr;
     if (event->type() == QEvent::LanguageChange && label && label->text() == d->emptyText) {
         d->emptyText = emptyText();
         label->setText(d->emptyText);

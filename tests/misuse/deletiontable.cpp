@@ -2,6 +2,7 @@
 #include "deletiontable.h"
 
 #include "assistant.h"
+#include "deferred.h"
 #include "everydeed.h"
 
 #include <QDynamicPropertyChangeEvent>
@@ -31,6 +32,7 @@ bool isFollowedByQt(QEvent::Type type)
     switch (type) {
     case QEvent::ChildAdded:
     case QEvent::ChildPolished:
+    case QEvent::Destroy:
     case QEvent::FocusAboutToChange:
     case QEvent::FocusIn:
     case QEvent::FocusOut:
@@ -93,6 +95,7 @@ public:
         : m_widget(widget)
         , m_isSending(deed.isSending)
         , m_isHandedOn(deed.isHandedOn)
+        , m_followed(deed.followed)
         , m_outside(deliveredEvents().size())
     {
         widget->setProperty(receiverProperty, QStringLiteral("itself"));
@@ -163,7 +166,8 @@ private:
             ++hit.number;
         }
         m_heard.append(hit);
-        if (isStood && isStoodAround() && (object == m_widget || !m_isHandedOn)) {
+        if (isStood && isStoodAround() && !m_followed.contains(type)
+            && (object == m_widget || !m_isHandedOn)) {
             m_hits.append(hit);
         }
         if (!(hit == m_target)) {
@@ -193,6 +197,7 @@ private:
     QPointer<QWidget> m_widget;
     bool m_isSending;
     bool m_isHandedOn;
+    QVector<int> m_followed;
     int m_outside; // how many events are delivered around the deed
     Hit m_target;
     QVector<Hit> m_heard;
@@ -201,6 +206,33 @@ private:
 };
 
 Ear *Ear::s_hearing = nullptr;
+
+/** While it lives, Qt may say that its offscreen platform cannot raise a tool window. */
+class UnheardWarning
+{
+public:
+    UnheardWarning()
+    {
+        s_before = qInstallMessageHandler(pass);
+    }
+    ~UnheardWarning()
+    {
+        qInstallMessageHandler(s_before);
+    }
+    Q_DISABLE_COPY(UnheardWarning)
+
+private:
+    static void pass(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
+        if (text != QLatin1String("This plugin does not support raise()")) {
+            s_before(type, context, text);
+        }
+    }
+
+    static QtMessageHandler s_before;
+};
+
+QtMessageHandler UnheardWarning::s_before = nullptr;
 
 /** A widget in a shown window, and who listens to it. */
 class Scene
@@ -214,6 +246,9 @@ public:
         widget->setGeometry(10, 10, 120, 40);
         m_window.show();
         QCoreApplication::processEvents();
+        if (subject.isUnfinished) {
+            runDeferred();
+        }
         if (deed.prepare) {
             deed.prepare(widget);
         }
@@ -232,6 +267,7 @@ public:
     }
 
 private:
+    UnheardWarning m_unheard;
     std::unique_ptr<Assistant> m_assistant;
     QWidget m_window;
 

@@ -30,6 +30,9 @@ struct Deed
     bool isSending = false;
     /** Whether QWidget hands what it sets on to the children, in a loop that ends with them. */
     bool isHandedOn = false;
+    /** Types of events or updates that Qt touches a widget after when it does this, though it does
+     * not otherwise. */
+    QVector<int> followed = {};
 };
 
 /** A deed that is a call of a member function, or several. */
@@ -47,6 +50,8 @@ struct Subject
     std::function<QWidget *(QWidget *parent)> make;
     /** What is done to it, beside what is done to every widget. */
     QVector<Deed> deeds;
+    /** Whether the library puts something off that it does to a new one. */
+    bool isUnfinished = false;
 };
 
 enum class Listener {

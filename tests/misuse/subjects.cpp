@@ -2,6 +2,7 @@
 #include "subjects.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 
 using namespace DeletionTable;
@@ -19,9 +20,33 @@ QVector<Subject> DeletionTable::plainSubjects()
         button->setCheckable(true);
         return button;
     };
+    const auto changeFlags = [](QWidget *widget) {
+        const QPointer<QWidget> self(widget);
+        widget->setWindowFlags(widget->windowFlags() ^ Qt::Tool);
+        if (self) {
+            widget->show();
+        }
+    };
     return {
-        { QStringLiteral("QWidget"), [](QWidget *parent) { return new QWidget(parent); }, {} },
-        { QStringLiteral("QWidget with others"), makeGroup, {} },
+        { QStringLiteral("QWidget"),
+          [](QWidget *parent) { return new QWidget(parent); },
+          {
+              call<QWidget>("move", [](QWidget *widget) { widget->move(7, 9); }),
+              call<QWidget>("setGeometry",
+                            [](QWidget *widget) { widget->setGeometry(7, 9, 33, 44); }),
+              { QStringLiteral("setWindowFlags"),
+                changeFlags,
+                nullptr,
+                false,
+                false,
+                { QEvent::ZOrderChange, QEvent::CursorChange } },
+          } },
+        { QStringLiteral("QWidget with others"),
+          makeGroup,
+          {
+              call<QWidget>("deletion of one",
+                            [](QWidget *widget) { delete widget->findChild<QLineEdit *>(); }),
+          } },
         { QStringLiteral("QLineEdit"),
           [](QWidget *parent) -> QWidget * { return new QLineEdit(parent); },
           {} },
@@ -40,6 +65,7 @@ QVector<Subject> DeletionTable::plainSubjects()
 
 const QVector<Subject> &DeletionTable::everySubject()
 {
-    static const QVector<Subject> all = plainSubjects() + buttonSubjects() + inputSubjects();
+    static const QVector<Subject> all = plainSubjects() + buttonSubjects() + inputSubjects()
+        + valueSubjects() + frameSubjects() + containerSubjects();
     return all;
 }

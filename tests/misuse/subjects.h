@@ -9,6 +9,9 @@ namespace DeletionTable {
 QVector<Subject> plainSubjects();
 QVector<Subject> buttonSubjects();
 QVector<Subject> inputSubjects();
+QVector<Subject> valueSubjects();
+QVector<Subject> frameSubjects();
+QVector<Subject> containerSubjects();
 
 /** All of them. */
 const QVector<Subject> &everySubject();
