@@ -3,6 +3,8 @@
 
 #include "widgetkind.h"
 
+#include <OlvFormSupport>
+
 #include <QFont>
 #include <QMetaEnum>
 #include <QWidget>
@@ -80,33 +82,42 @@ void startProperty(QXmlStreamWriter &xml, const QString &name)
     xml.writeAttribute(QStringLiteral("name"), name);
 }
 
-/** A layout shrinks a widget that has no size hint to nothing, unless it has a minimum size. */
-bool needsLeastSize(const WidgetKind &kind)
+/** How large a new widget is. */
+struct Sizes
 {
-    const std::unique_ptr<QWidget> widget(kind.create(nullptr));
-    return kind.vertical == QSizePolicy::Fixed && !widget->sizeHint().isValid();
+    QSize initial;
+    /** Invalid where a layout needs none. */
+    QSize least;
+};
+
+Sizes sizesOf(const WidgetKind &kind)
+{
+    const std::unique_ptr<QWidget> widget = newWidget(kind);
+    const QSize natural = OlvFormSupport::naturalSize(widget.get());
+    // A layout shrinks a widget that has no size hint to nothing, unless it has a minimum size.
+    const bool needsLeast = kind.vertical == QSizePolicy::Fixed && !widget->sizeHint().isValid();
+    if (!needsLeast) {
+        return { natural, QSize() };
+    }
+    const bool grows = kind.horizontal == QSizePolicy::Expanding;
+    return { grows ? QSize(natural.width() * 3 / 2, natural.height()) : natural, natural };
 }
 
-QSize leastSize(const WidgetKind &kind)
-{
-    const int width = kind.size.width();
-    return QSize(kind.horizontal == QSizePolicy::Expanding ? width / 2 : width, kind.size.height());
-}
-
-void writeGeometry(QXmlStreamWriter &xml, const WidgetKind &kind)
+void writeGeometry(QXmlStreamWriter &xml, QSize size)
 {
     startProperty(xml, QStringLiteral("geometry"));
     xml.writeStartElement(QStringLiteral("rect"));
     writeNumber(xml, "x", 0);
     writeNumber(xml, "y", 0);
-    writeSize(xml, kind.size);
+    writeSize(xml, size);
     xml.writeEndElement();
     xml.writeEndElement();
 }
 
 void writeSizes(QXmlStreamWriter &xml, const WidgetKind &kind)
 {
-    writeGeometry(xml, kind);
+    const Sizes sizes = sizesOf(kind);
+    writeGeometry(xml, sizes.initial);
     const QMetaEnum policies = QMetaEnum::fromType<QSizePolicy::Policy>();
     startProperty(xml, QStringLiteral("sizePolicy"));
     xml.writeStartElement(QStringLiteral("sizepolicy"));
@@ -119,10 +130,10 @@ void writeSizes(QXmlStreamWriter &xml, const WidgetKind &kind)
     xml.writeEndElement();
     xml.writeEndElement();
 
-    if (needsLeastSize(kind)) {
+    if (sizes.least.isValid()) {
         startProperty(xml, QStringLiteral("minimumSize"));
         xml.writeStartElement(QStringLiteral("size"));
-        writeSize(xml, leastSize(kind));
+        writeSize(xml, sizes.least);
         xml.writeEndElement();
         xml.writeEndElement();
     }
@@ -183,7 +194,7 @@ void writeViewport(QXmlStreamWriter &xml, const WidgetKind &kind)
     xml.writeStartElement(QStringLiteral("widget"));
     xml.writeAttribute(QStringLiteral("class"), QStringLiteral("QWidget"));
     xml.writeAttribute(QStringLiteral("name"), QStringLiteral("viewport"));
-    writeGeometry(xml, kind);
+    writeGeometry(xml, sizesOf(kind).initial);
     writeWidget(xml, kind);
     xml.writeEndElement();
 }

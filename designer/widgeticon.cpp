@@ -7,8 +7,6 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include <memory>
-
 namespace {
 
 /** The side of the icons, of which the widget box shows a quarter; the drawing is scaled down. */
@@ -18,10 +16,7 @@ constexpr int side = 96;
 
 QIcon widgetIcon(const WidgetKind &kind)
 {
-    const std::unique_ptr<QWidget> widget(kind.create(nullptr));
-    for (const KindProperty &property : kind.properties) {
-        widget->setProperty(property.name.toUtf8().constData(), property.value);
-    }
+    const std::unique_ptr<QWidget> widget = newWidget(kind);
     widget->setMinimumSize(0, 0);
     widget->resize(kind.sampleSize);
     if (kind.pose) {

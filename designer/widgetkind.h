@@ -7,6 +7,8 @@
 #include <QVariant>
 #include <QVector>
 
+#include <memory>
+
 class QWidget;
 
 /** A property that is set on a widget when it is dropped into a form. */
@@ -42,8 +44,6 @@ struct WidgetKind
     QString baseName;
     QString toolTip;
     QString whatsThis;
-    /** The size of a new widget. */
-    QSize size;
     QSizePolicy::Policy horizontal;
     QSizePolicy::Policy vertical;
     bool isContainer;
@@ -58,3 +58,6 @@ struct WidgetKind
 
 /** All widgets that can be put into a form, in the order of the widget box. */
 QVector<WidgetKind> widgetKinds();
+
+/** A new widget of that kind, without a parent, with the values that a form gives it. */
+std::unique_ptr<QWidget> newWidget(const WidgetKind &kind);

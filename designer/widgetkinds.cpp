@@ -30,7 +30,6 @@ WidgetKind buttonKind()
              QStringLiteral("A text button in four colours and three shapes"),
              QStringLiteral("A flat text button in one of four colour schemes and three shapes. "
                             "It emits clicked(), and toggled() when it is checkable."),
-             { 90, 32 },
              QSizePolicy::Minimum,
              QSizePolicy::Fixed,
              false,
@@ -57,7 +56,6 @@ WidgetKind iconButtonKind()
         QStringLiteral("A tile with one glyph of an icon font above a short caption. It emits "
                        "clicked() or dClicked() 400 milliseconds after the last release. "
                        "Right-click it to change the glyph and the colour."),
-        { 80, 80 },
         QSizePolicy::Fixed,
         QSizePolicy::Fixed,
         false,
@@ -92,7 +90,6 @@ WidgetKind simpleIconButtonKind()
              QStringLiteral("A small checkable push button whose caption is one glyph of an icon "
                             "font: right-click it, Change glyph... setToggle() gives it a second "
                             "glyph for its checked state."),
-             { 30, 30 },
              QSizePolicy::Fixed,
              QSizePolicy::Fixed,
              false,
@@ -114,7 +111,6 @@ WidgetKind lineEditKind()
         QStringLiteral("A framed line of text with an optional glyph at its left and an "
                        "optional password button, which setPassWord() shows. Its font follows "
                        "its height."),
-        { 200, 32 },
         QSizePolicy::Expanding,
         QSizePolicy::Fixed,
         false,
@@ -135,7 +131,6 @@ WidgetKind shortcutEditKind()
              QStringLiteral("A field that takes a shortcut for the whole desktop"),
              QStringLiteral("A field in which the user presses a key combination, which becomes a "
                             "shortcut on the whole desktop. It emits shortcutChanged()."),
-             { 200, 32 },
              QSizePolicy::Expanding,
              QSizePolicy::Fixed,
              false,
@@ -154,7 +149,6 @@ WidgetKind switchKind()
                             "valueChanged() and changed(). A form cannot have it on, since its "
                             "property \"switch\" moves no knob: call setValue(true) once the form "
                             "is loaded, which slides it on and emits both."),
-             { 50, 24 },
              QSizePolicy::Fixed,
              QSizePolicy::Fixed,
              false,
@@ -179,7 +173,6 @@ WidgetKind sliderKind()
                        "once the form is laid out as assistive programs do: "
                        "QAccessible::queryAccessibleInterface(slider)->valueInterface()->"
                        "setCurrentValue(40)."),
-        { 200, 30 },
         QSizePolicy::Expanding,
         QSizePolicy::Fixed,
         false,
@@ -199,7 +192,6 @@ WidgetKind controlBarKind()
              QStringLiteral("The buttons of a window without a frame"),
              QStringLiteral("Float, keep at the bottom, keep on top, minimise, maximise and close. "
                             "It emits changed(), and the window acts."),
-             { 200, 25 },
              QSizePolicy::Expanding,
              QSizePolicy::Fixed,
              false,
@@ -216,7 +208,6 @@ WidgetKind dragWidgetKind()
              QStringLiteral("A placeholder for a widget that is dragged"),
              QStringLiteral("A placeholder for a widget that is dragged from one container to "
                             "another: a plain widget."),
-             { 80, 80 },
              QSizePolicy::Preferred,
              QSizePolicy::Preferred,
              false,
@@ -237,7 +228,6 @@ WidgetKind gridKind()
                             "whenever that is resized: move, resize and lay out the viewport. "
                             "Directly on a form or a page it would act as a window, without "
                             "scrolling, and resize that form or page to its own height."),
-             { 240, 160 },
              QSizePolicy::Preferred,
              QSizePolicy::Preferred,
              false,
@@ -256,7 +246,6 @@ WidgetKind flexPanelKind()
         QStringLiteral("A panel that the user moves and resizes"),
         QStringLiteral("A rounded panel that the user moves by dragging it anywhere, and "
                        "resizes by its right edge, its bottom edge and its corner."),
-        { 240, 180 },
         QSizePolicy::Preferred,
         QSizePolicy::Preferred,
         true,
@@ -279,4 +268,13 @@ QVector<WidgetKind> widgetKinds()
     return { buttonKind(),       iconButtonKind(), simpleIconButtonKind(), lineEditKind(),
              shortcutEditKind(), switchKind(),     sliderKind(),           controlBarKind(),
              dragWidgetKind(),   gridKind(),       flexPanelKind() };
+}
+
+std::unique_ptr<QWidget> newWidget(const WidgetKind &kind)
+{
+    std::unique_ptr<QWidget> widget(kind.create(nullptr));
+    for (const KindProperty &property : kind.properties) {
+        widget->setProperty(property.name.toUtf8().constData(), property.value);
+    }
+    return widget;
 }
