@@ -76,8 +76,19 @@ public:
          * look.
          */
         DisabledLook = 0x08,
+        /**
+         * The layout direction: what stands on one side of a widget stands on the other where that
+         * is laid out from the right to the left, at once when QWidget::layoutDirection() changes.
+         * The glyph of an OlvLineEdit is at its right then, and the password button at its left; a
+         * slider's value grows to the left, in a drag, at a resize, after which the knob stands at
+         * the value that it was brought to last, and under the arrow keys, as those of QSlider do;
+         * a switch is on with its knob at the left, and keeps it at the end when it is resized. The
+         * frames are drawn as in a mirror, texts and glyphs never are. Values, properties and
+         * signals mean what they always mean. Control bars need none of this: Qt lays them out.
+         */
+        Mirroring = 0x10,
         /** All of the above. */
-        AllFeatures = 0x0f,
+        AllFeatures = 0x1f,
     };
     /** Several features. */
     Q_DECLARE_FLAGS(Features, Feature)

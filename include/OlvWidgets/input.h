@@ -17,6 +17,7 @@
 
 class OlvSimpleIconButton;
 class QLineEdit;
+struct InputLook;
 
 /**
  * A framed line of text with an optional glyph at its left and an optional button at its right that
@@ -115,6 +116,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    friend struct InputLook;
     int iconWidth(const QString &icon) const;
 
     class Private;
@@ -208,6 +210,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend struct InputLook;
+
     class Private;
     const std::unique_ptr<Private> d;
 };

@@ -13,6 +13,7 @@
  * Switches and sliders.
  */
 
+class KnobMirror;
 class OlvSlider;
 
 /**
@@ -70,6 +71,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    friend class KnobMirror;
     friend class OlvSlider;
     void follow(int progress);
     void placeAt(int progress);
@@ -178,6 +180,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    friend class KnobMirror;
     friend class OlvSwitch;
 
     class Private;

@@ -8,6 +8,7 @@
 #include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 #include "buttons/mouseclick_p.h"
+#include "value/knobmirror_p.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -83,11 +84,12 @@ void takeText(OlvLineEdit *edit)
 int movedValue(OlvSlider *slider, int key)
 {
     const int value = qBound(lowest, slider->getValue().toInt(), highest);
+    const int stepToTheRight = KnobMirror::isOn(slider) ? -singleStep : singleStep;
     switch (key) {
     case Qt::Key_Right:
-        return value + singleStep;
+        return value + stepToTheRight;
     case Qt::Key_Left:
-        return value - singleStep;
+        return value - stepToTheRight;
     case Qt::Key_Up:
         return value + singleStep;
     case Qt::Key_Down:

@@ -68,6 +68,12 @@ FormKind formKindOf(const QWidget *widget)
     return isOne<OlvDragWidget>(widget) ? FormKind::Placeholder : FormKind::None;
 }
 
+QLineEdit *textOf(const QWidget *widget, FormKind kind)
+{
+    return kind == FormKind::LineEdit ? static_cast<const OlvLineEdit *>(widget)->lineEdit()
+                                      : nullptr;
+}
+
 bool isStill(const QWidget *widget, FormKind kind)
 {
     switch (kind) {

@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QWidget>
 
+class QLineEdit;
+
 /** What a form support tells apart. */
 enum class FormKind {
     None,         ///< not of the library, or a part of one of its widgets
@@ -25,6 +27,9 @@ enum class FormKind {
 
 /** What @p widget is to a form. */
 FormKind formKindOf(const QWidget *widget);
+
+/** The text in a line edit, whose events are a support's business, too; null for other widgets. */
+QLineEdit *textOf(const QWidget *widget, FormKind kind);
 
 /**
  * Whether @p widget, which was of @p kind, is so still. What is left of one that is being destroyed

@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/formsupport_p.h"
 
-#include <OlvWidgets/input.h>
-
-#include "forms/disabledlook_p.h"
-#include "forms/formsizes_p.h"
-
 #include <QLineEdit>
 #include <QWidget>
 
@@ -16,13 +11,6 @@ namespace {
 QWidget *asWidget(QObject *object)
 {
     return object && object->isWidgetType() ? static_cast<QWidget *>(object) : nullptr;
-}
-
-/** The text in a line edit, whose events are a support's business, too; null for other widgets. */
-QLineEdit *textOf(const QWidget *widget, FormKind kind)
-{
-    return kind == FormKind::LineEdit ? static_cast<const OlvLineEdit *>(widget)->lineEdit()
-                                      : nullptr;
 }
 
 } // namespace
@@ -68,29 +56,17 @@ bool OlvFormSupport::eventFilter(QObject *watched, QEvent *event)
 OlvFormSupport::Private::Private(OlvFormSupport *support, QWidget *form, Features features)
     : m_support(support)
     , m_form(form)
-    , m_features(features)
+    , m_given(support, m_members, features)
 { }
 
 OlvFormSupport::Features OlvFormSupport::Private::features() const
 {
-    return m_features;
+    return m_given.features();
 }
 
 void OlvFormSupport::Private::setFeatures(Features features)
 {
-    const Features added = features & ~m_features;
-    const Features removed = m_features & ~features;
-    m_features = features;
-    const Guard self(m_support);
-    const QVector<QPointer<QWidget>> all = members();
-    for (const QPointer<QWidget> &widget : all) {
-        if (self) {
-            take(widget, removed);
-        }
-        if (self) {
-            give(widget, added);
-        }
-    }
+    m_given.set(features);
 }
 
 void OlvFormSupport::Private::leave()
@@ -104,7 +80,7 @@ void OlvFormSupport::Private::leave()
     }
     // Undoing sends events, whose receivers may delete the form, which must not delete this again.
     m_support->setParent(nullptr);
-    const QVector<QPointer<QWidget>> all = members();
+    const QVector<QPointer<QWidget>> all = m_members.widgets();
     for (const QPointer<QWidget> &widget : all) {
         release(widget);
     }
@@ -173,7 +149,7 @@ void OlvFormSupport::Private::settleOne(QWidget *widget)
         }
     }
     for (const Guard &other : qAsConst(others)) {
-        if (alive && other && other->d->memberAt(alive)) {
+        if (alive && other && other->d->m_members.at(alive)) {
             other->d->release(alive);
         }
         if (alive && other) {
@@ -190,21 +166,6 @@ void OlvFormSupport::Private::settleOne(QWidget *widget)
     }
 }
 
-FormMember *OlvFormSupport::Private::memberAt(const QObject *widget)
-{
-    const auto found = m_members.find(widget);
-    const bool isThere =
-        found != m_members.end() && found->widget && isStill(found->widget, found->kind);
-    return isThere ? &*found : nullptr;
-}
-
-/** The line edit among the members that @p text is the text of; null for other widgets. */
-QWidget *OlvFormSupport::Private::editAround(const QWidget *text)
-{
-    const FormMember *edit = memberAt(text->parentWidget());
-    return edit && textOf(edit->widget, edit->kind) == text ? edit->widget.data() : nullptr;
-}
-
 void OlvFormSupport::Private::adopt(QWidget *widget)
 {
     const FormKind kind = formKindOf(widget);
@@ -212,26 +173,23 @@ void OlvFormSupport::Private::adopt(QWidget *widget)
         widget->installEventFilter(m_support);
         return;
     }
-    if (memberAt(widget)) {
+    if (m_members.at(widget)) {
         return; // installing the filter again would put it in front of the application's
     }
-    FormMember member;
-    member.widget = widget;
-    member.kind = kind;
-    m_members.insert(widget, member);
+    m_members.insert(widget, kind);
     widget->installEventFilter(m_support);
     if (QLineEdit *text = textOf(widget, kind)) {
         text->installEventFilter(m_support);
     }
-    give(widget, m_features);
+    m_given.give(widget);
 }
 
 void OlvFormSupport::Private::release(QWidget *widget)
 {
     const QPointer<QWidget> alive(widget);
     const Guard self(m_support);
-    take(alive, m_features);
-    const FormMember *member = self ? memberAt(alive) : nullptr;
+    m_given.take(alive);
+    const FormMember *member = self ? m_members.at(alive) : nullptr;
     if (!member) {
         return;
     }
@@ -240,54 +198,6 @@ void OlvFormSupport::Private::release(QWidget *widget)
         text->removeEventFilter(m_support);
     }
     m_members.remove(widget);
-}
-
-void OlvFormSupport::Private::give(const QPointer<QWidget> &widget, Features features)
-{
-    const Guard self(m_support);
-    FormMember *member = memberAt(widget);
-    if (member && features.testFlag(NaturalSizes) && FormSizes::isLaidOut(widget)) {
-        FormSizes::give(*member);
-    }
-    member = self ? memberAt(widget) : nullptr;
-    if (member && features.testFlag(Keyboard)) {
-        FormKeys::give(*member);
-    }
-    member = self ? memberAt(widget) : nullptr;
-    if (member && features.testFlag(DisabledLook)) {
-        ::DisabledLook::fit(*member);
-    }
-}
-
-void OlvFormSupport::Private::take(const QPointer<QWidget> &widget, Features features)
-{
-    const Guard self(m_support);
-    FormMember *member = memberAt(widget);
-    if (member && features.testFlag(DisabledLook)) {
-        ::DisabledLook::take(*member);
-    }
-    member = self ? memberAt(widget) : nullptr;
-    if (member && features.testFlag(FocusRing)) {
-        m_focus.leave(widget);
-    }
-    if (member && features.testFlag(Keyboard)) {
-        m_keys.take(*member);
-    }
-    member = self ? memberAt(widget) : nullptr;
-    if (member && features.testFlag(NaturalSizes)) {
-        FormSizes::take(*member);
-    }
-}
-
-QVector<QPointer<QWidget>> OlvFormSupport::Private::members() const
-{
-    QVector<QPointer<QWidget>> widgets;
-    for (const FormMember &member : m_members) {
-        if (member.widget) {
-            widgets.append(member.widget);
-        }
-    }
-    return widgets;
 }
 
 bool OlvFormSupport::Private::handle(QObject *watched, QEvent *event)
@@ -300,12 +210,12 @@ bool OlvFormSupport::Private::handle(QObject *watched, QEvent *event)
         m_members.remove(widget);
         return false;
     }
-    const FormMember *member = memberAt(widget);
+    const FormMember *member = m_members.at(widget);
     const FormKind kind = member ? member->kind : FormKind::None;
     const Guard self(m_support);
     const QPointer<QObject> alive(watched);
-    if (QWidget *edit = member ? nullptr : editAround(widget)) {
-        handleInText(edit, event);
+    if (QWidget *edit = member ? nullptr : m_members.editAround(widget)) {
+        m_given.handleInText(edit, event);
         return !alive;
     }
     if (member && handleInMember(widget, kind, event)) {
@@ -334,9 +244,7 @@ void OlvFormSupport::Private::handleInContainer(QWidget *container, QEvent *even
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LayoutRequest:
-        if (m_features.testFlag(NaturalSizes)) {
-            fitWidgetsIn(container);
-        }
+        m_given.fitSizesIn(container);
         break;
     default:
         break;
@@ -345,53 +253,10 @@ void OlvFormSupport::Private::handleInContainer(QWidget *container, QEvent *even
 
 bool OlvFormSupport::Private::handleInMember(QWidget *widget, FormKind kind, QEvent *event)
 {
-    const Guard self(m_support);
-    const QPointer<QWidget> alive(widget);
     const bool mayHaveLeft = event->type() == QEvent::ParentChange || event->type() == QEvent::Show;
     if (mayHaveLeft && supportFor(widget) != m_support) {
         settle(widget);
         return false;
     }
-    if (m_features.testFlag(NaturalSizes) && FormSizes::mayChange(event)
-        && FormSizes::isLaidOut(widget)) {
-        FormSizes::give(*memberAt(widget));
-    }
-    if (self && alive && event->type() == QEvent::EnabledChange
-        && m_features.testFlag(DisabledLook)) {
-        ::DisabledLook::fit(*memberAt(widget));
-    }
-    if (self && alive && m_features.testFlag(FocusRing)) {
-        m_focus.handle(widget, kind, event);
-    }
-    if (!self || !alive || !m_features.testFlag(Keyboard) || !m_keys.handle(widget, kind, event)) {
-        return false;
-    }
-    if (self && alive && m_features.testFlag(FocusRing)) {
-        m_focus.noteKey(widget, kind);
-    }
-    return true;
-}
-
-void OlvFormSupport::Private::handleInText(QWidget *edit, QEvent *event)
-{
-    if (m_features.testFlag(FocusRing)) {
-        m_focus.handle(edit, FormKind::LineEdit, event);
-    }
-}
-
-void OlvFormSupport::Private::fitWidgetsIn(const QWidget *container)
-{
-    QVector<QPointer<QWidget>> widgets;
-    const QWidgetList laidOut = FormSizes::laidOutIn(container);
-    for (QWidget *widget : laidOut) {
-        if (memberAt(widget)) {
-            widgets.append(widget);
-        }
-    }
-    const Guard self(m_support);
-    for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
-        if (FormMember *member = self ? memberAt(widget) : nullptr) {
-            FormSizes::give(*member);
-        }
-    }
+    return m_given.handle(widget, kind, event);
 }

@@ -3,12 +3,10 @@
 
 #include <OlvWidgets/forms.h>
 
-#include "forms/formfocus_p.h"
-#include "forms/formkeys_p.h"
-#include "forms/formmember_p.h"
+#include "forms/formfeatures_p.h"
+#include "forms/formmembers_p.h"
 
 #include <QEvent>
-#include <QHash>
 #include <QPointer>
 #include <QVector>
 
@@ -40,23 +38,14 @@ private:
     static QVector<QPointer<QWidget>> widgetsFrom(QWidget *root);
     static void settleOne(QWidget *widget);
 
-    FormMember *memberAt(const QObject *widget);
-    QWidget *editAround(const QWidget *text);
     void adopt(QWidget *widget);
     void release(QWidget *widget);
-    void give(const QPointer<QWidget> &widget, Features features);
-    void take(const QPointer<QWidget> &widget, Features features);
-    QVector<QPointer<QWidget>> members() const;
 
     void handleInContainer(QWidget *container, QEvent *event);
-    void handleInText(QWidget *edit, QEvent *event);
     bool handleInMember(QWidget *widget, FormKind kind, QEvent *event);
-    void fitWidgetsIn(const QWidget *container);
 
     OlvFormSupport *const m_support;
     const QPointer<QWidget> m_form;
-    Features m_features;
-    QHash<const QObject *, FormMember> m_members;
-    FormKeys m_keys;
-    FormFocus m_focus;
+    FormMembers m_members;
+    FormFeatures m_given;
 };

@@ -2,7 +2,9 @@
 #include <OlvWidgets/buttons.h>
 #include <OlvWidgets/input.h>
 
+#include "input/inputlook_p.h"
 #include "painting/colors_p.h"
+#include "painting/flipped_p.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -35,6 +37,13 @@ QString normalState()
     return QStringLiteral("normal");
 }
 
+void drawFrame(QPainter &painter, QSize size)
+{
+    painter.setPen(QColor(Colors::inactive));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(QPointF(0, 0), size), frameRadius, frameRadius);
+}
+
 } // namespace
 
 /**
@@ -55,6 +64,7 @@ public:
 
     QPointer<QObject> editorObject;
     QPointer<QObject> pwdButtonObject;
+    InputLook look;
 };
 
 OlvLineEdit::OlvLineEdit(QWidget *parent)
@@ -69,6 +79,7 @@ OlvLineEdit::OlvLineEdit(QWidget *parent)
     setProperty(visibleProperty, visible);
     setProperty(invisibleProperty, invisible);
     setProperty(stateProperty, normalState());
+    d->look.mirror.width = width();
     activateWindow();
     setFocusPolicy(Qt::StrongFocus);
 
@@ -183,13 +194,17 @@ bool OlvLineEdit::eventFilter(QObject *watched, QEvent *event)
 void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    painter.setPen(QColor(Colors::inactive));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(0, 0, width(), height()), frameRadius, frameRadius);
+    const Mirror &mirror = d->look.mirror;
+    if (mirror.isOn) {
+        drawFlipped(painter, size(), [&](QPainter &flipped) { drawFrame(flipped, size()); });
+    } else {
+        drawFrame(painter, size());
+    }
     const bool isNormal = property(stateProperty).toString() == normalState();
     painter.setPen(QColor(isNormal ? iconColor : focusedIconColor));
-    painter.drawText(QRect(0, 0, bounded(property(iconWidthProperty).toInt()), height()),
-                     Qt::AlignCenter, property(iconProperty).toString());
+    const int column = bounded(property(iconWidthProperty).toInt());
+    painter.drawText(QRect(mirror.placed(0, column), 0, column, height()), Qt::AlignCenter,
+                     property(iconProperty).toString());
 }
 
 void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
@@ -215,12 +230,15 @@ void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
 
     const int column = iconWidth(property(iconProperty).toString());
     const int pwdWidth = property(passwordProperty).toBool() ? height() : 0;
+    Mirror &mirror = d->look.mirror;
+    mirror.width = width();
     setProperty(iconWidthProperty, column);
     if (self && editor) {
-        editor->setGeometry(column, 0, width() - column - pwdWidth, height());
+        const int textWidth = width() - column - pwdWidth;
+        editor->setGeometry(mirror.placed(column, qMax(0, textWidth)), 0, textWidth, height());
     }
     if (self && pwdButton) {
-        pwdButton->setGeometry(width() - height(), 0, height(), height());
+        pwdButton->setGeometry(mirror.placed(width() - height(), height()), 0, height(), height());
     }
 }
 
@@ -235,4 +253,25 @@ int OlvLineEdit::iconWidth(const QString &icon) const
 {
     const int width = QFontMetrics(font()).boundingRect(icon).width();
     return qMax(bounded(width) + iconMargin, height());
+}
+
+void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)
+{
+    Mirror &mirror = edit->d->look.mirror;
+    if (mirror.isOn == isOn) {
+        return;
+    }
+    mirror.isOn = isOn;
+    const Mirror otherSide{ true, mirror.width };
+    // what hears of a new place may delete the line and its parts
+    const QPointer<OlvLineEdit> self(edit);
+    const QPointer<QWidget> parts[] = { edit->d->editor(), edit->d->pwdButton() };
+    for (const QPointer<QWidget> &part : parts) {
+        if (part) {
+            part->move(otherSide.placed(part->x(), part->width()), part->y());
+        }
+    }
+    if (self) {
+        self->update();
+    }
 }

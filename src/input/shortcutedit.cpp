@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/input.h>
 
+#include "input/inputlook_p.h"
 #include "input/shortcutcapture_p.h"
 #include "painting/canvas_p.h"
+#include "painting/flipped_p.h"
 #include "painting/shape_p.h"
 #include "support/owntooltip_p.h"
 
@@ -23,6 +25,16 @@ constexpr int frameRadius = 3;
 constexpr int frameWidth = 1;
 constexpr QRgb focusedColor = qRgb(32, 32, 32);
 
+void drawFrame(QPainter &painter, QSize size, const QColor &color)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Canvas canvas(painter);
+    const QRect rect(QPoint(0, 0), size - QSize(frameInset, frameInset));
+    const Shape frame = Shape::roundedRect(rect, frameRadius);
+    frame.fill(canvas, Qt::white);
+    frame.stroke(canvas, color, frameWidth);
+}
+
 } // namespace
 
 class OlvShortcutEdit::Private
@@ -31,6 +43,7 @@ public:
     ShortcutCapture capture;
     QPointer<OlvShortcut> held;
     OwnToolTip tip;
+    InputLook look;
     bool isEnding = false; // nothing would delete a shortcut that is taken now
 };
 
@@ -183,16 +196,25 @@ void OlvShortcutEdit::changeEvent(QEvent *event)
 void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const Canvas canvas(painter);
-    painter.setFont(QFont(QStringLiteral("新宋体"), height() / 2));
     const QColor color = hasFocus() ? QColor(focusedColor) : QColor(Qt::gray);
-    const Shape frame =
-        Shape::roundedRect(QRect(0, 0, width() - frameInset, height() - frameInset), frameRadius);
-    frame.fill(canvas, Qt::white);
-    frame.stroke(canvas, color, frameWidth);
+    if (d->look.mirror.isOn) {
+        drawFlipped(painter, size(), [&](QPainter &flipped) { drawFrame(flipped, size(), color); });
+    } else {
+        drawFrame(painter, size(), color);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(QFont(QStringLiteral("新宋体"), height() / 2));
     painter.setPen(color);
     if (OlvShortcut *held = shortcut()) {
         painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, held->toString());
+    }
+}
+
+void InputLook::setMirrored(OlvShortcutEdit *edit, bool isOn)
+{
+    Mirror &mirror = edit->d->look.mirror;
+    if (mirror.isOn != isOn) {
+        mirror.isOn = isOn;
+        edit->update();
     }
 }

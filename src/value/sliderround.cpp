@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <OlvWidgets/value.h>
+#include "value/sliderround_p.h"
 
 #include "painting/canvas_p.h"
 #include "painting/colors_p.h"
@@ -9,13 +9,11 @@
 #include "value/slidermetrics_p.h"
 
 #include <QPainter>
-#include <QPointer>
 
 namespace {
 
 constexpr int discInset = 2;
 constexpr int ringWidth = 2;
-constexpr int noProgress = -1;
 
 void tell(QWidget *parent, int progress)
 {
@@ -27,17 +25,6 @@ void tell(QWidget *parent, int progress)
 
 } // namespace
 
-class SliderRound::Private
-{
-public:
-    QPointer<QWidget> slider;
-    int maxX = 0;
-    bool pressed = false;
-    bool follows = false;      // keeps to its percentage when the slider is resized
-    int pressX = 0;            // in the knob as it was before the press
-    int progress = noProgress; // handed over last
-};
-
 SliderRound::SliderRound(QWidget *slider)
     : QWidget(slider)
     , d(std::make_unique<Private>())
@@ -45,6 +32,7 @@ SliderRound::SliderRound(QWidget *slider)
     d->slider = slider;
     if (slider) {
         d->maxX = slider->width() - SliderMetrics::pressedKnobSize;
+        d->mirror.width = slider->width();
     }
 }
 
@@ -58,8 +46,12 @@ int SliderRound::maxX() const
 void SliderRound::setMaxX(int maxX)
 {
     d->maxX = maxX;
-    if (d->follows && !d->pressed) {
-        placeAt(d->progress);
+    if (d->slider) {
+        d->mirror.width = d->slider->width();
+    }
+    // a mirrored one would come away from the end that it counts from
+    if (d->mirror.isOn || (d->follows && !d->pressed)) {
+        placeAt(qMax(0, d->progress));
     }
 }
 
@@ -85,7 +77,7 @@ void SliderRound::placeAt(int progress)
     const qint64 x =
         (qMax<qint64>(0, toPixels(d->maxX)) * progress + SliderMetrics::fullProgress - 1)
         / SliderMetrics::fullProgress;
-    move(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), y());
+    move(d->mirror.placed(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), width()), y());
 }
 
 void SliderRound::paintEvent(QPaintEvent * /*event*/)
@@ -112,11 +104,13 @@ bool SliderRound::event(QEvent *event)
 void SliderRound::mousePressEvent(QMouseEvent *event)
 {
     const QPointer<SliderRound> self(this);
-    setGeometry(toPixels(qint64(x()) - SliderMetrics::knobInset), 0, SliderMetrics::pressedKnobSize,
-                SliderMetrics::pressedKnobSize);
+    const int pressX = d->mirror.within(mousePosition(event).x(), width());
+    const int x = toPixels(qint64(d->mirror.placed(this->x(), width())) - SliderMetrics::knobInset);
+    setGeometry(d->mirror.placed(x, SliderMetrics::pressedKnobSize), 0,
+                SliderMetrics::pressedKnobSize, SliderMetrics::pressedKnobSize);
     if (self) { // what hears of the geometry may have deleted the knob
         d->pressed = true;
-        d->pressX = mousePosition(event).x();
+        d->pressX = pressX;
     }
 }
 
@@ -125,7 +119,8 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
     if (!d->pressed) {
         return;
     }
-    const qint64 newX = qint64(mousePosition(event).x()) - d->pressX + x();
+    const int mouseX = d->mirror.within(mousePosition(event).x(), width());
+    const qint64 newX = qint64(mouseX) - d->pressX + d->mirror.placed(x(), width());
     const int maxX = toPixels(d->maxX);
     int place = 0;
     int progress = 0;
@@ -139,7 +134,7 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
         progress = maxX > 0 ? int(newX * SliderMetrics::fullProgress / maxX) : 0;
     }
     const QPointer<SliderRound> self(this);
-    move(place, 0);
+    move(d->mirror.placed(place, width()), 0);
     if (!self || progress == d->progress) {
         return;
     }
@@ -150,7 +145,8 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
 void SliderRound::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
     const QPointer<SliderRound> self(this);
-    setGeometry(toPixels(qint64(x()) + SliderMetrics::knobInset), SliderMetrics::knobInset,
+    const int x = toPixels(qint64(d->mirror.placed(this->x(), width())) + SliderMetrics::knobInset);
+    setGeometry(d->mirror.placed(x, SliderMetrics::restingKnobSize), SliderMetrics::knobInset,
                 SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
     if (self) {
         d->pressed = false;

@@ -23,7 +23,6 @@ constexpr char moveWidthProperty[] = "moveWidth";
 constexpr char intervalProperty[] = "interval";
 constexpr char openColorProperty[] = "openColor";
 constexpr char closeColorProperty[] = "closeColor";
-constexpr char roundProperty[] = "round";
 
 constexpr int unusedInterval = 2;
 constexpr int stepInterval = 50; // milliseconds
@@ -55,6 +54,14 @@ bool isSliding(const OlvSwitch *widget)
                        [=](const auto &timer) { return timer.timerId == animation; });
 }
 
+/** Where the knob of a switch that is not mirrored stands after the steps so far. */
+int placeOnTheWay(const OlvSwitch *widget)
+{
+    const double travel = widget->width() - widget->height();
+    const double way = travel * widget->property(moveCountProperty).toInt() / stepCount;
+    return truncated(widget->property(ValueProperties::switchIsOn).toBool() ? travel - way : way);
+}
+
 } // namespace
 
 OlvSwitch::OlvSwitch(QWidget *parent)
@@ -68,8 +75,9 @@ OlvSwitch::OlvSwitch(QWidget *parent)
     setProperty(intervalProperty, unusedInterval);
 
     auto *knob = new SwitchRound(this);
-    setProperty(roundProperty, reinterpret_cast<qulonglong>(knob));
+    setProperty(ValueProperties::switchKnob, reinterpret_cast<qulonglong>(knob));
     knob->setGeometry(0, 0, height(), height());
+    knob->d->mirror.width = width();
 
     auto *filter = new OlvPluginEventFilter(this);
     filter->addObject(knob);
@@ -156,7 +164,7 @@ void OlvSwitch::paintEvent(QPaintEvent * /*event*/)
 
 SwitchRound *OlvSwitch::knob() const
 {
-    return childAtAddress<SwitchRound>(this, property(roundProperty));
+    return childAtAddress<SwitchRound>(this, property(ValueProperties::switchKnob));
 }
 
 void OlvSwitch::fitKnob()
@@ -166,9 +174,14 @@ void OlvSwitch::fitKnob()
     const QPointer<SwitchRound> round(knob());
     if (round) {
         round->setInset(SwitchRound::Private::insetAt(height()));
+        round->d->mirror.width = width();
         round->resize(height(), height());
     }
-    if (self && round && round->d->staysAtEnd && !isSliding(this)) {
+    const bool isMirrored = self && round && round->d->mirror.isOn;
+    if (isMirrored && isSliding(this)) {
+        // as far from its end, which has moved, as the steps so far have brought it
+        round->move(round->d->mirror.placed(placeOnTheWay(this), round->width()), 0);
+    } else if (self && round && (round->d->staysAtEnd || isMirrored) && !isSliding(this)) {
         moveKnobToEnd(property(ValueProperties::switchIsOn).toBool());
     }
     if (self) {
@@ -195,8 +208,10 @@ void OlvSwitch::step()
     }
     const QPointer<OlvSwitch> self(this);
     if (SwitchRound *round = knob()) {
+        const Mirror &mirror = round->d->mirror;
         const double step = property(moveWidthProperty).toDouble();
-        round->move(truncated(on ? round->x() - step : round->x() + step), 0);
+        const int x = mirror.placed(round->x(), round->width());
+        round->move(mirror.placed(truncated(on ? x - step : x + step), round->width()), 0);
     }
     if (self) {
         update();
@@ -213,7 +228,8 @@ void OlvSwitch::finish(bool on)
 void OlvSwitch::moveKnobToEnd(bool on)
 {
     if (SwitchRound *round = knob()) {
-        round->move(on ? width() - height() : 0, 0);
+        const int x = on ? width() - height() : 0;
+        round->move(round->d->mirror.placed(x, round->width()), 0);
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include <OlvWidgets/value.h>
 
+#include "support/mirror_p.h"
+
 /** What a knob and its switch share. */
 class SwitchRound::Private
 {
@@ -15,6 +17,7 @@ public:
 
     QColor color = Qt::white;
     int inset = 0;
+    Mirror mirror;
     /** Whether the knob keeps to its end of the track when the switch is resized. */
     bool staysAtEnd = false;
 };

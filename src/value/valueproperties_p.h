@@ -6,6 +6,7 @@ namespace ValueProperties {
 
 constexpr char switchIsOn[] = "switch";
 constexpr char switchTimerId[] = "timerId";
+constexpr char switchKnob[] = "round";
 constexpr char sliderProgress[] = "progress";
 constexpr char sliderKnob[] = "SliderRound";
 

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "forms/formfeatures_p.h"
+
+#include "forms/disabledlook_p.h"
+#include "forms/formsizes_p.h"
+#include "forms/mirroring_p.h"
+
+#include <QEvent>
+
+FormFeatures::FormFeatures(OlvFormSupport *support, FormMembers &members, Features features)
+    : m_support(support)
+    , m_members(members)
+    , m_features(features)
+{ }
+
+OlvFormSupport::Features FormFeatures::features() const
+{
+    return m_features;
+}
+
+void FormFeatures::set(Features features)
+{
+    const Features added = features & ~m_features;
+    const Features removed = m_features & ~features;
+    m_features = features;
+    const Guard self(m_support);
+    const QVector<QPointer<QWidget>> all = m_members.widgets();
+    for (const QPointer<QWidget> &widget : all) {
+        if (self) {
+            take(widget, removed);
+        }
+        if (self) {
+            give(widget, added);
+        }
+    }
+}
+
+void FormFeatures::give(const QPointer<QWidget> &widget)
+{
+    give(widget, m_features);
+}
+
+void FormFeatures::take(const QPointer<QWidget> &widget)
+{
+    take(widget, m_features);
+}
+
+void FormFeatures::give(const QPointer<QWidget> &widget, Features features)
+{
+    const Guard self(m_support);
+    FormMember *member = m_members.at(widget);
+    if (member && features.testFlag(Feature::NaturalSizes) && FormSizes::isLaidOut(widget)) {
+        FormSizes::give(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::Keyboard)) {
+        FormKeys::give(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::DisabledLook)) {
+        DisabledLook::fit(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::Mirroring)) {
+        Mirroring::fit(*member);
+    }
+}
+
+void FormFeatures::take(const QPointer<QWidget> &widget, Features features)
+{
+    const Guard self(m_support);
+    FormMember *member = m_members.at(widget);
+    if (member && features.testFlag(Feature::Mirroring)) {
+        Mirroring::take(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::DisabledLook)) {
+        DisabledLook::take(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::FocusRing)) {
+        m_focus.leave(widget);
+    }
+    if (member && features.testFlag(Feature::Keyboard)) {
+        m_keys.take(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::NaturalSizes)) {
+        FormSizes::take(*member);
+    }
+}
+
+bool FormFeatures::handle(QWidget *widget, FormKind kind, QEvent *event)
+{
+    const Guard self(m_support);
+    const QPointer<QWidget> alive(widget);
+    fit(alive, event);
+    if (self && alive && m_features.testFlag(Feature::FocusRing)) {
+        m_focus.handle(widget, kind, event);
+    }
+    if (!self || !alive || !m_features.testFlag(Feature::Keyboard)
+        || !m_keys.handle(widget, kind, event)) {
+        return false;
+    }
+    if (self && alive && m_features.testFlag(Feature::FocusRing)) {
+        m_focus.noteKey(widget, kind);
+    }
+    return true;
+}
+
+/** Keeps up with what changes in a member. */
+void FormFeatures::fit(const QPointer<QWidget> &widget, const QEvent *event)
+{
+    const Guard self(m_support);
+    if (m_features.testFlag(Feature::NaturalSizes) && FormSizes::mayChange(event)
+        && FormSizes::isLaidOut(widget)) {
+        FormSizes::give(*m_members.at(widget));
+    }
+    FormMember *member = self ? m_members.at(widget) : nullptr;
+    if (member && event->type() == QEvent::EnabledChange
+        && m_features.testFlag(Feature::DisabledLook)) {
+        DisabledLook::fit(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && event->type() == QEvent::LayoutDirectionChange
+        && m_features.testFlag(Feature::Mirroring)) {
+        Mirroring::fit(*member);
+    }
+}
+
+void FormFeatures::handleInText(QWidget *edit, QEvent *event)
+{
+    if (m_features.testFlag(Feature::FocusRing)) {
+        m_focus.handle(edit, FormKind::LineEdit, event);
+    }
+}
+
+void FormFeatures::fitSizesIn(const QWidget *container)
+{
+    if (!m_features.testFlag(Feature::NaturalSizes)) {
+        return;
+    }
+    QVector<QPointer<QWidget>> widgets;
+    const QWidgetList laidOut = FormSizes::laidOutIn(container);
+    for (QWidget *widget : laidOut) {
+        if (m_members.at(widget)) {
+            widgets.append(widget);
+        }
+    }
+    const Guard self(m_support);
+    for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
+        if (FormMember *member = self ? m_members.at(widget) : nullptr) {
+            FormSizes::give(*member);
+        }
+    }
+}

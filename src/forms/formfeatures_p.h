@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/forms.h>
+
+#include "forms/formfocus_p.h"
+#include "forms/formkeys_p.h"
+#include "forms/formmembers_p.h"
+
+class QEvent;
+
+/**
+ * What a support gives its members.
+ *
+ * Giving and taking send events: what hears of one may delete the member, others, or the support
+ * and this with it.
+ */
+class FormFeatures
+{
+public:
+    FormFeatures(OlvFormSupport *support, FormMembers &members, OlvFormSupport::Features features);
+
+    OlvFormSupport::Features features() const;
+    /** Takes from each member what is left out of @p features, and gives it what is new. */
+    void set(OlvFormSupport::Features features);
+
+    /** Gives a member all that the form is given. */
+    void give(const QPointer<QWidget> &widget);
+    /** Takes that back. */
+    void take(const QPointer<QWidget> &widget);
+
+    /** Does what @p event asks for that came to a member; returns whether it is done with. */
+    bool handle(QWidget *widget, FormKind kind, QEvent *event);
+    /** Does what an event asks for that came to the text of a line edit. */
+    void handleInText(QWidget *edit, QEvent *event);
+    /** Fits the sizes of the members that are laid out in @p container. */
+    void fitSizesIn(const QWidget *container);
+
+private:
+    Q_DISABLE_COPY(FormFeatures)
+    using Feature = OlvFormSupport::Feature;
+    using Features = OlvFormSupport::Features;
+    using Guard = QPointer<OlvFormSupport>;
+
+    void give(const QPointer<QWidget> &widget, Features features);
+    void take(const QPointer<QWidget> &widget, Features features);
+    void fit(const QPointer<QWidget> &widget, const QEvent *event);
+
+    OlvFormSupport *const m_support;
+    FormMembers &m_members;
+    Features m_features;
+    FormKeys m_keys;
+    FormFocus m_focus;
+};

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/pixels_p.h"
+
+/** Where the parts of a widget stand that may be mirrored: at the right what is else at the left.
+ */
+struct Mirror
+{
+    bool isOn = false;
+    /** How wide the widget is, in pixels, as its parts have heard of it last. */
+    int width = 0;
+
+    /**
+     * Where a part @p partWidth pixels wide stands, from where it would stand in a widget that is
+     * not mirrored; and the other way round.
+     */
+    int placed(int x, int partWidth) const
+    {
+        return isOn ? toPixels(qint64(width) - partWidth - x) : x;
+    }
+    /** A distance from the left edge of such a part, counted from its other edge if mirrored. */
+    int within(int x, int partWidth) const
+    {
+        return isOn ? partWidth - x : x;
+    }
+};
