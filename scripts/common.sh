@@ -17,7 +17,7 @@ display_packages=(xvfb openbox x11-utils)
 # what scripts/pictures needs besides
 picture_packages=(optipng xdotool imagemagick picom hsetroot)
 test_packages=(
-    "${display_packages[@]}" xdotool x11-xkb-utils x11-xserver-utils wmctrl
+    "${display_packages[@]}" weston qtwayland5 xwayland xdotool x11-xkb-utils x11-xserver-utils wmctrl
     libxcb-keysyms1-dev libxcb-xtest0-dev
     qtbase5-private-dev libqt5sql5-sqlite at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     qttools5-dev qttools5-dev-tools dpkg-dev

@@ -2,6 +2,7 @@
 #include <OlvWidgets/foundation.h>
 #include <OlvWidgets/frame.h>
 
+#include "frame/systemmove_p.h"
 #include "support/mouseposition_p.h"
 
 #include <QPointer>
@@ -13,9 +14,9 @@ constexpr char moveAreaProperty[] = "MoveArea";
 constexpr char canMoveProperty[] = "CanMove";
 constexpr char pressPosProperty[] = "PressPos";
 
-QPoint positionOf(const QEvent *event)
+const QMouseEvent *mouseEvent(const QEvent *event)
 {
-    return mousePosition(static_cast<const QMouseEvent *>(event));
+    return static_cast<const QMouseEvent *>(event);
 }
 
 /** A coordinate that a drag moves; the property with the place of the press may hold any number. */
@@ -50,14 +51,20 @@ void startMove(const QPointer<OlvMoveWidget> &helper, QPoint position)
     }
 }
 
-void follow(const OlvMoveWidget *helper, QWidget *target, QPoint position)
+void follow(const OlvMoveWidget *helper, QWidget *target, const QMouseEvent *move)
 {
-    if (isMovable(target) && helper->property(canMoveProperty).toBool()) {
-        const QPoint pressed = helper->property(pressPosProperty).toPoint();
-        const QPoint place = target->pos();
-        target->move(moved(place.x(), position.x(), pressed.x()),
-                     moved(place.y(), position.y(), pressed.y()));
+    if (!isMovable(target) || !helper->property(canMoveProperty).toBool()) {
+        return;
     }
+    const QPoint position = mousePosition(move);
+    const QPoint pressed = helper->property(pressPosProperty).toPoint();
+    // A move that stays in the same pixel must not end what may still become a click.
+    if (position != pressed && startSystemMove(target, move)) {
+        return;
+    }
+    const QPoint place = target->pos();
+    target->move(moved(place.x(), position.x(), pressed.x()),
+                 moved(place.y(), position.y(), pressed.y()));
 }
 
 } // namespace
@@ -82,12 +89,12 @@ void OlvMoveWidget::setMoveArea(QRect area)
         auto *filter = new OlvPluginEventFilter(target);
         filter->addEventListener(QEvent::MouseButtonPress, [helper](QEvent *event) {
             if (helper) {
-                startMove(helper, positionOf(event));
+                startMove(helper, mousePosition(mouseEvent(event)));
             }
         });
         filter->addEventListener(QEvent::MouseMove, [helper, moved](QEvent *event) {
             if (helper) {
-                follow(helper, moved, positionOf(event));
+                follow(helper, moved, mouseEvent(event));
             }
         });
         filter->addEventListener(QEvent::MouseButtonRelease, [helper](QEvent *) {

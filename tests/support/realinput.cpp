@@ -9,10 +9,21 @@
 
 #include <cstdlib>
 
+namespace {
+
+/** The display that a compositor runs on, where there is one; else that of DISPLAY. */
+xcb_connection_t *connectToServer()
+{
+    const QByteArray outer = qgetenv("OLV_OUTER_DISPLAY");
+    return xcb_connect(outer.isEmpty() ? nullptr : outer.constData(), nullptr);
+}
+
+} // namespace
+
 struct RealInput::Server
 {
     Server()
-        : connection(xcb_connect(nullptr, nullptr))
+        : connection(connectToServer())
         , symbols(xcb_key_symbols_alloc(connection))
         , root(xcb_connection_has_error(connection)
                    ? xcb_window_t(XCB_WINDOW_NONE)
@@ -95,6 +106,24 @@ QRect RealInput::geometryOf(quintptr window) const
     std::free(size);
     std::free(place);
     return geometry;
+}
+
+QImage RealInput::screen() const
+{
+    xcb_connection_t *connection = m_server->connection;
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const quint16 width = screen->width_in_pixels;
+    const quint16 height = screen->height_in_pixels;
+    xcb_get_image_reply_t *reply =
+        xcb_get_image_reply(connection,
+                            xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_server->root, 0,
+                                          0, width, height, ~0U),
+                            nullptr);
+    const QImage picture = reply
+        ? QImage(xcb_get_image_data(reply), width, height, QImage::Format_RGB32).copy()
+        : QImage();
+    std::free(reply);
+    return picture;
 }
 
 void RealInput::send(quint8 type, quint8 detail, QPoint place)

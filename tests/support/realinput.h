@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QImage>
 #include <QPoint>
 #include <QRect>
 #include <QtGlobal>
@@ -13,6 +14,9 @@ class QWidget;
  * The pointer and the keyboard of the X server, driven through its XTEST extension, so that events
  * take the way that a person's would. Every call returns once the server has taken it; what it
  * makes of it reaches the program through the event loop (QTRY_COMPARE, QTRY_VERIFY).
+ *
+ * Under scripts/with-wayland it is the X server that the compositor draws on and takes its input
+ * from.
  */
 class RealInput
 {
@@ -38,6 +42,8 @@ public:
 
     /** Where the server has a window, in coordinates of the screen. */
     QRect geometryOf(quintptr window) const;
+    /** What the screen shows. */
+    QImage screen() const;
 
 private:
     Q_DISABLE_COPY(RealInput)
