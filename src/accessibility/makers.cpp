@@ -75,14 +75,6 @@ QAccessibleInterface *makeForButtonOfBar(const QString & /*className*/, QObject 
     return button ? watched(new AccessibleGlyphButton(button)) : nullptr;
 }
 
-/** Qt asks the factory that was installed last first, so that the application's precede this one.
- */
-void installForClasses()
-{
-    QAccessible::installFactory(makeForClass);
-}
-Q_COREAPP_STARTUP_FUNCTION(installForClasses)
-
 /** Starts watching the widgets that exist when accessibility becomes active. */
 class Activation : public QAccessible::ActivationObserver
 {
@@ -111,7 +103,7 @@ struct Installation
 
     Installation()
     {
-        install(); // creates Qt's lists first, so that they are destroyed after this
+        installWithApplication(); // creates Qt's lists first, so that they are destroyed after this
     }
     ~Installation()
     {
@@ -121,23 +113,44 @@ struct Installation
     }
     Q_DISABLE_COPY(Installation)
 
+    static Installation &instance()
+    {
+        static Installation installation;
+        return installation;
+    }
+
+    /**
+     * Qt asks the factory that was installed last first, so that the application's precede this
+     * one. The destructor of the application object uses the list of observers: where that object
+     * is a static, the list has to be created within its constructor in order to outlive it.
+     */
+    void installWithApplication()
+    {
+        QAccessible::installActivationObserver(&activation);
+        QAccessible::installFactory(makeForClass);
+    }
     /** Qt forgets both with each application object, and ignores what is installed already. */
-    void install()
+    void installWithWidget()
     {
         QAccessible::installActivationObserver(&activation);
         QAccessible::installFactory(makeForButtonOfBar); // after Qt's own, which takes any button
     }
 };
 
-void install()
+void installWithApplication()
 {
-    static Installation installation;
-    installation.install();
+    Installation::instance().installWithApplication();
+}
+Q_COREAPP_STARTUP_FUNCTION(installWithApplication)
+
+void installWithWidget()
+{
+    Installation::instance().installWithWidget();
 }
 
 void registerInstaller()
 {
-    Accessibility::setInstaller(install);
+    Accessibility::setInstaller(installWithWidget);
 }
 Q_CONSTRUCTOR_FUNCTION(registerInstaller)
 

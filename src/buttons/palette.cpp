@@ -31,12 +31,12 @@ QStringList inWords(const ButtonPalette &palette)
 
 /**
  * The shades that the application set, the primary ones at first. They are only kept: no scheme
- * draws with them.
+ * draws with them. Never destroyed: a program may set them while it destroys its statics.
  */
 QStringList &customShades()
 {
-    static QStringList shades = inWords(primary);
-    return shades;
+    static auto *const shades = new QStringList(inWords(primary));
+    return *shades;
 }
 
 } // namespace

@@ -104,24 +104,25 @@ class CurrentFontJobs
 public:
     CurrentFontJobs()
     {
-        // Qt makes the statics of its font database here, so that they are destroyed after this
+        // Qt makes the statics of its font database here, so that they outlive the jobs
         QFontDatabase::applicationFontFamilies(firstFontId);
-    }
-    ~CurrentFontJobs()
-    {
-        // a program that leaves by exit() does not destroy its application
-        end();
     }
 
     static CurrentFontJobs &instance()
     {
-        static CurrentFontJobs jobs;
-        return jobs;
+        // never destroyed: the application object may be a static, whose end comes later
+        static auto *const jobs = new CurrentFontJobs;
+        static const ProgramEnd end;
+        return *jobs;
     }
 
+    /** Null once the program is destroying its statics. */
     std::shared_ptr<FontJobs> get()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_isOver) {
+            return nullptr;
+        }
         // the jobs that a forked child finds here run in its parent
         if (!m_jobs || !m_jobs->isOfThisProcess()) {
             m_jobs = std::make_shared<FontJobs>();
@@ -143,10 +144,27 @@ public:
     }
 
 private:
-    Q_DISABLE_COPY(CurrentFontJobs)
+    /** A program that leaves by exit() does not destroy its application. */
+    struct ProgramEnd
+    {
+        ~ProgramEnd()
+        {
+            instance().endForGood();
+        }
+    };
+
+    void endForGood()
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_isOver = true;
+        }
+        end();
+    }
 
     std::mutex m_mutex;
     std::shared_ptr<FontJobs> m_jobs;
+    bool m_isOver = false;
 };
 
 int registerFont(const QString &path)
@@ -210,6 +228,9 @@ void OlvGlobal::init()
         return;
     }
     const std::shared_ptr<FontJobs> jobs = CurrentFontJobs::instance().get();
+    if (!jobs) {
+        return;
+    }
     qAddPostRoutine([] { CurrentFontJobs::instance().end(); });
     jobs->begin();
     try {

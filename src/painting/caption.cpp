@@ -121,20 +121,21 @@ struct Pixels
 /** The cache; it is emptied when the fonts of the program have changed. */
 PixelCache<Key, Pixels> &captionCache()
 {
-    static PixelCache<Key, Pixels> cache(maxCacheBytes);
+    // never destroyed: a widget may be painted while the program destroys its statics
+    static auto *const cache = new PixelCache<Key, Pixels>(maxCacheBytes);
+    static auto *const connection = new QMetaObject::Connection;
     static std::atomic<bool> isOutdated{ false };
-    static QMetaObject::Connection connection;
-    if (!connection) { // at the first paint, and when there is another application
+    if (!*connection) { // at the first paint, and when there is another application
         isOutdated = true;
         // a font may be registered in any thread
-        connection = QObject::connect(
+        *connection = QObject::connect(
             qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { isOutdated = true; },
             Qt::DirectConnection);
     }
     if (isOutdated.exchange(false)) {
-        cache.clear();
+        cache->clear();
     }
-    return cache;
+    return *cache;
 }
 
 bool isCacheable(const Canvas &canvas, const Caption &caption, const CaptionGround &ground)

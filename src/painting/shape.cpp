@@ -184,7 +184,8 @@ void Shape::stroke(const Canvas &canvas, const QColor &color, int width) const
 
 bool Shape::drawCached(const Canvas &canvas, const Key &key) const
 {
-    static PixelCache<Key, Pixels> cache(maxCacheBytes);
+    // never destroyed: a widget may be painted while the program destroys its statics
+    static auto &cache = *new PixelCache<Key, Pixels>(maxCacheBytes);
     const int margin = marginOf(key.lineWidth);
     if (!canvas.copyTarget() || !cache.accepts(m_rect.size() + QSize(2 * margin, 2 * margin))
         || !isPositionIndependent(m_rect.size(), m_radius, key.lineWidth)) {
