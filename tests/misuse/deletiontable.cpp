@@ -4,6 +4,7 @@
 #include "assistant.h"
 #include "deferred.h"
 #include "everydeed.h"
+#include "unheard.h"
 
 #include <QDynamicPropertyChangeEvent>
 #include <QMetaEnum>
@@ -207,33 +208,6 @@ private:
 
 Ear *Ear::s_hearing = nullptr;
 
-/** While it lives, Qt may say that its offscreen platform cannot raise a tool window. */
-class UnheardWarning
-{
-public:
-    UnheardWarning()
-    {
-        s_before = qInstallMessageHandler(pass);
-    }
-    ~UnheardWarning()
-    {
-        qInstallMessageHandler(s_before);
-    }
-    Q_DISABLE_COPY(UnheardWarning)
-
-private:
-    static void pass(QtMsgType type, const QMessageLogContext &context, const QString &text)
-    {
-        if (text != QLatin1String("This plugin does not support raise()")) {
-            s_before(type, context, text);
-        }
-    }
-
-    static QtMessageHandler s_before;
-};
-
-QtMessageHandler UnheardWarning::s_before = nullptr;
-
 /** A widget in a shown window, and who listens to it. */
 class Scene
 {
@@ -267,7 +241,8 @@ public:
     }
 
 private:
-    UnheardWarning m_unheard;
+    // which Qt does with a tool window
+    Unheard m_unheard{ { QStringLiteral("This plugin does not support raise()") } };
     std::unique_ptr<Assistant> m_assistant;
     QWidget m_window;
 
