@@ -81,13 +81,12 @@ bool GalleryWindow::showPage(const QString &name)
     return true;
 }
 
-bool GalleryWindow::writePictures(const QString &directory)
+bool GalleryWindow::writePictures(const QString &directory, const QStringList &pages)
 {
     if (!QDir().mkpath(directory)) {
         return false;
     }
-    const QStringList names = pageNames();
-    for (const QString &name : names) {
+    for (const QString &name : pages) {
         showPage(name);
         settle();
         const QString file = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));

@@ -17,10 +17,11 @@ public:
     /** Shows the page of that name, ignoring case; false when there is none. */
     bool showPage(const QString &name);
     /**
-     * Shows each page in turn and writes a picture of the window to a PNG file named after the page
-     * in @p directory, which is made when it is missing. Returns whether all could be written.
+     * Shows each of @p pages in turn and writes a picture of the window to a PNG file named after
+     * the page in @p directory, which is made when it is missing. Returns whether all could be
+     * written.
      */
-    bool writePictures(const QString &directory);
+    bool writePictures(const QString &directory, const QStringList &pages);
 
 private:
     QListWidget *m_names;

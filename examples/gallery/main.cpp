@@ -32,15 +32,22 @@ int main(int argc, char **argv)
                                   QStringLiteral("NAME"));
     const QCommandLineOption screenshots(
         QStringLiteral("screenshots"),
-        QStringLiteral("Write a PNG of every page to the folder DIR, and exit."),
+        QStringLiteral("Write a PNG of every page, or of the one that --page names, to the folder "
+                       "DIR, and exit."),
         QStringLiteral("DIR"));
     const QCommandLineOption frameless(
         QStringLiteral("frameless"),
         QStringLiteral("Run in a window without a frame, of the library's own widgets."));
     const QCommandLineOption dark(QStringLiteral("dark"),
                                   QStringLiteral("Put the widgets on a dark background."));
-    parser.addOptions({ page, screenshots, frameless, dark });
+    const QCommandLineOption rightToLeft(
+        QStringLiteral("right-to-left"),
+        QStringLiteral("Lay everything out from the right to the left."));
+    parser.addOptions({ page, screenshots, frameless, dark, rightToLeft });
     parser.process(application);
+    if (parser.isSet(rightToLeft)) {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    }
 
     // The font job looks for "Font" and "fonts", which lie beside the program, in the current
     // folder. A relative path on the command line refers to the folder before the change.
@@ -63,7 +70,9 @@ int main(int argc, char **argv)
     }
     window->show();
     if (parser.isSet(screenshots)) {
-        if (!gallery->writePictures(pictures)) {
+        const QStringList pages =
+            parser.isSet(page) ? QStringList(parser.value(page)) : gallery->pageNames();
+        if (!gallery->writePictures(pictures, pages)) {
             errors << "The pictures could not be written to " << pictures << '\n';
             return 1;
         }

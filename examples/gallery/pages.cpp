@@ -16,5 +16,6 @@ QVector<PageEntry> galleryPages()
         { QStringLiteral("Control bar"), createControlBarPage },
         { QStringLiteral("Flow grid"), createFlowGridPage },
         { QStringLiteral("Flex panel"), createFlexPanelPage },
+        { QStringLiteral("Forms"), createFormsPage },
     };
 }

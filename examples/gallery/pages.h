@@ -29,3 +29,4 @@ Page *createSlidersPage(QWidget *parent);
 Page *createControlBarPage(QWidget *parent);
 Page *createFlowGridPage(QWidget *parent);
 Page *createFlexPanelPage(QWidget *parent);
+Page *createFormsPage(QWidget *parent);

@@ -66,6 +66,8 @@ class TestGalleryOnServer : public QObject
 
 private Q_SLOTS:
     void writesAPictureOfEveryPage();
+    void writesAPictureOfOnePage();
+    void laysOutFromTheRight();
     void refusesAPageThatItDoesNotHave();
     void refusesAFolderThatItCannotWriteTo();
     void findsPagesByNameWhateverTheCase();
@@ -94,6 +96,34 @@ void TestGalleryOnServer::writesAPictureOfEveryPage()
         QVERIFY2(qGray(picture.pixel(picture.width() - 1, 0)) > 192, qPrintable(file));
         QVERIFY2(colorCount(picture) > 20, qPrintable(file));
     }
+}
+
+void TestGalleryOnServer::writesAPictureOfOnePage()
+{
+    const QTemporaryDir home;
+    const Outcome outcome = runGallery({ QStringLiteral("--page"), QStringLiteral("Forms"),
+                                         QStringLiteral("--screenshots"), home.path() });
+    QVERIFY2(outcome.code == 0, qPrintable(outcome.errors));
+    QCOMPARE(QDir(home.path()).entryList(QDir::Files), QStringList(QStringLiteral("forms.png")));
+}
+
+void TestGalleryOnServer::laysOutFromTheRight()
+{
+    const QTemporaryDir home;
+    const QString file = home.filePath(QStringLiteral("forms.png"));
+    const QStringList arguments{ QStringLiteral("--page"), QStringLiteral("Forms"),
+                                 QStringLiteral("--screenshots"), home.path() };
+    QCOMPARE(runGallery(arguments).code, 0);
+    const QImage left(file);
+    QCOMPARE(runGallery(arguments + QStringList(QStringLiteral("--right-to-left"))).code, 0);
+    const QImage right(file);
+    QCOMPARE(right.size(), left.size());
+    // the list of pages, and the page
+    const QPoint first(5, left.height() - 5);
+    const QPoint last(left.width() - 5, left.height() - 5);
+    QVERIFY(left.pixel(first) != left.pixel(last));
+    QCOMPARE(right.pixel(last), left.pixel(first));
+    QCOMPARE(right.pixel(first), left.pixel(last));
 }
 
 void TestGalleryOnServer::refusesAPageThatItDoesNotHave()
