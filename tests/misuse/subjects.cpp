@@ -66,6 +66,6 @@ QVector<Subject> DeletionTable::plainSubjects()
 const QVector<Subject> &DeletionTable::everySubject()
 {
     static const QVector<Subject> all = plainSubjects() + buttonSubjects() + inputSubjects()
-        + valueSubjects() + frameSubjects() + containerSubjects();
+        + valueSubjects() + frameSubjects() + containerSubjects() + formSubjects();
     return all;
 }

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "deletion.h"
+
+#include <OlvWidgets>
+
+#include <QDataWidgetMapper>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardItemModel>
+
+namespace {
+
+using namespace Deletion;
+
+template <typename Widget> QWidget *makeInForm(QWidget *parent)
+{
+    auto *widget = new Widget(parent);
+    new OlvFormSupport(parent);
+    return widget;
+}
+
+template <typename Object> Object *amongChildrenOf(const QObject *parent)
+{
+    for (QObject *child : parent->children()) {
+        if (auto *found = dynamic_cast<Object *>(child)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+QVector<Victim> support()
+{
+    return { { "support", [](const QWidget *widget) -> QObject * {
+                  return amongChildrenOf<OlvFormSupport>(widget->parentWidget());
+              } } };
+}
+
+QVector<Victim> supportAndMapper()
+{
+    return support()
+        + QVector<Victim>{ { "mapper", [](const QWidget *widget) -> QObject * {
+                                return amongChildrenOf<QDataWidgetMapper>(widget->window());
+                            } } };
+}
+
+std::function<void(QWidget *)> byKey(Qt::Key key)
+{
+    return [=](QWidget *sender) {
+        const QPointer<QWidget> receiver(sender);
+        for (const QEvent::Type type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+            if (receiver) {
+                QKeyEvent event(type, key, Qt::NoModifier);
+                QCoreApplication::sendEvent(receiver, &event);
+            }
+        }
+    };
+}
+
+QVector<Emission> keyEmissions()
+{
+    return {
+        { "OlvButton::clicked, Space", makeInForm<OlvButton>,
+          toSignal<OlvButton>(&OlvButton::clicked), byKey(Qt::Key_Space), support() },
+        { "OlvButton::clicked, Enter", makeInForm<OlvButton>,
+          toSignal<OlvButton>(&OlvButton::clicked), byKey(Qt::Key_Return), support() },
+        { "OlvIconButton::clicked, Space", makeInForm<OlvIconButton>,
+          toSignal<OlvIconButton>(&OlvIconButton::clicked), byKey(Qt::Key_Space), support() },
+        { "OlvIconButton::clicked, Enter", makeInForm<OlvIconButton>,
+          toSignal<OlvIconButton>(&OlvIconButton::clicked), byKey(Qt::Key_Return), support() },
+        { "OlvSimpleIconButton::clicked, Space", makeInForm<OlvSimpleIconButton>,
+          toSignal<QPushButton>(&QPushButton::clicked), byKey(Qt::Key_Space), support() },
+        { "OlvSimpleIconButton::clicked, Enter", makeInForm<OlvSimpleIconButton>,
+          toSignal<QPushButton>(&QPushButton::clicked), byKey(Qt::Key_Return), support() },
+        { "OlvSwitch::valueChanged, Space", makeInForm<OlvSwitch>,
+          toSignal<OlvWidget>(&OlvWidget::valueChanged), byKey(Qt::Key_Space), support() },
+        { "OlvSwitch::changed, Space", makeInForm<OlvSwitch>,
+          toSignal<OlvSwitch>(&OlvSwitch::changed), byKey(Qt::Key_Space), support() },
+        { "QLineEdit::returnPressed in OlvLineEdit", makeInForm<OlvLineEdit>,
+          [](QWidget *sender, const Slot &slot) {
+              QObject::connect(static_cast<OlvLineEdit *>(sender)->lineEdit(),
+                               &QLineEdit::returnPressed, sender, slot, Qt::QueuedConnection);
+          },
+          [](QWidget *sender) {
+              byKey(Qt::Key_Return)(static_cast<OlvLineEdit *>(sender)->lineEdit());
+          },
+          support() },
+    };
+}
+
+/** A widget in a form that a mapper binds to a model; both are the window's. */
+template <typename Widget> QWidget *makeMapped(QWidget *parent)
+{
+    QWidget *widget = makeInForm<Widget>(parent);
+    auto *model = new QStandardItemModel(1, 1, parent->window());
+    model->setData(model->index(0, 0), 0, Qt::EditRole);
+    auto *mapper = new QDataWidgetMapper(parent->window());
+    mapper->setModel(model);
+    mapper->setItemDelegate(new OlvValueDelegate(mapper));
+    mapper->addMapping(widget, 0);
+    mapper->toFirst();
+    return widget;
+}
+
+void toModel(QWidget *sender, const Slot &slot)
+{
+    auto *model = amongChildrenOf<QStandardItemModel>(sender->window());
+    QObject::connect(model, &QStandardItemModel::dataChanged, sender, slot);
+}
+
+void toCommit(QWidget *sender, const Slot &slot)
+{
+    auto *mapper = amongChildrenOf<QDataWidgetMapper>(sender->window());
+    QObject::connect(mapper->itemDelegate(), &QAbstractItemDelegate::commitData, sender, slot);
+}
+
+QVector<Emission> dataEmissions()
+{
+    return {
+        { "model of OlvSwitch", makeMapped<OlvSwitch>, toModel, byKey(Qt::Key_Space), support() },
+        { "model of OlvSlider", makeMapped<OlvSlider>, toModel, byKey(Qt::Key_End), support() },
+        { "OlvValueDelegate::commitData of OlvSwitch", makeMapped<OlvSwitch>, toCommit,
+          byKey(Qt::Key_Space), supportAndMapper() },
+        { "OlvValueDelegate::commitData of OlvSlider", makeMapped<OlvSlider>, toCommit,
+          byKey(Qt::Key_End), supportAndMapper() },
+    };
+}
+
+} // namespace
+
+/** Slots that delete a widget of a form, the form, its support or its mapper, led to by a key. */
+class TestDeletionInForms : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survives_data();
+    void survives();
+};
+
+void TestDeletionInForms::survives_data()
+{
+    Deletion::addRows(keyEmissions() + dataEmissions());
+}
+
+void TestDeletionInForms::survives()
+{
+    QFETCH(Deletion::Emission, emission);
+    QFETCH(Deletion::Finder, victim);
+    Deletion::check(emission, victim);
+}
+
+QTEST_MAIN(TestDeletionInForms)
+#include "tst_deletioninforms.moc"
