@@ -277,13 +277,17 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 
 bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
 {
+    const QPointer<QObject> receiver(watched);
+    const auto handleAsQt = [&](QObject *widget) {
+        const bool isConsumed = QStyledItemDelegate::eventFilter(widget, event);
+        return isConsumed || !receiver; // what has gone must not get the event any more
+    };
     OlvWidget *editor = d->editorOf(watched);
     if (!editor) {
-        return QStyledItemDelegate::eventFilter(watched, event);
+        return handleAsQt(watched);
     }
     const bool isKnob = watched != editor && dynamic_cast<SliderRound *>(watched);
     const QPointer<QObject> self(this);
-    const QPointer<QObject> receiver(watched);
     const QPointer<OlvWidget> guarded(editor);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -313,5 +317,5 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
     if (!self || !guarded) {
         return !receiver;
     }
-    return !isKnob && QStyledItemDelegate::eventFilter(editor, event);
+    return !isKnob && handleAsQt(editor);
 }

@@ -77,15 +77,6 @@ QVector<Emission> keyEmissions()
           toSignal<OlvWidget>(&OlvWidget::valueChanged), byKey(Qt::Key_Space), support() },
         { "OlvSwitch::changed, Space", makeInForm<OlvSwitch>,
           toSignal<OlvSwitch>(&OlvSwitch::changed), byKey(Qt::Key_Space), support() },
-        { "QLineEdit::returnPressed in OlvLineEdit", makeInForm<OlvLineEdit>,
-          [](QWidget *sender, const Slot &slot) {
-              QObject::connect(static_cast<OlvLineEdit *>(sender)->lineEdit(),
-                               &QLineEdit::returnPressed, sender, slot, Qt::QueuedConnection);
-          },
-          [](QWidget *sender) {
-              byKey(Qt::Key_Return)(static_cast<OlvLineEdit *>(sender)->lineEdit());
-          },
-          support() },
     };
 }
 
@@ -101,6 +92,12 @@ template <typename Widget> QWidget *makeMapped(QWidget *parent)
     mapper->addMapping(widget, 0);
     mapper->toFirst();
     return widget;
+}
+
+void leave(QWidget *sender)
+{
+    QFocusEvent event(QEvent::FocusOut);
+    QCoreApplication::sendEvent(sender, &event);
 }
 
 void toModel(QWidget *sender, const Slot &slot)
@@ -124,6 +121,20 @@ QVector<Emission> dataEmissions()
           byKey(Qt::Key_Space), supportAndMapper() },
         { "OlvValueDelegate::commitData of OlvSlider", makeMapped<OlvSlider>, toCommit,
           byKey(Qt::Key_End), supportAndMapper() },
+        // not the mapper, whose delegate Qt goes on to use here
+        { "OlvValueDelegate::commitData, focus leaves OlvSwitch", makeMapped<OlvSwitch>, toCommit,
+          leave, support() },
+        { "OlvValueDelegate::commitData, focus leaves OlvShortcutEdit", makeMapped<OlvShortcutEdit>,
+          toCommit, leave, support() },
+        { "OlvValueDelegate::commitData, focus leaves OlvLineEdit", makeMapped<OlvLineEdit>,
+          toCommit, [](QWidget *sender) { leave(static_cast<OlvLineEdit *>(sender)->lineEdit()); },
+          support() },
+        { "OlvValueDelegate::commitData, focus leaves QLineEdit", makeMapped<QLineEdit>, toCommit,
+          leave, support() },
+        { "OlvValueDelegate::commitData, Enter in OlvSwitch", makeMapped<OlvSwitch>, toCommit,
+          byKey(Qt::Key_Return), support() },
+        { "OlvValueDelegate::commitData, Tab in OlvSwitch", makeMapped<OlvSwitch>, toCommit,
+          byKey(Qt::Key_Tab), support() },
     };
 }
 
