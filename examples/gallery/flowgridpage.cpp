@@ -71,6 +71,8 @@ Page *createFlowGridPage(QWidget *parent)
     auto *grid = new OlvGridLayout(viewport);
     grid->setObjectName(QStringLiteral("grid"));
     grid->resize(viewport->size()); // until it follows the viewport's first resize
+    grid->setRetainSizeWhenHidden(false);
+    grid->setAutoFillBackground(true); // lets Qt scroll the pixels
 
     const auto tiles = std::make_shared<QList<QWidget *>>();
     const auto number = std::make_shared<int>(0);
@@ -109,8 +111,14 @@ Page *createFlowGridPage(QWidget *parent)
         }
     });
     act(QStringLiteral("Delete all"), [=] {
-        while (!tiles->isEmpty()) {
-            grid->delWidget(tiles->takeLast());
+        grid->clear();
+        tiles->clear();
+    });
+    act(QStringLiteral("Every third"), [=] {
+        // hides the others, or shows them again
+        const bool areHidden = grid->count() > 1 && grid->widgetAt(1)->isHidden();
+        for (int i = 0; i < grid->count(); ++i) {
+            grid->widgetAt(i)->setVisible(areHidden || i % 3 == 0);
         }
     });
     act(QStringLiteral("In a window"), [=] { openWindow(page); });

@@ -35,6 +35,10 @@ class QScrollBar;
  * one. A widget that the application deletes leaves the grid by itself, and its place is taken at
  * the next reflow.
  *
+ * The grid is transparent, so that a scroll step repaints all visible tiles. Where it lies on a
+ * plain background, setAutoFillBackground(true) lets Qt shift the pixels instead, which is several
+ * times as quick.
+ *
  * The grid is 100 pixels wide at first, and learns of its parent's size when that changes: where
  * the viewport has its size already, give the grid its width, as here.
  *
@@ -76,8 +80,44 @@ public:
     /** Inserts @p widget before @p before and reflows; false, and nothing done, without such a one.
      */
     bool insWidget(QWidget *widget, QWidget *before);
+    /**
+     * Inserts all of @p widgets before @p before in their order, and reflows once; false, and
+     * nothing done, without such a one. Null widgets are left out.
+     */
+    bool insWidget(QList<QWidget *> widgets, QWidget *before);
     /** Deletes @p widget, takes it out and reflows; false, and nothing done, for one not in it. */
     bool delWidget(QWidget *widget);
+    /**
+     * Deletes those of @p widgets that are in the grid, takes them out and reflows once; false, and
+     * nothing done, if none is.
+     */
+    bool delWidget(QList<QWidget *> widgets);
+    /**
+     * Takes @p widget out without deleting it, reflows, and returns it: without a parent, and so
+     * hidden and the caller's, if it was a child of the grid. Null, and nothing done, for one not
+     * in it. As QScrollArea::takeWidget() does it.
+     */
+    QWidget *takeWidget(QWidget *widget);
+    /** Deletes all widgets of the grid, reflows once, and scrolls back to the top. */
+    void clear();
+
+    /** How many widgets are in the grid, those that are hidden included. */
+    int count() const;
+    /** The widget at @p index, counted from 0 in the order of the grid; null beyond the ends. */
+    QWidget *widgetAt(int index) const;
+    /** The index of @p widget; -1 for one not in the grid. */
+    int indexOf(QWidget *widget) const;
+
+    /** Whether hidden widgets keep their places; true at first. */
+    bool retainSizeWhenHidden() const;
+    /**
+     * Sets whether hidden widgets keep their places, as QSizePolicy::setRetainSizeWhenHidden() does
+     * for layouts, and reflows if that is new. If they do not, the grid follows its children when
+     * they are shown or hidden, however many of them, by one reflow in the event loop, or when the
+     * grid itself is shown; what is left is scrolled back into view; and if all are hidden, the
+     * grid shows its text for an empty one.
+     */
+    void setRetainSizeWhenHidden(bool retain);
 
     /** Sets the margin around and the gap between the widgets (15 pixels at first) and reflows. */
     void setMargin(int margin);
@@ -89,10 +129,19 @@ public:
     /** Asks for a reflow to the parent's size in 300 milliseconds; each call restarts the time. */
     void resized();
 
+    /**
+     * Scrolls by as little as it takes to show @p widget, a child of the grid or of one of its
+     * children, with the margin around it; its top where it is higher than the viewport. In a
+     * window, and for other widgets, nothing happens.
+     */
+    void ensureVisible(QWidget *widget);
+
     /** Asks for a reflow when the parent is resized; consumes nothing. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    /** Reflows when children were shown or hidden and hidden ones take no place. */
+    bool event(QEvent *event) override;
     /** Follows another language with the text of an empty grid. */
     void changeEvent(QEvent *event) override;
     /** Scrolls by 20 units of 25 pixels a notch, not beyond the ends; nothing in a window. */
@@ -102,9 +151,8 @@ private:
     bool isSubWindow() const;
     QScrollBar *scrollBar() const;
     void makeScrollBar();
-    void watch(QWidget *widget);
+    void insert(int index, const QList<QWidget *> &widgets);
     void fitParent();
-    void arrange();
     void fitScrollBar();
 
     class Private;

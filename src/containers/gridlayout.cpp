@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/containers.h>
 
+#include "containers/gridscrollbar_p.h"
+#include "containers/tilelist_p.h"
 #include "support/pixels_p.h"
 
 #include <QCoreApplication>
@@ -22,58 +24,11 @@ constexpr int windowBorder = 1;
 constexpr int emptyHeight = 50;
 constexpr int emptyPointSize = 16;
 constexpr int settlingTime = 300; // milliseconds
-constexpr int barWidth = 10;
 constexpr int barDistance = 13;
-constexpr int unitsPerNotch = 20;
-constexpr int scrollStep = 25; // pixels of a unit
 
 bool isInWindow(const QWidget *parent)
 {
     return !parent || !parent->parent() || (int(parent->windowFlags()) & windowBits) != 0;
-}
-
-/** Moves @p widget unless it is there already, which costs less than an ineffective move(). */
-bool moveTo(QWidget *widget, QPoint position)
-{
-    const bool isElsewhere =
-        widget->isWindow() || widget->pos() != position || !widget->testAttribute(Qt::WA_Moved);
-    if (isElsewhere) {
-        widget->move(position);
-    }
-    return isElsewhere;
-}
-
-/** What QWheelEvent::delta() said: the turn about the axis that was turned further. */
-int deltaOf(const QWheelEvent *event)
-{
-    const QPoint angle = event->angleDelta();
-    // in 64 bits, since the smallest int has no positive counterpart
-    return qAbs<qint64>(angle.x()) > qAbs<qint64>(angle.y()) ? angle.x() : angle.y();
-}
-
-/** How far the flow of the tiles has come, in pixels. */
-struct Flow
-{
-    qint64 available = 0; // where a row has to end
-    qint64 left = 0;      // the last tile, from here
-    qint64 right = 0;     // to here
-    qint64 top = 0;       // of its row
-    qint64 rowHeight = 0;
-    bool startsRow = false; // whether the last tile is the first of its row
-};
-
-/** The flow with one more tile of @p width: beside the last one, or in a new row. */
-Flow next(Flow flow, int width, qint64 margin)
-{
-    flow.startsRow = flow.right + margin + width > flow.available;
-    if (flow.startsRow) {
-        flow.top += flow.rowHeight + margin;
-        flow.rowHeight = 0;
-        flow.right = 0;
-    }
-    flow.left = flow.right + margin;
-    flow.right = flow.left + width;
-    return flow;
 }
 
 /** The child, unless its destructor has run, or @p property no longer holds its address. */
@@ -106,10 +61,8 @@ public:
         return qobject_cast<QLabel *>(emptyLabel.data());
     }
 
-    int margin = 15;
     int spacing = 20;
-    QList<QWidget *> tiles;
-    uint departures = 0; // how many tiles have left the list so far
+    TileList tiles;
     QPointer<QObject> emptyLabel;
     QString emptyText; // as the grid has set it
     QPointer<QObject> scrollBar;
@@ -121,9 +74,6 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    if (parent) {
-        d->viewHeight = parent->height();
-    }
     d->emptyText = emptyText();
     auto *label = new QLabel(d->emptyText, this);
     label->setFont(QFont(QStringLiteral("楷体"), emptyPointSize));
@@ -132,9 +82,9 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     label->setStyleSheet(QStringLiteral("color: rgb(33, 33, 33);"));
     d->emptyLabel = label;
     if (parent) {
+        d->viewHeight = parent->height();
         parent->installEventFilter(this);
     }
-
     setProperty(subWindowProperty, isInWindow(parent));
     if (isSubWindow()) {
         move(windowBorder, windowBorder);
@@ -167,44 +117,123 @@ void OlvGridLayout::addWidget(QWidget *widget)
 
 void OlvGridLayout::addWidget(QList<QWidget *> widgets)
 {
-    for (QWidget *widget : qAsConst(widgets)) {
-        if (widget) {
-            watch(widget);
-            d->tiles.append(widget);
-        }
-    }
-    reUi();
+    insert(count(), widgets);
 }
 
 bool OlvGridLayout::insWidget(QWidget *widget, QWidget *before)
 {
-    const int place = d->tiles.indexOf(before);
-    if (!widget || place < 0) {
+    return widget && insWidget(QList<QWidget *>{ widget }, before);
+}
+
+bool OlvGridLayout::insWidget(QList<QWidget *> widgets, QWidget *before)
+{
+    const int index = indexOf(before);
+    if (index < 0) {
         return false;
     }
-    watch(widget);
-    d->tiles.insert(place, widget);
-    reUi();
+    insert(index, widgets);
     return true;
 }
 
 bool OlvGridLayout::delWidget(QWidget *widget)
 {
-    if (!d->tiles.removeOne(widget)) {
-        return false;
-    }
-    ++d->departures;
+    return delWidget(QList<QWidget *>{ widget });
+}
+
+bool OlvGridLayout::delWidget(QList<QWidget *> widgets)
+{
+    const QList<QPointer<QWidget>> removed = d->tiles.remove(widgets);
     const QPointer<OlvGridLayout> self(this);
-    delete widget;
+    for (const QPointer<QWidget> &widget : removed) {
+        delete widget; // null where the destruction of another one has deleted it
+    }
+    if (self && !removed.isEmpty()) {
+        reUi();
+    }
+    return !removed.isEmpty();
+}
+
+QWidget *OlvGridLayout::takeWidget(QWidget *widget)
+{
+    if (!d->tiles.removeAll(widget)) {
+        return nullptr;
+    }
+    disconnect(widget, &QObject::destroyed, this, nullptr);
+    const QPointer<OlvGridLayout> self(this);
+    const QPointer<QWidget> taken(widget);
+    if (widget->parentWidget() == this) {
+        widget->setParent(nullptr);
+    }
     if (self) {
         reUi();
     }
-    return true;
+    return taken;
+}
+
+void OlvGridLayout::clear()
+{
+    const QPointer<OlvGridLayout> self(this);
+    delWidget(d->tiles.all());
+    if (QScrollBar *bar = self ? scrollBar() : nullptr) {
+        GridScrollBar::reset(bar);
+    }
+}
+
+int OlvGridLayout::count() const
+{
+    return d->tiles.all().size();
+}
+
+QWidget *OlvGridLayout::widgetAt(int index) const
+{
+    return d->tiles.all().value(index);
+}
+
+int OlvGridLayout::indexOf(QWidget *widget) const
+{
+    return d->tiles.all().indexOf(widget);
+}
+
+bool OlvGridLayout::retainSizeWhenHidden() const
+{
+    return d->tiles.retainsHidden();
+}
+
+void OlvGridLayout::setRetainSizeWhenHidden(bool retain)
+{
+    if (d->tiles.retainsHidden() != retain) {
+        d->tiles.setRetainsHidden(retain);
+        reUi();
+    }
+}
+
+void OlvGridLayout::ensureVisible(QWidget *widget)
+{
+    if (!widget || widget == this || !isAncestorOf(widget)) {
+        return;
+    }
+    // a reflow that is due may move the widget, and its receivers may delete it
+    const QPointer<QWidget> shown(widget);
+    const QPointer<OlvGridLayout> self(this);
+    QCoreApplication::sendPostedEvents(this, QEvent::LayoutRequest);
+    QScrollBar *bar = self && shown && isAncestorOf(shown) ? scrollBar() : nullptr;
+    if (!bar || d->viewHeight >= height()) {
+        return;
+    }
+    const qint64 top = widget->mapTo(this, QPoint()).y();
+    const int margin = d->tiles.margin();
+    const int value = GridScrollBar::valueShowing(top - margin, top + widget->height() + margin,
+                                                  d->viewHeight, bar->value());
+    // the maximum is rounded down, which leaves the last pixels of the content out of reach
+    bar->setMaximum(qMax(bar->maximum(), value));
+    if (QScrollBar *unchanged = self ? scrollBar() : nullptr) {
+        unchanged->setValue(value);
+    }
 }
 
 void OlvGridLayout::setMargin(int margin)
 {
-    d->margin = margin;
+    d->tiles.setMargin(margin);
     reUi();
 }
 
@@ -224,12 +253,16 @@ void OlvGridLayout::reUi()
         if (QLabel *label = self ? d->label() : nullptr) {
             label->show();
         }
+        if (self && !d->tiles.retainsHidden() && !isSubWindow()) {
+            fitScrollBar();
+        }
     } else {
         if (QLabel *label = d->label()) {
             label->hide();
         }
+        const int contentHeight = self ? d->tiles.arrange(self.data()) : 0;
         if (self) {
-            arrange();
+            resize(width(), contentHeight);
         }
         if (self && !isSubWindow()) {
             fitScrollBar();
@@ -247,6 +280,19 @@ void OlvGridLayout::resized()
     if (auto *timer = named<QTimer>(d->resizeTimer, property(resizeTimerProperty))) {
         timer->start();
     }
+}
+
+bool OlvGridLayout::event(QEvent *event)
+{
+    const QPointer<OlvGridLayout> self(this);
+    const QEvent::Type type = event->type();
+    const bool recognized = QWidget::event(event);
+    // Qt asks a visible parent for a new layout when a child is shown or hidden
+    if ((type == QEvent::LayoutRequest || type == QEvent::Show) && self
+        && !d->tiles.retainsHidden()) {
+        reUi();
+    }
+    return recognized;
 }
 
 bool OlvGridLayout::eventFilter(QObject *watched, QEvent *event)
@@ -272,12 +318,9 @@ void OlvGridLayout::changeEvent(QEvent *event)
 void OlvGridLayout::wheelEvent(QWheelEvent *event)
 {
     QScrollBar *bar = scrollBar();
-    if (isSubWindow() || !bar) {
-        return;
+    if (bar && !isSubWindow()) {
+        bar->setValue(GridScrollBar::valueAfter(event, bar));
     }
-    const int units = deltaOf(event) < 0 ? unitsPerNotch : -unitsPerNotch;
-    // an application may have set any range
-    bar->setValue(int(qBound<qint64>(0, qint64(bar->value()) + units, bar->maximum())));
 }
 
 bool OlvGridLayout::isSubWindow() const
@@ -293,32 +336,31 @@ QScrollBar *OlvGridLayout::scrollBar() const
 void OlvGridLayout::makeScrollBar()
 {
     // a sibling of the grid, since a child would scroll along
-    auto *bar = new QScrollBar(Qt::Vertical, parentWidget());
-    bar->setGeometry(width() - barDistance, 0, barWidth, d->viewHeight);
+    auto *bar = GridScrollBar::make(parentWidget());
+    bar->setGeometry(width() - barDistance, 0, GridScrollBar::width, d->viewHeight);
     setProperty(scrollBarProperty, reinterpret_cast<qulonglong>(bar));
     d->scrollBar = bar;
-    bar->setStyleSheet(
-        QStringLiteral("QScrollBar{width:10px;background:rgba(0,0,0,10%);border-radius:5px}"
-                       "QScrollBar::handle{background:rgba(0,0,0,25%);border-radius:5px}"
-                       "QScrollBar::handle:hover{background:rgba(0,0,0,50%)}"
-                       "QScrollBar::add-line,QScrollBar::sub-line{border:none}"
-                       "QScrollBar::sub-page,QScrollBar::add-page{background:rgba(0,0,0,0)}"));
-    bar->hide();
     connect(bar, &QScrollBar::valueChanged, this, [self = static_cast<QObject *>(this)](int value) {
         if (auto *grid = whole(self)) {
-            grid->move(0, toPixels(-qint64(value) * scrollStep));
+            grid->move(0, toPixels(-qint64(value) * GridScrollBar::pixelsPerUnit));
         }
     });
 }
 
-void OlvGridLayout::watch(QWidget *widget)
+void OlvGridLayout::insert(int index, const QList<QWidget *> &widgets)
 {
-    connect(widget, &QObject::destroyed, this, [self = static_cast<QObject *>(this), widget] {
-        if (auto *grid = whole(self)) {
-            grid->d->tiles.removeAll(widget);
-            ++grid->d->departures;
+    for (QWidget *widget : widgets) {
+        if (widget) {
+            connect(widget, &QObject::destroyed, this,
+                    [self = static_cast<QObject *>(this), widget] {
+                        if (auto *grid = whole(self)) {
+                            grid->d->tiles.removeAll(widget);
+                        }
+                    });
         }
-    });
+    }
+    d->tiles.insert(index, widgets);
+    reUi();
 }
 
 void OlvGridLayout::fitParent()
@@ -335,38 +377,8 @@ void OlvGridLayout::fitParent()
     const QPointer<OlvGridLayout> self(this);
     resize(parent->width(), height());
     if (QScrollBar *bar = self ? scrollBar() : nullptr) {
-        bar->setGeometry(width() - barDistance, 0, barWidth, d->viewHeight);
+        bar->setGeometry(width() - barDistance, 0, GridScrollBar::width, d->viewHeight);
     }
-}
-
-void OlvGridLayout::arrange()
-{
-    const QPointer<OlvGridLayout> self(this);
-    // Moving a tile may change the list; each addition to it causes its own reflow.
-    const QList<QWidget *> tiles = d->tiles;
-    const uint departures = d->departures;
-    const auto isGone = [&](QWidget *tile) {
-        return d->departures != departures && !d->tiles.contains(tile);
-    };
-    Flow flow;
-    flow.available = qint64(width()) - d->margin;
-    flow.top = d->margin;
-    for (QWidget *tile : tiles) {
-        if (isGone(tile)) {
-            continue;
-        }
-        flow = next(flow, tile->width(), d->margin);
-        const bool isMoved = moveTo(tile, QPoint(toPixels(flow.left), toPixels(flow.top)));
-        if (isMoved && !self) {
-            return;
-        }
-        const QSize size = isMoved && isGone(tile) ? QSize(0, 0) : tile->size();
-        if (flow.startsRow) {
-            flow.right = flow.left + size.width();
-        }
-        flow.rowHeight = qMax<qint64>(flow.rowHeight, size.height());
-    }
-    resize(width(), toPixels(flow.top + flow.rowHeight + d->margin));
 }
 
 void OlvGridLayout::fitScrollBar()
@@ -375,12 +387,16 @@ void OlvGridLayout::fitScrollBar()
     if (!bar) {
         return;
     }
-    if (d->viewHeight < height()) {
-        bar->setMaximum((height() - d->viewHeight) / scrollStep);
+    if (d->viewHeight < height() && !d->tiles.isEmpty()) {
+        bar->setMaximum((height() - d->viewHeight) / GridScrollBar::pixelsPerUnit);
         if (bar) { // a slot of its signals may have deleted it
             bar->show();
         }
-    } else {
+        return;
+    }
+    if (d->tiles.retainsHidden()) {
         bar->hide();
+    } else {
+        GridScrollBar::reset(bar);
     }
 }

@@ -18,6 +18,12 @@ private Q_SLOTS:
     void wheelStaysWithTheGrid();
     void barFollowsTheHeightOfTheViewport();
     void keepsItsPlaceWhenItIsEmptiedWhileScrolled();
+    void ensuresThatATileIsVisible_data();
+    void ensuresThatATileIsVisible();
+    void ensuresThatTheLastPixelsAreVisible();
+    void ensuresThatTheInsideOfATileIsVisible();
+    void ensuresNothingElse();
+    void ensuresWhatADueReflowMoves();
 };
 
 void TestGridScrolling::scrollsByTheRestOfTheHeight_data()
@@ -173,6 +179,121 @@ void TestGridScrolling::keepsItsPlaceWhenItIsEmptiedWhileScrolled()
     QCOMPARE(bar->maximum(), 40);
     QVERIFY(bar->isVisible());
     QVERIFY(labelOf(*scene.grid)->isVisible());
+}
+
+void TestGridScrolling::ensuresThatATileIsVisible_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("value");
+    // 50 tiles, each 20 high in a row of its own: tile i begins at 15 + 35 * i; 200 are visible
+    QTest::newRow("visible already") << 4 << 4 << 4;
+    QTest::newRow("the first of all") << 0 << 30 << 0;
+    QTest::newRow("above: its margin begins at 245") << 7 << 30 << 9;
+    QTest::newRow("below: its margin ends at 750") << 20 << 0 << 22;
+    QTest::newRow("below: its margin ends at 785") << 21 << 0 << 24;
+    QTest::newRow("cut off above") << 7 << 10 << 9;
+    QTest::newRow("cut off below") << 20 << 21 << 22;
+}
+
+void TestGridScrolling::ensuresThatATileIsVisible()
+{
+    QFETCH(int, index);
+    QFETCH(int, start);
+    QFETCH(int, value);
+    GridScene scene(true);
+    for (int i = 0; i < 50; ++i) {
+        scene.grid->addWidget(makeTile(scene.grid, 200));
+    }
+    barOf(*scene.grid)->setValue(start);
+    scene.grid->ensureVisible(scene.grid->widgetAt(index));
+    QCOMPARE(barOf(*scene.grid)->value(), value);
+    const QRect shown(scene.grid->widgetAt(index)->mapTo(scene.viewport, QPoint(0, 0)),
+                      QSize(200, 20));
+    QVERIFY(scene.viewport->rect().contains(shown));
+}
+
+void TestGridScrolling::ensuresThatTheLastPixelsAreVisible()
+{
+    GridScene scene(true);
+    scene.grid->addWidget({ makeTile(scene.grid, 200, 100), makeTile(scene.grid, 200, 109) });
+    QCOMPARE(scene.grid->height(), 254);
+    QScrollBar *bar = barOf(*scene.grid);
+    QCOMPARE(bar->maximum(), 2);
+    scene.grid->ensureVisible(scene.grid->widgetAt(1));
+    QCOMPARE(bar->value(), 3);
+    QCOMPARE(scene.grid->y(), -75);
+
+    // the top of what is higher than the viewport
+    scene.grid->widgetAt(1)->resize(200, 400);
+    scene.grid->reUi();
+    bar->setValue(0);
+    scene.grid->ensureVisible(scene.grid->widgetAt(1));
+    QCOMPARE(bar->value(), 4);
+    bar->setValue(14);
+    scene.grid->ensureVisible(scene.grid->widgetAt(1));
+    QCOMPARE(bar->value(), 4);
+}
+
+void TestGridScrolling::ensuresThatTheInsideOfATileIsVisible()
+{
+    GridScene scene(true);
+    auto *tile = makeTile(scene.grid, 200, 2000);
+    auto *inside = makeTile(tile, 50);
+    inside->move(10, 1500);
+    scene.grid->addWidget(tile);
+    scene.grid->ensureVisible(inside);
+    // its margin ends at 1550
+    QCOMPARE(barOf(*scene.grid)->value(), 54);
+}
+
+void TestGridScrolling::ensuresNothingElse()
+{
+    GridScene scene(true);
+    QWidget *tile = makeTile(scene.grid, 200, 2000);
+    scene.grid->addWidget(tile);
+    barOf(*scene.grid)->setValue(9);
+    for (QWidget *widget : { static_cast<QWidget *>(nullptr), scene.viewport, &scene.window,
+                             static_cast<QWidget *>(scene.grid) }) {
+        scene.grid->ensureVisible(widget);
+    }
+    QCOMPARE(barOf(*scene.grid)->value(), 9);
+
+    // all of the content is visible
+    tile->resize(200, 20);
+    scene.grid->reUi();
+    barOf(*scene.grid)->setValue(0);
+    scene.grid->ensureVisible(tile);
+    QCOMPARE(scene.grid->y(), 0);
+
+    delete barOf(*scene.grid);
+    tile->resize(200, 2000);
+    scene.grid->reUi();
+    scene.grid->ensureVisible(tile);
+    QCOMPARE(scene.grid->y(), 0);
+
+    GridScene window(false);
+    QWidget *last = makeTile(window.grid, 200, 900);
+    window.grid->addWidget(last);
+    window.grid->ensureVisible(last);
+    QCOMPARE(window.grid->pos(), QPoint(1, 1));
+}
+
+void TestGridScrolling::ensuresWhatADueReflowMoves()
+{
+    GridScene scene(true);
+    for (int i = 0; i < 50; ++i) {
+        scene.grid->addWidget(makeTile(scene.grid, 200));
+    }
+    scene.grid->setRetainSizeWhenHidden(false);
+    scene.window.show();
+    QCoreApplication::processEvents();
+    for (int i = 0; i < 30; ++i) {
+        scene.grid->widgetAt(i)->hide();
+    }
+    scene.grid->ensureVisible(scene.grid->widgetAt(40));
+    QCOMPARE(scene.grid->widgetAt(40)->y(), 15 + 10 * 35);
+    QCOMPARE(barOf(*scene.grid)->value(), 8); // its margin ends at 400
 }
 
 QTEST_MAIN(TestGridScrolling)
