@@ -165,9 +165,10 @@ QWidget *makeDrawnTile(QWidget *parent)
     return new OlvButton(QStringLiteral("Tile"), parent);
 }
 
-void scrollLibrary(benchmark::State &state, int count, MakeTile makeTile)
+void scrollLibrary(benchmark::State &state, int count, MakeTile makeTile, bool isOpaque)
 {
     LibraryGrid grid;
+    grid.content->setAutoFillBackground(isOpaque);
     grid.add(makeTiles(count, grid.content, makeTile));
     showAndWait(grid.window);
     measureScrolling(state, grid.window, *grid.content, *grid.viewport.findChild<QScrollBar *>(),
@@ -191,7 +192,10 @@ template <typename Function> void addSized(const std::string &name, int count, F
 void addScrolling(const std::string &name, int count, MakeTile makeTile)
 {
     addSized(name + "/library", count, [makeTile](benchmark::State &state, int tiles) {
-        scrollLibrary(state, tiles, makeTile);
+        scrollLibrary(state, tiles, makeTile, false);
+    });
+    addSized(name + "/opaque", count, [makeTile](benchmark::State &state, int tiles) {
+        scrollLibrary(state, tiles, makeTile, true);
     });
     addSized(name + "/scroll-area", count, [makeTile](benchmark::State &state, int tiles) {
         scrollArea(state, tiles, makeTile);

@@ -28,6 +28,7 @@ int main(int argc, char **argv)
     addColors();
     addManyButtons();
     addFlowGrid();
+    addGridFilter();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -109,7 +109,17 @@ TARGETS = [
     ),
     Ratio("grid-scroll-step", "scroll-area", 1.4, 1000),
     Ratio("grid-scroll-step", "scroll-area", 1.2, 10000),
+    *(
+        Ratio("grid-scroll-step", "scroll-area", 1.1, size, compared="opaque")
+        for size in (1000, 10000)
+    ),
     *(Ratio("grid-scroll-step-drawn", "scroll-area", None, size) for size in (1000, 10000)),
+    *(
+        Ratio("grid-scroll-step-drawn", "scroll-area", 1.1, size, compared="opaque")
+        for size in (1000, 10000)
+    ),
+    Ratio("grid-filter", "bare", 1.5),
+    Counter("grid-filter", "milliseconds", "milliseconds", 20),
     *(Ratio("grid-add-each", "naive", 0.6, size) for size in (1000, 3000, 10000)),
     *(
         Slope(f"grid-{name}", None)

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-// A launcher: a flow grid of icon buttons. A click says what a tile starts, a double click starts
-// it.
+// A launcher: a flow grid of icon buttons, of which the field above leaves those whose names
+// contain what is typed. A click says what a tile starts, a double click starts it.
 #include <OlvGlobal>
 #include <OlvGridLayout>
 #include <OlvIconButton>
+#include <OlvLineEdit>
 
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPalette>
 #include <QProcess>
 #include <QVBoxLayout>
@@ -64,16 +66,24 @@ public:
 
         // the grid scrolls within its parent, so it needs one of its own as a viewport
         auto *viewport = new QWidget;
+        auto *search = new OlvLineEdit;
+        search->setFixedHeight(32);
+        search->setIcon(QChar(0xf002));
+        search->setAccessibleName(tr("Search"));
+        search->setPlaceholderText(tr("Search"));
         auto *layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
+        layout->addWidget(search);
         layout->addWidget(viewport, 1);
         layout->addWidget(m_status);
-        resize(5 * tileSide + 130, 400);
+        resize(5 * tileSide + 130, 432);
         layout->activate();
 
         auto *grid = new OlvGridLayout(viewport);
-        grid->resize(viewport->size()); // until it follows the viewport's first resize
+        grid->resize(viewport->size());       // until it follows the viewport's first resize
+        grid->setRetainSizeWhenHidden(false); // no gaps where the search hides tiles
+        grid->setAutoFillBackground(true);    // lets Qt scroll the pixels
         QList<QWidget *> tiles;
         const QVector<Program> all = programs();
         for (const Program &program : all) {
@@ -82,6 +92,9 @@ public:
             tile->setColor(program.color);
             tile->setToolTip(program.command);
             tile->show();
+            connect(search->lineEdit(), &QLineEdit::textChanged, tile, [=](const QString &text) {
+                tile->setVisible(program.name.contains(text, Qt::CaseInsensitive));
+            });
             connect(tile, &OlvIconButton::clicked, m_status,
                     [=] { m_status->setText(tr("%1: %2").arg(program.name, program.command)); });
             connect(tile, &OlvIconButton::dClicked, this, [=] { start(program); });

@@ -128,11 +128,10 @@ bool OlvGridLayout::insWidget(QWidget *widget, QWidget *before)
 bool OlvGridLayout::insWidget(QList<QWidget *> widgets, QWidget *before)
 {
     const int index = indexOf(before);
-    if (index < 0) {
-        return false;
+    if (index >= 0) {
+        insert(index, widgets);
     }
-    insert(index, widgets);
-    return true;
+    return index >= 0;
 }
 
 bool OlvGridLayout::delWidget(QWidget *widget)
@@ -285,10 +284,9 @@ void OlvGridLayout::resized()
 bool OlvGridLayout::event(QEvent *event)
 {
     const QPointer<OlvGridLayout> self(this);
-    const QEvent::Type type = event->type();
     const bool recognized = QWidget::event(event);
     // Qt asks a visible parent for a new layout when a child is shown or hidden
-    if ((type == QEvent::LayoutRequest || type == QEvent::Show) && self
+    if (self && (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
         && !d->tiles.retainsHidden()) {
         reUi();
     }

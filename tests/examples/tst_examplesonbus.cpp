@@ -56,19 +56,17 @@ void TestExamplesOnBus::everyWidgetToUseHasAName_data()
                         QStringLiteral("check box|置顶"),   QStringLiteral("push button|最小化"),
                         QStringLiteral("check box|最大化"), QStringLiteral("push button|关闭"),
                         QStringLiteral("text|Text") };
-    QTest::newRow("launcher") << QStringLiteral(OLV_LAUNCHER) << QStringLiteral("Launcher")
-                              << QStringList{ QStringLiteral("push button|Browser"),
-                                              QStringLiteral("push button|Mail"),
-                                              QStringLiteral("push button|Terminal"),
-                                              QStringLiteral("push button|Files"),
-                                              QStringLiteral("push button|Editor"),
-                                              QStringLiteral("push button|Calculator"),
-                                              QStringLiteral("push button|Music"),
-                                              QStringLiteral("push button|Videos"),
-                                              QStringLiteral("push button|Pictures"),
-                                              QStringLiteral("push button|Calendar"),
-                                              QStringLiteral("push button|Settings"),
-                                              QStringLiteral("push button|Lock") };
+    QTest::newRow("launcher")
+        << QStringLiteral(OLV_LAUNCHER) << QStringLiteral("Launcher")
+        << QStringList{
+               QStringLiteral("panel|Search"),         QStringLiteral("text|Search"),
+               QStringLiteral("push button|Browser"),  QStringLiteral("push button|Mail"),
+               QStringLiteral("push button|Terminal"), QStringLiteral("push button|Files"),
+               QStringLiteral("push button|Editor"),   QStringLiteral("push button|Calculator"),
+               QStringLiteral("push button|Music"),    QStringLiteral("push button|Videos"),
+               QStringLiteral("push button|Pictures"), QStringLiteral("push button|Calendar"),
+               QStringLiteral("push button|Settings"), QStringLiteral("push button|Lock")
+           };
     QTest::newRow("stickynote") << QStringLiteral(OLV_STICKYNOTE) << QStringLiteral("Note")
                                 << QStringList{ QStringLiteral("check box|Keep on top"),
                                                 QStringLiteral("push button|Another note"),

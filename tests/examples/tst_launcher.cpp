@@ -12,6 +12,7 @@ class TestLauncher : public QObject
 
 private Q_SLOTS:
     void namesTheTileThatIsClicked();
+    void startsTheProgramThatIsDoubleClicked_data();
     void startsTheProgramThatIsDoubleClicked();
 };
 
@@ -33,19 +34,35 @@ void TestLauncher::namesTheTileThatIsClicked()
     QVERIFY(launcher.ends());
 }
 
+void TestLauncher::startsTheProgramThatIsDoubleClicked_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("program");
+    QTest::newRow("the first of all") << QString() << QStringLiteral("bin/x-www-browser");
+    QTest::newRow("the first that a search leaves")
+        << QStringLiteral("mus") << QStringLiteral("bin/audacious");
+}
+
 void TestLauncher::startsTheProgramThatIsDoubleClicked()
 {
+    QFETCH(QString, search);
+    QFETCH(QString, program);
     ExampleProgram launcher(QStringLiteral(OLV_LAUNCHER));
-    // in place of the installed browser, if any
-    const QString browser = QStringLiteral("bin/x-www-browser");
-    launcher.write(browser, "#!/bin/sh\necho started >>\"$XDG_CONFIG_HOME/browser\"\n");
-    QVERIFY(QFile::setPermissions(launcher.path(browser), QFile::ReadUser | QFile::ExeUser));
+    // in place of the installed program, if any
+    launcher.write(program, "#!/bin/sh\necho started >>\"$XDG_CONFIG_HOME/program\"\n");
+    QVERIFY(QFile::setPermissions(launcher.path(program), QFile::ReadUser | QFile::ExeUser));
     QVERIFY(launcher.start({}, launcher.path(QStringLiteral("bin"))));
     QTRY_VERIFY_WITH_TIMEOUT(launcher.findWindow(QStringLiteral("Launcher")), patience);
     QTRY_VERIFY_WITH_TIMEOUT(colorCount(launcher.picture()) > 20, patience);
+    if (!search.isEmpty()) {
+        const QImage all = launcher.picture();
+        launcher.click({ 100, 16 });
+        launcher.type(search);
+        QTRY_VERIFY_WITH_TIMEOUT(launcher.picture() != all, patience);
+    }
     // on a busy machine two clicks may come too late after each other
     const auto hasStarted = [&] {
-        return launcher.read(QStringLiteral("browser")).startsWith("started\n");
+        return launcher.read(QStringLiteral("program")).startsWith("started\n");
     };
     bool isStarted = false;
     for (int tries = 5; tries > 0 && !isStarted; --tries) {
