@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr qreal opacity = 0.4;
 /** What a button of a glyph is drawn in at rest; its style sheet makes a disabled one darker. */
 constexpr QRgb restingGlyph = qRgb(198, 198, 198);
 
@@ -32,7 +31,7 @@ protected:
         }
         painter->save();
         painter->setWorldTransform(QTransform());
-        painter->setOpacity(painter->opacity() * opacity);
+        painter->setOpacity(painter->opacity() * DisabledLook::opacity);
         painter->drawPixmap(place, pixels);
         painter->restore();
     }
@@ -41,18 +40,12 @@ private:
     bool m_isGlyph;
 };
 
-/** Containers have members of their own in them, which fade by themselves. */
-bool fades(FormKind kind)
-{
-    return !holdsOthers(kind);
-}
-
 } // namespace
 
 void DisabledLook::fit(FormMember &member)
 {
     QWidget *widget = member.widget;
-    if (widget->isEnabled() || !fades(member.kind)) {
+    if (widget->isEnabled() || !fades(member)) {
         take(member);
     } else if (!widget->graphicsEffect()) {
         const bool isGlyph = member.kind == FormKind::Glyph || member.kind == FormKind::BarButton;
@@ -60,6 +53,13 @@ void DisabledLook::fit(FormMember &member)
         member.fade = fade;
         widget->setGraphicsEffect(fade);
     }
+}
+
+bool DisabledLook::fades(const FormMember &member)
+{
+    // containers have members of their own in them, which fade by themselves
+    const QGraphicsEffect *effect = member.widget->graphicsEffect();
+    return !holdsOthers(member.kind) && (!effect || effect == member.fade);
 }
 
 void DisabledLook::take(FormMember &member)

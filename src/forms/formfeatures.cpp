@@ -4,6 +4,7 @@
 #include "forms/disabledlook_p.h"
 #include "forms/formsizes_p.h"
 #include "forms/mirroring_p.h"
+#include "forms/readabletext_p.h"
 
 #include <QEvent>
 
@@ -31,6 +32,9 @@ void FormFeatures::set(Features features)
         }
         if (self) {
             give(widget, added);
+        }
+        if (self) {
+            fitTexts(widget); // whether they are faded may have changed
         }
     }
 }
@@ -64,12 +68,22 @@ void FormFeatures::give(const QPointer<QWidget> &widget, Features features)
     if (member && features.testFlag(Feature::Mirroring)) {
         Mirroring::fit(*member);
     }
+    member = self ? m_members.at(widget) : nullptr;
+    if (member && features.testFlag(Feature::ReadableText)) {
+        member->hasReadableText = true;
+        fitTexts(widget);
+    }
 }
 
 void FormFeatures::take(const QPointer<QWidget> &widget, Features features)
 {
     const Guard self(m_support);
     FormMember *member = m_members.at(widget);
+    if (member && features.testFlag(Feature::ReadableText)) {
+        member->hasReadableText = false;
+        ReadableText::take(*member);
+    }
+    member = self ? m_members.at(widget) : nullptr;
     if (member && features.testFlag(Feature::Mirroring)) {
         Mirroring::take(*member);
     }
@@ -126,11 +140,47 @@ void FormFeatures::fit(const QPointer<QWidget> &widget, const QEvent *event)
         && m_features.testFlag(Feature::Mirroring)) {
         Mirroring::fit(*member);
     }
+    if (self
+        && (event->type() == QEvent::EnabledChange || event->type() == QEvent::PaletteChange)) {
+        fitTexts(widget);
+    }
 }
 
-void FormFeatures::handleInText(QWidget *edit, QEvent *event)
+void FormFeatures::fitTexts(const QPointer<QWidget> &widget)
 {
-    if (m_features.testFlag(Feature::FocusRing)) {
+    FormMember *member = m_members.at(widget);
+    if (member && member->hasReadableText) {
+        ReadableText::fit(
+            *member, m_features.testFlag(Feature::DisabledLook) && DisabledLook::fades(*member));
+    }
+}
+
+void FormFeatures::fitTextsLater(const QPointer<QWidget> &widget)
+{
+    QMetaObject::invokeMethod(
+        m_support, [=] { fitTexts(widget); }, Qt::QueuedConnection);
+}
+
+void FormFeatures::handleInText(QWidget *edit, const QLineEdit *text, QEvent *event)
+{
+    const Guard self(m_support);
+    const QPointer<QWidget> alive(edit);
+    switch (event->type()) {
+    case QEvent::PaletteChange:
+        if (ReadableText::isRestored(*m_members.at(edit), text)) {
+            fitTextsLater(edit);
+        } else {
+            fitTexts(edit);
+        }
+        break;
+    case QEvent::Show: // has a style by now
+    case QEvent::StyleChange:
+        fitTexts(edit);
+        break;
+    default:
+        break;
+    }
+    if (self && alive && m_features.testFlag(Feature::FocusRing)) {
         m_focus.handle(edit, FormKind::LineEdit, event);
     }
 }

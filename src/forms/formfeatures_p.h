@@ -31,8 +31,8 @@ public:
 
     /** Does what @p event asks for that came to a member; returns whether it is done with. */
     bool handle(QWidget *widget, FormKind kind, QEvent *event);
-    /** Does what an event asks for that came to the text of a line edit. */
-    void handleInText(QWidget *edit, QEvent *event);
+    /** Does what @p event asks for that came to @p text, the text of a line edit. */
+    void handleInText(QWidget *edit, const QLineEdit *text, QEvent *event);
     /** Fits the sizes of the members that are laid out in @p container. */
     void fitSizesIn(const QWidget *container);
 
@@ -45,6 +45,8 @@ private:
     void give(const QPointer<QWidget> &widget, Features features);
     void take(const QPointer<QWidget> &widget, Features features);
     void fit(const QPointer<QWidget> &widget, const QEvent *event);
+    void fitTexts(const QPointer<QWidget> &widget);
+    void fitTextsLater(const QPointer<QWidget> &widget);
 
     OlvFormSupport *const m_support;
     FormMembers &m_members;

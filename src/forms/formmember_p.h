@@ -6,7 +6,10 @@
 #include <QSize>
 #include <QWidget>
 
+#include <memory>
+
 class QLineEdit;
+struct TextColors;
 
 /** What a form support tells apart. */
 enum class FormKind {
@@ -59,6 +62,9 @@ struct FormMember
     bool hasPolicy = false;
     bool hasFocusPolicy = false;
     bool hasFocusProxy = false;
+    bool hasReadableText = false;
     /** The effect that a disabled one is seen through; the widget's. */
     QPointer<QGraphicsEffect> fade;
+    /** The colours of its text; null unless they have been looked at. */
+    std::shared_ptr<TextColors> colors;
 };

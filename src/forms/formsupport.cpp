@@ -215,7 +215,7 @@ bool OlvFormSupport::Private::handle(QObject *watched, QEvent *event)
     const Guard self(m_support);
     const QPointer<QObject> alive(watched);
     if (QWidget *edit = member ? nullptr : m_members.editAround(widget)) {
-        m_given.handleInText(edit, event);
+        m_given.handleInText(edit, static_cast<QLineEdit *>(widget), event);
         return !alive;
     }
     if (member && handleInMember(widget, kind, event)) {

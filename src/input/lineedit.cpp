@@ -201,7 +201,7 @@ void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
         drawFrame(painter, size());
     }
     const bool isNormal = property(stateProperty).toString() == normalState();
-    painter.setPen(QColor(isNormal ? iconColor : focusedIconColor));
+    painter.setPen(d->look.textColor(QColor(isNormal ? iconColor : focusedIconColor)));
     const int column = bounded(property(iconWidthProperty).toInt());
     painter.drawText(QRect(mirror.placed(0, column), 0, column, height()), Qt::AlignCenter,
                      property(iconProperty).toString());
@@ -273,5 +273,13 @@ void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)
     }
     if (self) {
         self->update();
+    }
+}
+
+void InputLook::setContrast(OlvLineEdit *edit, Contrast contrast)
+{
+    if (edit->d->look.contrast != contrast) {
+        edit->d->look.contrast = contrast;
+        edit->update();
     }
 }

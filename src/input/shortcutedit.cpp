@@ -204,7 +204,7 @@ void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
     }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(QFont(QStringLiteral("新宋体"), height() / 2));
-    painter.setPen(color);
+    painter.setPen(d->look.textColor(color));
     if (OlvShortcut *held = shortcut()) {
         painter.drawText(QRect(0, 0, width(), height()), Qt::AlignCenter, held->toString());
     }
@@ -215,6 +215,14 @@ void InputLook::setMirrored(OlvShortcutEdit *edit, bool isOn)
     Mirror &mirror = edit->d->look.mirror;
     if (mirror.isOn != isOn) {
         mirror.isOn = isOn;
+        edit->update();
+    }
+}
+
+void InputLook::setContrast(OlvShortcutEdit *edit, Contrast contrast)
+{
+    if (edit->d->look.contrast != contrast) {
+        edit->d->look.contrast = contrast;
         edit->update();
     }
 }

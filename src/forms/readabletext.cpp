@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: MIT
+#include "forms/readabletext_p.h"
+
+#include <OlvWidgets/input.h>
+
+#include "forms/disabledlook_p.h"
+#include "forms/formmember_p.h"
+#include "input/inputlook_p.h"
+#include "painting/contrast_p.h"
+
+#include <QApplication>
+#include <QCache>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+constexpr QRgb ground = qRgb(255, 255, 255);
+constexpr QPalette::ColorGroup groups[] = { QPalette::Active, QPalette::Inactive,
+                                            QPalette::Disabled };
+/** What disabled texts have before they are faded; still 2.2 and 1.9 after that, on white. */
+constexpr double strongText = 12.0;
+constexpr double strongPlaceholder = 7.0;
+
+constexpr int maxBrushes = 64;
+
+/** What the style sheet of the text sets in its palette. */
+constexpr uint sheetRoles = 1U << QPalette::Base | 1U << QPalette::Window | 1U << QPalette::Button;
+
+uint bitOf(QPalette::ColorRole role)
+{
+    return 1U << role;
+}
+
+bool hasOwn(const QPalette &palette, QPalette::ColorRole role)
+{
+    return (palette.resolve() & bitOf(role)) != 0;
+}
+
+TextColors::Colors colorsOf(const QPalette &palette)
+{
+    TextColors::Colors colors;
+    auto color = colors.begin();
+    for (const QPalette::ColorRole role : TextColors::roles) {
+        for (const QPalette::ColorGroup group : groups) {
+            *color++ = palette.color(group, role).rgba();
+        }
+    }
+    return colors;
+}
+
+/** The brushes of a role, in all groups, of another palette; none if that has none of its own. */
+void copyRole(QPalette *to, const QPalette &from, QPalette::ColorRole role)
+{
+    if (hasOwn(from, role)) {
+        for (const QPalette::ColorGroup group : groups) {
+            to->setBrush(group, role, from.brush(group, role));
+        }
+    } else {
+        to->resolve(to->resolve() & ~bitOf(role));
+    }
+}
+
+/** Notes which colours of a palette are not those that have been given. */
+void noteOwn(TextColors *colors, const QPalette &palette)
+{
+    const TextColors::Colors now = colorsOf(palette);
+    for (int i = 0; i < TextColors::roleCount; ++i) {
+        const QPalette::ColorRole role = TextColors::roles[i];
+        const auto first = [=](const TextColors::Colors &all) {
+            return all.cbegin() + 3 * i;
+        };
+        const bool isGiven = colors->isGiven && hasOwn(palette, role)
+            && std::equal(first(now), first(now) + 3, first(colors->given));
+        if (!isGiven && (hasOwn(palette, role) || hasOwn(colors->own, role))) {
+            copyRole(&colors->own, palette, role);
+        }
+    }
+}
+
+/** A colour of text that may be meant for a dark ground: there, a light one takes its place. */
+QColor darkened(const QColor &color)
+{
+    if (Contrast::ratio(Contrast::seen(color, ground), ground) >= Contrast::readable) {
+        return color;
+    }
+    const QColor opposite =
+        QColor::fromHslF(color.hslHueF() < 0 ? 0 : color.hslHueF(), color.hslSaturationF(),
+                         1 - color.lightnessF(), color.alphaF());
+    return Contrast::ratio(Contrast::seen(opposite, ground), ground)
+            > Contrast::ratio(Contrast::seen(color, ground), ground)
+        ? opposite
+        : color;
+}
+
+/** A colour of text as it is once its widget is disabled, which fades the widget or does not. */
+QColor disabled(const QColor &color, double strong, bool fades)
+{
+    QColor result = Contrast::atLeast(strong, color, ground);
+    if (!fades) {
+        result.setAlphaF(DisabledLook::opacity);
+        result = Contrast::seen(result, ground);
+    }
+    return result;
+}
+
+/**
+ * A brush of one colour, which others of that colour share: a form has many texts of few colours,
+ * and a brush takes more memory than all else that a text is given.
+ */
+QBrush sharedBrush(const QColor &color)
+{
+    static QCache<QRgb, QBrush> brushes(maxBrushes);
+    if (const QBrush *brush = brushes.object(color.rgba())) {
+        return *brush;
+    }
+    const QBrush brush(color);
+    brushes.insert(color.rgba(), new QBrush(brush));
+    return brush;
+}
+
+void setColor(QPalette *palette, QPalette::ColorGroup group, QPalette::ColorRole role,
+              const QColor &color)
+{
+    if (palette->color(group, role) != color) {
+        palette->setBrush(group, role, sharedBrush(color));
+    }
+}
+
+void setReadable(QPalette *palette, QPalette::ColorRole role, double strong, bool fades)
+{
+    const auto readable = [&](QPalette::ColorGroup group) {
+        const QColor color = darkened(palette->color(group, role));
+        return Contrast::atLeast(Contrast::readable, color, ground);
+    };
+    const QColor active = readable(QPalette::Active);
+    setColor(palette, QPalette::Active, role, active);
+    setColor(palette, QPalette::Inactive, role, readable(QPalette::Inactive));
+    setColor(palette, QPalette::Disabled, role, disabled(active, strong, fades));
+}
+
+QPalette readable(QPalette palette, bool fades)
+{
+    setReadable(&palette, QPalette::Text, strongText, fades);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    setReadable(&palette, QPalette::PlaceholderText, strongPlaceholder, fades);
+#endif
+    for (const QPalette::ColorGroup group : groups) {
+        const QColor selected = Contrast::seen(palette.color(group, QPalette::Highlight), ground);
+        const QColor text = palette.color(group, QPalette::HighlightedText);
+        setColor(&palette, group, QPalette::HighlightedText,
+                 Contrast::atLeast(Contrast::readable, text, selected));
+    }
+    return palette;
+}
+
+/** A palette of a text without the colours that it has been given. */
+QPalette withoutGiven(QPalette palette, const QPalette &own)
+{
+    for (const QPalette::ColorRole role : TextColors::roles) {
+        copyRole(&palette, own, role);
+    }
+    return palette;
+}
+
+bool hasSheet(const QPalette &palette)
+{
+    return (palette.resolve() & sheetRoles) == sheetRoles;
+}
+
+void fitText(FormMember &member, QLineEdit *text, bool fades)
+{
+    const QPalette before = text->palette();
+    if (!hasSheet(before) && !text->testAttribute(Qt::WA_WState_Polished)) {
+        return; // the style sheet has not taken hold yet
+    }
+    if (!member.colors) {
+        member.colors = std::make_shared<TextColors>();
+    }
+    TextColors &colors = *member.colors;
+    noteOwn(&colors, before);
+    // what Qt gives a widget that has a style sheet: nothing of the widgets around it
+    QPalette ofApplication = QApplication::palette(text);
+    ofApplication.resolve(0);
+    const QPalette natural = withoutGiven(before, colors.own).resolve(ofApplication);
+    const QPalette after = readable(natural, fades);
+    if (after != before) {
+        colors.given = colorsOf(after);
+        colors.isGiven = true;
+        text->setPalette(after); // what hears of it may delete the member
+    }
+}
+
+void takeText(FormMember &member, QLineEdit *text)
+{
+    const std::shared_ptr<TextColors> colors = std::exchange(member.colors, nullptr);
+    if (colors && colors->isGiven) {
+        const QPalette before = text->palette();
+        noteOwn(colors.get(), before);
+        text->setPalette(withoutGiven(before, colors->own));
+    }
+}
+
+InputLook::Contrast contrastOf(const QWidget *field, bool fades)
+{
+    if (field->isEnabled()) {
+        return InputLook::Readable;
+    }
+    // what is pale anyway is paler than that of an enabled field
+    return fades ? InputLook::Strong : InputLook::Unchanged;
+}
+
+} // namespace
+
+void ReadableText::fit(FormMember &member, bool fades)
+{
+    if (member.kind == FormKind::ShortcutEdit) {
+        auto *edit = static_cast<OlvShortcutEdit *>(member.widget.data());
+        InputLook::setContrast(edit, contrastOf(edit, fades));
+    } else if (member.kind == FormKind::LineEdit) {
+        auto *edit = static_cast<OlvLineEdit *>(member.widget.data());
+        InputLook::setContrast(edit, contrastOf(edit, fades));
+        if (QLineEdit *text = edit->lineEdit()) {
+            fitText(member, text, fades);
+        }
+    }
+}
+
+void ReadableText::take(FormMember &member)
+{
+    if (member.kind == FormKind::ShortcutEdit) {
+        InputLook::setContrast(static_cast<OlvShortcutEdit *>(member.widget.data()),
+                               InputLook::Unchanged);
+    } else if (member.kind == FormKind::LineEdit) {
+        auto *edit = static_cast<OlvLineEdit *>(member.widget.data());
+        InputLook::setContrast(edit, InputLook::Unchanged);
+        if (QLineEdit *text = edit->lineEdit()) {
+            takeText(member, text);
+        }
+    }
+}
+
+bool ReadableText::isRestored(const FormMember &member, const QLineEdit *text)
+{
+    const QPalette palette = text->palette();
+    // some of its own roles may come from a style sheet that is no more
+    return member.colors && member.colors->isGiven && !hasSheet(palette)
+        && std::all_of(std::begin(TextColors::roles), std::end(TextColors::roles),
+                       [&](QPalette::ColorRole role) {
+                           return !hasOwn(palette, role)
+                               || palette.brush(role) == member.colors->own.brush(role);
+                       });
+}

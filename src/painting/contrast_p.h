@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+/**
+ * How well a colour is told from the ground it is on.
+ *
+ * The figures are those of the Web Content Accessibility Guidelines 2.1 (W3C Recommendation, 5 June
+ * 2018), "relative luminance" and "contrast ratio": 1 for equal colours, 21 for black on white.
+ * Their success criterion 1.4.3 asks for 4.5 where text is to be read.
+ */
+namespace Contrast {
+
+constexpr double readable = 4.5;
+
+/** The contrast of two opaque colours. */
+double ratio(const QColor &one, const QColor &other);
+/** What is seen of @p color, which may be translucent, on @p ground, which is opaque. */
+QColor seen(const QColor &color, const QColor &ground);
+/**
+ * The colour with a contrast of @p least on @p ground that is the nearest to @p color, on the way
+ * to black or white: the one of these that is seen better there, when it does not reach that.
+ */
+QColor atLeast(double least, const QColor &color, const QColor &ground);
+
+} // namespace Contrast
