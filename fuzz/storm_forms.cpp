@@ -30,6 +30,29 @@ template <typename Object> void prune(QVector<QPointer<Object>> &objects)
                   objects.end());
 }
 
+/** Qt's delegates go on to use an editor that they have committed because the focus left it. */
+class GuardedDelegate : public OlvValueDelegate
+{
+public:
+    GuardedDelegate(World &world, QObject *parent)
+        : OlvValueDelegate(parent)
+        , m_world(world)
+    { }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::FocusOut && event->type() != QEvent::Hide) {
+            return OlvValueDelegate::eventFilter(watched, event);
+        }
+        const World::Guard guard(m_world);
+        return OlvValueDelegate::eventFilter(watched, event);
+    }
+
+private:
+    World &m_world;
+};
+
 /** Widgets of the library in layouts, splitters and bare windows, with supports that come and go.
  */
 class FormsFamily : public Family
@@ -275,7 +298,7 @@ private:
         if (m_mappers.isEmpty() || (m_mappers.size() < mostMappers && dice.oneIn(4))) {
             auto *mapper = new QDataWidgetMapper(world.anyHost());
             mapper->setModel(&m_model);
-            mapper->setItemDelegate(new OlvValueDelegate(mapper));
+            mapper->setItemDelegate(new GuardedDelegate(world, mapper));
             mapper->setSubmitPolicy(dice.coin() ? QDataWidgetMapper::AutoSubmit
                                                 : QDataWidgetMapper::ManualSubmit);
             world.remember(mapper->itemDelegate());
@@ -306,7 +329,7 @@ private:
         case 3: {
             // Qt's mapper uses the delegate before when it gets another
             const std::unique_ptr<QAbstractItemDelegate> before(mapper->itemDelegate());
-            mapper->setItemDelegate(new OlvValueDelegate(mapper));
+            mapper->setItemDelegate(new GuardedDelegate(world, mapper));
             break;
         }
         default: {

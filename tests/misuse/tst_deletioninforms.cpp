@@ -112,6 +112,12 @@ void toCommit(QWidget *sender, const Slot &slot)
     QObject::connect(mapper->itemDelegate(), &QAbstractItemDelegate::commitData, sender, slot);
 }
 
+void toClose(QWidget *sender, const Slot &slot)
+{
+    auto *mapper = amongChildrenOf<QDataWidgetMapper>(sender->window());
+    QObject::connect(mapper->itemDelegate(), &QAbstractItemDelegate::closeEditor, sender, slot);
+}
+
 QVector<Emission> dataEmissions()
 {
     return {
@@ -122,14 +128,14 @@ QVector<Emission> dataEmissions()
         { "OlvValueDelegate::commitData of OlvSlider", makeMapped<OlvSlider>, toCommit,
           byKey(Qt::Key_End), supportAndMapper() },
         // not the mapper, whose delegate Qt goes on to use here
-        { "OlvValueDelegate::commitData, focus leaves OlvSwitch", makeMapped<OlvSwitch>, toCommit,
+        { "OlvValueDelegate::closeEditor, focus leaves OlvSwitch", makeMapped<OlvSwitch>, toClose,
           leave, support() },
-        { "OlvValueDelegate::commitData, focus leaves OlvShortcutEdit", makeMapped<OlvShortcutEdit>,
-          toCommit, leave, support() },
-        { "OlvValueDelegate::commitData, focus leaves OlvLineEdit", makeMapped<OlvLineEdit>,
-          toCommit, [](QWidget *sender) { leave(static_cast<OlvLineEdit *>(sender)->lineEdit()); },
+        { "OlvValueDelegate::closeEditor, focus leaves OlvShortcutEdit",
+          makeMapped<OlvShortcutEdit>, toClose, leave, support() },
+        { "OlvValueDelegate::closeEditor, focus leaves OlvLineEdit", makeMapped<OlvLineEdit>,
+          toClose, [](QWidget *sender) { leave(static_cast<OlvLineEdit *>(sender)->lineEdit()); },
           support() },
-        { "OlvValueDelegate::commitData, focus leaves QLineEdit", makeMapped<QLineEdit>, toCommit,
+        { "OlvValueDelegate::closeEditor, focus leaves QLineEdit", makeMapped<QLineEdit>, toClose,
           leave, support() },
         { "OlvValueDelegate::commitData, Enter in OlvSwitch", makeMapped<OlvSwitch>, toCommit,
           byKey(Qt::Key_Return), support() },
