@@ -59,8 +59,10 @@ public:
          * password button does without it. Space and Enter click a button or a tile; Space alone
          * flips a switch; the arrows move a slider by 1, Page Up and Page Down by 10, Home and End
          * to its ends. A key press shows the pressed look and its release clicks; Escape, or losing
-         * the focus in between, takes the press back. All other keys go on to the form. A widget
-         * that the application has given a focus policy keeps it.
+         * the focus in between, takes the press back. In an OlvGridLayout the arrows, Home and End
+         * move the focus from a button or tile to another one, and the grid scrolls to what the
+         * keyboard has brought the focus to. All other keys go on to the form. A widget that the
+         * application has given a focus policy keeps it.
          */
         Keyboard = 0x02,
         /**

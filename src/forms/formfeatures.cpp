@@ -2,6 +2,7 @@
 #include "forms/formfeatures_p.h"
 
 #include "forms/disabledlook_p.h"
+#include "forms/formgrid_p.h"
 #include "forms/formsizes_p.h"
 #include "forms/mirroring_p.h"
 #include "forms/readabletext_p.h"
@@ -112,6 +113,9 @@ bool FormFeatures::handle(QWidget *widget, FormKind kind, QEvent *event)
     if (self && alive && m_features.testFlag(Feature::FocusRing)) {
         m_focus.handle(widget, kind, event);
     }
+    if (self && alive && m_features.testFlag(Feature::Keyboard)) {
+        FormGrid::follow(alive, event);
+    }
     if (!self || !alive || !m_features.testFlag(Feature::Keyboard)
         || !m_keys.handle(widget, kind, event)) {
         return false;
@@ -182,6 +186,9 @@ void FormFeatures::handleInText(QWidget *edit, const QLineEdit *text, QEvent *ev
     }
     if (self && alive && m_features.testFlag(Feature::FocusRing)) {
         m_focus.handle(edit, FormKind::LineEdit, event);
+    }
+    if (self && alive && m_features.testFlag(Feature::Keyboard)) {
+        FormGrid::follow(edit, event);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 #include "buttons/mouseclick_p.h"
+#include "forms/formgrid_p.h"
 #include "value/knobmirror_p.h"
 
 #include <QKeyEvent>
@@ -203,10 +204,11 @@ bool FormKeys::pressKey(QWidget *widget, FormKind kind, const QKeyEvent &key)
     switch (kind) {
     case FormKind::Button:
     case FormKind::Tile:
-        return pressKeyOfButton(widget, key);
+        return FormGrid::moveFocus(widget, key) || pressKeyOfButton(widget, key);
     case FormKind::Glyph:
     case FormKind::BarButton:
-        return pressKeyOfGlyph(static_cast<QPushButton *>(widget), key);
+        return FormGrid::moveFocus(widget, key)
+            || pressKeyOfGlyph(static_cast<QPushButton *>(widget), key);
     case FormKind::Switch:
         return pressKeyOfSwitch(widget, key);
     case FormKind::Slider:
