@@ -86,7 +86,11 @@ private:
         switch (dice.below(8)) {
         case 0: {
             const QString color = dice.pick(types);
-            button->setOlvStyle(color, dice.pick(types))->setOlvStyle(dice.text(), color);
+            const QPointer<OlvButton> alive(button);
+            button->setOlvStyle(color, dice.pick(types));
+            if (alive) {
+                button->setOlvStyle(dice.text(), color);
+            }
             break;
         }
         case 1:

@@ -4,10 +4,14 @@
 #include <OlvWidgets/foundation.h>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QVector>
 
 #include <limits>
+#include <thread>
 
 namespace {
 
@@ -44,12 +48,39 @@ private:
     QPointer<Watched> m_watched;
 };
 
+/**
+ * The folders of the library's fonts, in a current folder of their own. The files are no fonts:
+ * what is measured must not depend on when a thread registers one.
+ */
+class FontFolders
+{
+public:
+    FontFolders()
+    {
+        constexpr int fileCount = 20;
+        QDir::setCurrent(m_place.path());
+        for (const char *name : { "Font", "fonts" }) {
+            const QString folder = m_place.filePath(QString::fromLatin1(name));
+            QDir().mkpath(folder);
+            for (int i = 0; i < fileCount; ++i) {
+                QFile file(QStringLiteral("%1/%2.ttf").arg(folder).arg(i));
+                file.open(QIODevice::WriteOnly);
+            }
+        }
+    }
+    Q_DISABLE_COPY(FontFolders)
+
+private:
+    QTemporaryDir m_place;
+};
+
 class FoundationEpisode : public Storm::Episode
 {
 public:
     explicit FoundationEpisode(Dice &dice)
         : m_dice(dice)
     {
+        static const FontFolders folders;
         if (!OlvAutoDestroy::SINGLEGLOBAL) {
             OlvAutoDestroy::SINGLEGLOBAL = new OlvAutoDestroy;
         }
@@ -93,6 +124,8 @@ public:
             defer();
         } else if (choice < 563) {
             cleanUp();
+        } else if (m_dice.oneIn(4000)) {
+            initAtOnce();
         } else if (m_dice.oneIn(200'000)) {
             fitMegabyte();
         } else {
@@ -226,6 +259,15 @@ private:
         } else {
             OlvAutoDestroy::addDestroy(callable());
         }
+    }
+
+    /** The library's fonts are registered by two threads at the same time. */
+    static void initAtOnce()
+    {
+        std::thread another(OlvGlobal::init);
+        OlvGlobal::init();
+        OlvGlobal::isReady();
+        another.join();
     }
 
     void filter()

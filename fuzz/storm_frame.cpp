@@ -44,6 +44,38 @@ private:
     int m_width;
 };
 
+/** A widget that may delete the helpers in it, or others, when it is moved or resized. */
+class Target : public QWidget
+{
+public:
+    Target(World &world, QWidget *parent)
+        : QWidget(parent)
+        , m_world(world)
+    { }
+
+protected:
+    void moveEvent(QMoveEvent * /*event*/) override
+    {
+        strike();
+    }
+    void resizeEvent(QResizeEvent * /*event*/) override
+    {
+        strike();
+    }
+
+private:
+    void strike()
+    {
+        if (m_world.dice().oneIn(30)) {
+            m_world.takeHelper(this);
+        } else if (m_world.dice().oneIn(60)) {
+            m_world.deleteAny(this);
+        }
+    }
+
+    World &m_world;
+};
+
 class FrameFamily : public Family
 {
 public:
@@ -87,7 +119,7 @@ public:
         }
         QObject *helper = dice.pick(children);
         if (auto *mover = dynamic_cast<OlvMoveWidget *>(helper)) {
-            callMover(dice, mover);
+            callMover(world, mover);
         } else if (auto *resizer = dynamic_cast<OlvResizeWidget *>(helper)) {
             resizer->reset();
         } else if (auto *item = dynamic_cast<OlvResizeItem *>(helper)) {
@@ -122,7 +154,7 @@ private:
     static QWidget *makeTarget(World &world, QWidget *parent)
     {
         Dice &dice = world.dice();
-        auto *target = new QWidget(parent);
+        auto *target = new Target(world, parent);
         target->resize(80, 60);
         if (dice.coin()) {
             auto *mover = new OlvMoveWidget(target);
@@ -136,12 +168,17 @@ private:
         return target;
     }
 
-    static void callMover(Dice &dice, OlvMoveWidget *mover)
+    static void callMover(World &world, OlvMoveWidget *mover)
     {
+        Dice &dice = world.dice();
         const QRect area =
             dice.coin() ? dice.rect() : QRect(0, 0, dice.between(-9, 200), dice.between(-9, 200));
         const QVariant before = mover->property("MoveArea");
+        const QPointer<OlvMoveWidget> alive(mover);
         mover->setMoveArea(area);
+        if (!alive || !world.isUndisturbed()) {
+            return;
+        }
         const auto *target = qobject_cast<QWidget *>(mover->parent());
         const bool hasNoWidth = qint64(area.right()) - area.left() == -1;
         const QVariant expected = !target ? before : hasNoWidth ? target->rect() : area;

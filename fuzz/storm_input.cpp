@@ -112,9 +112,14 @@ public:
 
     void setText(QWidget *widget, const QString &text) override
     {
-        if (auto *line = qobject_cast<OlvLineEdit *>(widget)) {
+        const QPointer<OlvLineEdit> line(qobject_cast<OlvLineEdit *>(widget));
+        if (line) {
             line->setIcon(text);
+        }
+        if (line) {
             line->setPlaceholderText(text);
+        }
+        if (line) {
             line->setText(text);
         }
     }
@@ -145,7 +150,9 @@ private:
         }
         case 6: {
             QEvent event(dice.coin() ? QEvent::FocusIn : QEvent::FocusOut);
-            Storm::check(!line->eventFilter(nullptr, &event), "a line consumes nothing");
+            const QPointer<OlvLineEdit> alive(line);
+            const bool isConsumed = line->eventFilter(nullptr, &event);
+            Storm::check(!isConsumed || !alive, "a line consumes nothing");
             break;
         }
         default:

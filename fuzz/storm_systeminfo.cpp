@@ -7,9 +7,18 @@
 #include <QPointer>
 #include <QVector>
 
+#include <memory>
+
 namespace {
 
 constexpr int mostShortcuts = 12;
+
+/** Keeps one, the last, longer than the application object and the library's statics. */
+void keep(OlvShortcut *shortcut)
+{
+    static std::unique_ptr<OlvShortcut> kept;
+    kept.reset(shortcut);
+}
 
 /** Shortcuts that are made, registered, deleted and activated, by their own slots as well. */
 class SystemInfoEpisode : public QObject, public Storm::Episode
@@ -17,13 +26,22 @@ class SystemInfoEpisode : public QObject, public Storm::Episode
 public:
     explicit SystemInfoEpisode(Dice &dice)
         : m_dice(dice)
-    { }
+    {
+        keep(nullptr); // what an episode before has kept must not influence this one
+    }
 
     ~SystemInfoEpisode() override
     {
         m_depth = deepest;
-        for (const QPointer<OlvShortcut> &shortcut : qAsConst(m_shortcuts)) {
-            delete shortcut;
+        const int kept = m_dice.coin() ? m_dice.below(mostShortcuts) : -1;
+        for (int i = 0; i < m_shortcuts.size(); ++i) {
+            QCoreApplication::sendPostedEvents(m_shortcuts.at(i), QEvent::DeferredDelete);
+            if (i == kept && m_shortcuts.at(i)) {
+                m_shortcuts.at(i)->setParent(nullptr);
+                keep(m_shortcuts.at(i));
+            } else {
+                delete m_shortcuts.at(i);
+            }
         }
     }
 
@@ -112,6 +130,7 @@ private:
 
 int main(int argc, char **argv)
 {
+    keep(nullptr); // so that it is there before everything that the libraries make
     return Storm::run(argc, argv, "systeminfo",
                       [](Dice &dice) { return std::make_unique<SystemInfoEpisode>(dice); });
 }

@@ -29,9 +29,12 @@ public:
 
     void callSetValue(const QVariant &value)
     {
+        const QPointer<HeardSlider> self(this);
         m_isCalled = true;
         setValue(value);
-        m_isCalled = false;
+        if (self) {
+            m_isCalled = false;
+        }
     }
 
 private:

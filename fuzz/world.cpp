@@ -99,6 +99,11 @@ void World::adopt(QWidget *widget)
     m_widgets.append(widget);
     const auto listen = [this](QObject *object) {
         remember(object);
+        object->installEventFilter(this);
+        if (auto *timer = qobject_cast<QTimer *>(object)) {
+            prune(m_timers);
+            m_timers.append(timer);
+        }
         connect(object, &QObject::destroyed, this, &World::forget);
         const QMetaObject *meta = object->metaObject();
         const int slot = metaObject()->indexOfSlot("strike()");
@@ -169,7 +174,9 @@ QWidget *World::target()
     prune(m_widgets);
     if (m_widgets.isEmpty() || (m_widgets.size() < mostWidgets && m_dice.oneIn(100))) {
         QWidget *host = anyHost();
+        m_isMaking = true;
         QWidget *made = m_family->make(*this, host);
+        m_isMaking = false;
         if (!made) {
             return target();
         }

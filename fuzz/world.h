@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QVector>
 #include <QWidget>
 
@@ -37,8 +38,9 @@ private:
 
 /**
  * A few windows full of widgets of one family, to which random things happen. Slots of all their
- * signals do more while the sender is still at work: they delete it, its parent, its helpers or its
- * neighbours, send further events, or run the event loop.
+ * signals, filters of their events and an assistive program that hears of their changes do more
+ * while the widget is still at work: they delete it, its parent, its helpers or its neighbours,
+ * send further events, or run the event loop.
  */
 class World : public QObject, public Storm::Episode
 {
@@ -81,6 +83,11 @@ public:
     bool isUndisturbed() const;
     /** Advances the clock and runs the event loop, unless a Guard exists. */
     void pass(int milliseconds);
+    /** Deletes a child of @p widget, later if a Guard exists, or takes it away. */
+    void takeHelper(QWidget *widget);
+
+    /** Deletes and does other things when a widget is told of a property or of input. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
     /** The slot of every signal. */
@@ -107,7 +114,7 @@ private:
     // worldslots.cpp: what its slots do
     void strikeFrom(QObject *from);
     void strikeGently();
-    void takeHelper(QWidget *widget);
+    void fireTimer();
     void hear(const QAccessibleEvent &update);
 
     /** How deeply slots may be nested. */
@@ -119,13 +126,14 @@ private:
     QVector<QPointer<QWidget>> m_hosts;
     QVector<QPointer<QWidget>> m_widgets;
     QVector<qulonglong> m_addresses;
+    QVector<QPointer<QTimer>> m_timers;
     QPointer<QWidget> m_target;
     int m_depth = 0;
     int m_guards = 0;
     int m_strikes = 0;
     bool m_isDying = false; // a destructor is running further up the stack
     bool m_isShowingTip = false;
-    bool m_isOverwriting = false;
+    bool m_isMaking = false; // the constructor of a widget may be at work
     StormAssistant m_assistant;
 };
 

@@ -136,9 +136,7 @@ void World::overwriteProperty(QObject *object)
     default:
         value = m_dice.variant();
     }
-    m_isOverwriting = m_guards == 0;
     object->setProperty(name.constData(), value);
-    m_isOverwriting = false;
 }
 
 void World::setHugeText(QWidget *widget)

@@ -3,6 +3,8 @@
 
 #include "events.h"
 
+#include <QCoreApplication>
+#include <QDynamicPropertyChangeEvent>
 #include <QMetaMethod>
 
 #include <utility>
@@ -17,11 +19,40 @@ bool standsDeletion(const QMetaMethod &signal)
         || (className == "QAbstractButton" && signal.name() == "clicked");
 }
 
+/** Whether Qt does not touch an object after a filter of such an event of its. */
+bool standsDeletion(const QObject &object, const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::DynamicPropertyChange: {
+        const QByteArray name =
+            static_cast<const QDynamicPropertyChangeEvent &>(event).propertyName();
+        // QWidget goes on after those that it sets for a style sheet, and after a change of focus
+        return !name.startsWith("_q_") && !(name == "state" && object.inherits("OlvLineEdit"));
+    }
+    case QEvent::Enter:
+    case QEvent::Leave:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Wheel:
+    case QEvent::Timer:
+    case QEvent::InputMethod:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /** Whether an object is a part that its widget relies on, as Qt's widgets rely on theirs. */
 bool isPart(const QObject *object)
 {
-    return object->inherits("QLayout") || object->inherits("QLabel")
-        || (object->parent() && object->parent()->inherits("OlvLineEdit"));
+    const QObject *parent = object->parent();
+    const bool isWithin = parent
+        && (parent->inherits("OlvLineEdit") || parent->inherits("QLineEdit")
+            || parent->inherits("QLabel"));
+    return isWithin || object->inherits("QLayout") || object->inherits("QLabel");
 }
 
 /** Whether the library sends the update; Qt sends its own while it still changes the widget. */
@@ -44,6 +75,15 @@ bool isOwn(const QAccessibleEvent &update)
     default:
         return false;
     }
+}
+
+/** Whether the widget that the update is about survives its deletion. */
+bool standsDeletion(const QAccessibleEvent &update)
+{
+    // a line edit tells of its text while Qt's own line edit within it is at work
+    const bool isOfText =
+        update.type() == QAccessible::TextUpdated || update.type() == QAccessible::ValueChanged;
+    return isOwn(update) && !(isOfText && update.object()->inherits("OlvLineEdit"));
 }
 
 } // namespace
@@ -76,9 +116,7 @@ void World::hear(const QAccessibleEvent &update)
     ++m_strikes;
     if (m_dice.oneIn(8)) {
         StormAssistant::setActive(m_dice.coin());
-    } else if (isOwn(update) && m_isOverwriting && !m_isDying) {
-        // the update comes from a property that the storm has written, so that no widget is at work
-        m_isOverwriting = false;
+    } else if (standsDeletion(update) && m_guards == 0 && !m_isDying && !m_isMaking) {
         strikeFrom(update.object());
     } else {
         const Guard guard(*this);
@@ -95,6 +133,20 @@ void World::hear(const QAccessibleEvent &update)
         }
     }
     --m_depth;
+}
+
+bool World::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_depth >= deepest || m_guards > 0 || m_isDying || !standsDeletion(*watched, *event)
+        || !m_dice.oneIn(24)) {
+        return QObject::eventFilter(watched, event);
+    }
+    ++m_depth;
+    ++m_strikes;
+    const QPointer<QObject> alive(watched);
+    strikeFrom(watched);
+    --m_depth;
+    return !alive || m_dice.coin(); // what is gone must not get the event
 }
 
 void World::strikeGently()
@@ -120,7 +172,9 @@ void World::strikeGently()
         }
         break;
     default:
-        if (m_isDying) {
+        if (m_isDying && m_dice.coin()) {
+            fireTimer();
+        } else if (m_isDying) {
             Events::click(m_dice, other);
         } else {
             Events::sendAny(m_dice, other);
@@ -138,7 +192,7 @@ void World::strikeFrom(QObject *from)
         }
         break;
     case 2:
-        if (from->parent() && m_dice.oneIn(4)) {
+        if (from->parent() && from->parent() != this && m_dice.oneIn(4)) {
             destroy(from->parent());
         }
         break;
@@ -160,6 +214,19 @@ void World::strikeFrom(QObject *from)
         break;
     default:
         step();
+    }
+}
+
+/** As an event loop in a slot of destroyed() has a timer fire that goes after its widget. */
+void World::fireTimer()
+{
+    if (m_timers.isEmpty()) {
+        return;
+    }
+    const QPointer<QTimer> timer = m_dice.pick(m_timers);
+    if (timer && timer->isActive()) {
+        QTimerEvent event(timer->timerId());
+        QCoreApplication::sendEvent(timer, &event);
     }
 }
 
