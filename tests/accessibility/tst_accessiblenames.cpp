@@ -5,6 +5,7 @@
 #include <OlvIconButton>
 #include <OlvSwitch>
 
+#include <QDynamicPropertyChangeEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void tellsTheNameOnce();
     void tellsTheNameThatALabelGaveBeforeTheWidgetWasShown();
     void tellsTheNameThatAnotherParentGives();
+    void tellsNothingWhileItIsPolished();
 };
 
 void TestAccessibleNames::isCalledByItsLabelOrItsToolTip()
@@ -127,6 +129,23 @@ void TestAccessibleNames::tellsTheNameThatAnotherParentGives()
     assistant.heardOf(&wifi);
     wifi.setParent(&box);
     QCOMPARE(assistant.heardOf(&wifi), QStringList{ QStringLiteral("name Network") });
+}
+
+void TestAccessibleNames::tellsNothingWhileItIsPolished()
+{
+    QWidget form;
+    OlvSwitch wifi(&form);
+    Assistant assistant;
+    accessible(&wifi);
+    QLabel label(QStringLiteral("Wi-Fi"), &form);
+    label.setBuddy(&wifi);
+    assistant.heardOf(&wifi);
+    // Qt's own property, which it sets while it polishes a widget for a style sheet
+    QDynamicPropertyChangeEvent polished("_q_styleSheetWidgetFont");
+    QCoreApplication::sendEvent(&wifi, &polished);
+    QCOMPARE(assistant.heardOf(&wifi), QStringList());
+    wifi.setProperty("property", 1);
+    QCOMPARE(assistant.heardOf(&wifi), QStringList({ QStringLiteral("name Wi-Fi") }));
 }
 
 QTEST_MAIN(TestAccessibleNames)
