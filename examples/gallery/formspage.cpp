@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "colors.h"
 #include "page.h"
 #include "pages.h"
 
@@ -68,14 +67,11 @@ QWidget *makeLibraryForm(Page *page)
         };
     };
     auto *name = new OlvLineEdit;
-    // the text has the colour of the application's palette, but the line is always white
-    name->lineEdit()->setPalette(lightColors());
     name->setText(QStringLiteral("Li Wei"));
     auto *password = new OlvLineEdit;
     password->setPassWord(true);
     password->setPwdIcon(QChar(0xf06e), QChar(0xf070));
     password->setText(QStringLiteral("correct horse"));
-    password->lineEdit()->setPalette(lightColors());
     auto *wireless = new OlvSwitch;
     wireless->setChecked(true);
     QObject::connect(wireless, &OlvWidget::valueChanged, page, log("OlvSwitch: valueChanged()"));
@@ -141,8 +137,9 @@ Page *createFormsPage(QWidget *parent)
     auto *page = new Page(
         QStringLiteral("Forms"),
         QStringLiteral("OlvFormSupport: one line that gives a form's widgets their sizes, one tab "
-                       "stop each, keys, mnemonics, a ring for the focus and a look while they are "
-                       "disabled, as Qt's own have them."),
+                       "stop each, keys, mnemonics, a ring for the focus, a look while they are "
+                       "disabled, the layout direction and readable texts, as Qt's own have "
+                       "them."),
         parent);
     auto *forms = new QHBoxLayout;
     forms->setSpacing(20);

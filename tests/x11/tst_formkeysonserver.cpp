@@ -18,16 +18,20 @@ Q_DECLARE_METATYPE(Find)
 
 namespace {
 
-/** Counts the repetitions of held keys that come to a widget. */
+/** Counts the repetitions of held keys that come to a widget, and what Qt takes for releases. */
 class RepetitionWatch : public QObject
 {
 public:
-    int count = 0;
+    int repetitions = 0;
+    int releases = 0;
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->isAutoRepeat()) {
-            ++count;
+        const bool isRelease = event->type() == QEvent::KeyRelease;
+        if (isRelease || event->type() == QEvent::KeyPress) {
+            const bool isRepetition = static_cast<QKeyEvent *>(event)->isAutoRepeat();
+            repetitions += isRepetition ? 1 : 0;
+            releases += isRelease && !isRepetition ? 1 : 0;
         }
         return QObject::eventFilter(watched, event);
     }
@@ -51,7 +55,7 @@ private Q_SLOTS:
     void mnemonicsLeadToTheirWidgets();
     void keysClickButtons_data();
     void keysClickButtons();
-    void aHeldSpaceClicksOnce();
+    void repetitionsDoNotClick();
     void escapeTakesAPressBack();
     void escapeClosesTheDialog();
     void spaceFlipsTheSwitch();
@@ -195,8 +199,11 @@ void TestFormKeysOnServer::keysClickButtons()
     QVERIFY(m_dialog->isVisible()); // Enter has not gone to the dialog
 }
 
-/** The server repeats a key that is held. */
-void TestFormKeysOnServer::aHeldSpaceClicksOnce()
+/**
+ * The server repeats a key that is held. On a busy machine Qt may take a repetition for a release,
+ * which then clicks in its own right.
+ */
+void TestFormKeysOnServer::repetitionsDoNotClick()
 {
     OlvButton *save = m_dialog->form->save;
     const QSignalSpy clicked(save, &OlvButton::clicked);
@@ -204,12 +211,12 @@ void TestFormKeysOnServer::aHeldSpaceClicksOnce()
     RepetitionWatch watch;
     save->installEventFilter(&watch);
     m_keys->press(Symbol::space);
-    QTRY_VERIFY(watch.count > 2);
-    QCOMPARE(save->property("state").toString(), QStringLiteral("click"));
-    QCOMPARE(clicked.count(), 0);
+    QTRY_VERIFY(watch.repetitions > 6);
+    QCOMPARE(clicked.count(), watch.releases);
+    const int before = watch.releases;
     m_keys->release(Symbol::space);
-    QTRY_COMPARE(clicked.count(), 1);
-    QVERIFY(save->property("state").toString() != QLatin1String("click"));
+    QTRY_VERIFY(watch.releases > before);
+    QCOMPARE(clicked.count(), watch.releases);
 }
 
 void TestFormKeysOnServer::escapeTakesAPressBack()
@@ -251,29 +258,44 @@ void TestFormKeysOnServer::spaceFlipsTheSwitch()
 void TestFormKeysOnServer::keysMoveTheSlider_data()
 {
     QTest::addColumn<quint32>("key");
-    QTest::addColumn<int>("to");
-    QTest::newRow("Up") << Symbol::up << 41;
-    QTest::newRow("Down") << Symbol::down << 39;
-    QTest::newRow("Page Up") << Symbol::pageUp << 50;
-    QTest::newRow("Page Down") << Symbol::pageDown << 30;
-    QTest::newRow("Home") << Symbol::home << 0;
-    QTest::newRow("End") << Symbol::end << 100;
+    QTest::addColumn<int>("toTheRight");
+    QTest::addColumn<int>("toTheLeft");
+    QTest::newRow("Right") << Symbol::right << 41 << 39;
+    QTest::newRow("Left") << Symbol::left << 39 << 41;
+    QTest::newRow("Up") << Symbol::up << 41 << 41;
+    QTest::newRow("Down") << Symbol::down << 39 << 39;
+    QTest::newRow("Page Up") << Symbol::pageUp << 50 << 50;
+    QTest::newRow("Page Down") << Symbol::pageDown << 30 << 30;
+    QTest::newRow("Home") << Symbol::home << 0 << 0;
+    QTest::newRow("End") << Symbol::end << 100 << 100;
 }
 
+/** From the right to the left the value grows to the left. */
 void TestFormKeysOnServer::keysMoveTheSlider()
 {
+    QFETCH_GLOBAL(Qt::LayoutDirection, direction);
     QFETCH(quint32, key);
-    QFETCH(int, to);
+    QFETCH(int, toTheRight);
+    QFETCH(int, toTheLeft);
+    const bool isMirrored = direction == Qt::RightToLeft;
+    const int to = isMirrored ? toTheLeft : toTheRight;
     OlvSlider *volume = m_dialog->form->volume;
     volume->setSliderPosition(40);
     focus(volume);
     m_keys->click(key);
     QTRY_COMPARE(volume->getValue(), QVariant(to));
-    OlvSlider other(m_dialog.get());
+
+    QWidget window;
+    window.setLayoutDirection(Qt::LeftToRight);
+    OlvSlider other(&window);
     other.resize(volume->size());
-    other.show(); // which tells it of its size
+    window.show(); // which tells the slider of its size
     other.setSliderPosition(to);
-    QCOMPARE(knobOf(*volume)->pos(), knobOf(other)->pos());
+    QRect place = knobOf(other)->geometry();
+    if (isMirrored) {
+        place.moveRight(volume->width() - 1 - place.left());
+    }
+    QCOMPARE(knobOf(*volume)->geometry(), place);
 }
 
 void TestFormKeysOnServer::combinationsReachTheShortcutEdit()
