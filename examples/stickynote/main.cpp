@@ -3,36 +3,34 @@
 // Each is stored whenever it changes, so that none is lost if the program crashes.
 #include <OlvFlexWidget>
 #include <OlvGlobal>
+#include <OlvPluginEventFilter>
 #include <OlvSimpleIconButton>
 
 #include <QtWidgets>
 
-class Note : public OlvFlexWidget
+/** What a panel holds and stores; the panel owns it, and is deleted when it is closed. */
+class Note : public QObject
 {
     Q_OBJECT
 
 public:
     static void open(const QString &key, QPoint place)
     {
-        auto *note = new Note(key);
-        note->setAttribute(Qt::WA_DeleteOnClose);
-        note->stay(StayTop); // shows it
-        note->move(note->m_settings.value(QStringLiteral("place"), place).toPoint());
-    }
-
-protected:
-    void moveEvent(QMoveEvent * /*event*/) override
-    {
-        m_settling.start();
+        auto *panel = new OlvFlexWidget(260, 220);
+        panel->setAttribute(Qt::WA_DeleteOnClose);
+        const auto *note = new Note(panel, key);
+        panel->stay(OlvFlexWidget::StayTop); // shows it
+        panel->move(note->m_settings.value(QStringLiteral("place"), place).toPoint());
     }
 
 private:
-    explicit Note(const QString &key)
-        : OlvFlexWidget(260, 220)
+    Note(OlvFlexWidget *panel, const QString &key)
+        : QObject(panel)
+        , m_panel(panel)
         , m_text(new QPlainTextEdit)
     {
-        setWindowTitle(tr("Note"));
-        setHeaderWay(HeaderTop, QColor(255, 193, 7));
+        panel->setWindowTitle(tr("Note"));
+        panel->setHeaderWay(OlvFlexWidget::HeaderTop, QColor(255, 193, 7));
         m_settings.beginGroup(key);
         m_text->setAccessibleName(tr("Text"));
         m_text->setPlaceholderText(tr("Do not forget …"));
@@ -44,7 +42,7 @@ private:
         buttons->addStretch();
         auto *add = addButton(buttons, 0xf067, tr("Another note"));
         auto *remove = addButton(buttons, 0xf00d, tr("Throw away"));
-        auto *layout = new QVBoxLayout(this);
+        auto *layout = new QVBoxLayout(panel);
         layout->setContentsMargins(12, 16, 12, 12); // the rim, by which the note is dragged
         layout->setSpacing(4);
         layout->addLayout(buttons);
@@ -53,22 +51,24 @@ private:
         pin->setCheckable(true);
         pin->setToggle(QChar(0xf08d)); // the same glyph, dark while it is checked
         pin->setChecked(true);
-        connect(pin, &QPushButton::clicked, this, [=](bool on) {
-            const QPoint place = pos();
-            stay(on ? StayTop : StayNormal);
-            move(place);
+        connect(pin, &QPushButton::clicked, panel, [=](bool on) {
+            const QPoint place = panel->pos();
+            panel->stay(on ? OlvFlexWidget::StayTop : OlvFlexWidget::StayNormal);
+            panel->move(place);
         });
-        connect(add, &QPushButton::clicked, this,
-                [=] { open(QUuid::createUuid().toString(), pos() + QPoint(40, 40)); });
+        connect(add, &QPushButton::clicked, panel,
+                [=] { open(QUuid::createUuid().toString(), panel->pos() + QPoint(40, 40)); });
         connect(remove, &QPushButton::clicked, m_text, &QPlainTextEdit::clear);
-        connect(remove, &QPushButton::clicked, this, &QWidget::close);
+        connect(remove, &QPushButton::clicked, panel, &QWidget::close);
         connect(m_text, &QPlainTextEdit::textChanged, this, &Note::store);
         m_settling.setSingleShot(true); // a drag moves the note many times, and stores it once
         m_settling.setInterval(200);
         connect(&m_settling, &QTimer::timeout, this, &Note::store);
+        m_moves.addObject(panel);
+        m_moves.addEventListener(QEvent::Move, [this](QEvent *) { m_settling.start(); });
     }
 
-    OlvSimpleIconButton *addButton(QHBoxLayout *row, ushort glyph, const QString &tip)
+    static OlvSimpleIconButton *addButton(QHBoxLayout *row, ushort glyph, const QString &tip)
     {
         auto *button =
             new OlvSimpleIconButton(QChar(glyph), QFont(QStringLiteral("FontAwesome"), 11));
@@ -84,14 +84,16 @@ private:
         m_settings.remove(QString()); // an empty note is not kept
         if (!m_text->toPlainText().isEmpty()) {
             m_settings.setValue(QStringLiteral("text"), m_text->toPlainText());
-            m_settings.setValue(QStringLiteral("place"), pos());
+            m_settings.setValue(QStringLiteral("place"), m_panel->pos());
         }
         m_settings.sync();
     }
 
+    OlvFlexWidget *m_panel;
     QPlainTextEdit *m_text;
     QSettings m_settings;
     QTimer m_settling;
+    OlvPluginEventFilter m_moves;
 };
 
 int main(int argc, char **argv)
