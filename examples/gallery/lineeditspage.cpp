@@ -26,7 +26,7 @@ OlvLineEdit *addLine(Page *page, const QString &heading, const QString &name, QS
     line->setObjectName(name);
     line->setFixedSize(size);
     // the text has the colour of the application's palette, but the line is always white
-    line->findChild<QLineEdit *>()->setPalette(lightColors());
+    line->lineEdit()->setPalette(lightColors());
     page->content()->addWidget(line);
     return line;
 }

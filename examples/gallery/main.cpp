@@ -60,9 +60,12 @@ int main(int argc, char **argv)
 
     QTextStream errors(stderr);
     auto *gallery = new GalleryWindow;
-    const std::unique_ptr<QWidget> window(parser.isSet(frameless)
-                                              ? new FramelessWindow(gallery->windowTitle(), gallery)
-                                              : static_cast<QWidget *>(gallery));
+    std::unique_ptr<QWidget> window;
+    if (parser.isSet(frameless)) {
+        window = std::make_unique<FramelessWindow>(gallery->windowTitle(), gallery);
+    } else {
+        window.reset(gallery);
+    }
     if (parser.isSet(page) && !gallery->showPage(parser.value(page))) {
         errors << "There is no page \"" << parser.value(page)
                << "\". The pages are: " << gallery->pageNames().join(QStringLiteral(", ")) << '\n';

@@ -99,7 +99,7 @@ QWidget *makeLine(ushort glyph, const QString &text, bool isPassword)
     auto *line = new OlvLineEdit;
     line->setFixedSize(lineSize);
     // the text has the colour of the application's palette, but the line is always white
-    line->findChild<QLineEdit *>()->setPalette(lightColors());
+    line->lineEdit()->setPalette(lightColors());
     line->setIcon(QChar(glyph));
     line->setPassWord(isPassword);
     line->setPwdIcon(QChar(0xf06e), QChar(0xf070));
@@ -218,10 +218,7 @@ void repaintWithFonts(Page *page)
     QObject::connect(poll, &QTimer::timeout, page, [=] {
         if (OlvGlobal::isReady()) {
             poll->stop();
-            const QList<QWidget *> widgets = page->findChildren<QWidget *>();
-            for (QWidget *widget : widgets) {
-                widget->update();
-            }
+            page->update(); // and with it all that lies on it
         }
     });
     poll->start(pollInterval);
