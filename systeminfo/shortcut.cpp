@@ -87,12 +87,14 @@ class OlvShortcut::Private
 public:
     Qt::Key key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers;
+    QString description;
 };
 
 OlvShortcut::OlvShortcut(Qt::Key key, bool ctrl, bool shift, bool alt, bool meta, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Private>())
 {
+    qRegisterMetaType<OlvShortcut::State>(); // for queued connections
     d->key = key;
     d->modifiers.setFlag(Qt::ControlModifier, ctrl);
     d->modifiers.setFlag(Qt::ShiftModifier, shift);
@@ -109,7 +111,7 @@ OlvShortcut::~OlvShortcut()
 
 bool OlvShortcut::active()
 {
-    return ShortcutBackend::registerShortcut(this, d->key, d->modifiers);
+    return ShortcutBackend::registerShortcut(this, { d->key, d->modifiers, d->description });
 }
 
 void OlvShortcut::destroy()
@@ -128,6 +130,21 @@ QString OlvShortcut::toString()
         QKeySequence(int(d->modifiers) | Qt::Key_Space).toString(QKeySequence::NativeText);
     text.chop(space.size());
     return text + nameOf(d->key);
+}
+
+OlvShortcut::State OlvShortcut::state() const
+{
+    return ShortcutBackend::stateOf(this);
+}
+
+QString OlvShortcut::description() const
+{
+    return d->description;
+}
+
+void OlvShortcut::setDescription(const QString &description)
+{
+    d->description = description;
 }
 
 OlvShortcut *OlvShortcut::fromAddress(qulonglong address)

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shortcutbackend_p.h"
 
+#ifdef OLV_HAS_PORTAL_SHORTCUTS
+#include "portalbackend_p.h"
+#endif
+#ifdef OLV_HAS_X11_SHORTCUTS
 #include "x11backend_p.h"
+#endif
 
 #include <QGuiApplication>
 #include <QThread>
@@ -14,14 +19,41 @@ using Lock = std::lock_guard<std::mutex>;
 // destroyed, so a shortcut that outlives the statics of this library can still read it.
 ShortcutBackend *backend = nullptr;
 
+/**
+ * What suits the desktop that the application's windows are on; null for none. It is a child of
+ * @p application, since it needs that object's event loop.
+ */
+ShortcutBackend *makeBackend(QGuiApplication *application)
+{
+    Q_UNUSED(application)
+    // With DISPLAY set, a connection could be made on every platform, but the user presses keys on
+    // that server only where the application's windows are on it.
+    const QString platform = QGuiApplication::platformName();
+    const bool isX11 = platform == QLatin1String("xcb");
+#ifdef OLV_HAS_X11_SHORTCUTS
+    // A server for X11 programs on Wayland grants shortcuts, but has no keys while a window of
+    // another kind has the focus.
+    if (isX11 && !X11Backend::isOnWayland()) {
+        return new X11Backend(application);
+    }
+#endif
+#ifdef OLV_HAS_PORTAL_SHORTCUTS
+    if (isX11 || platform.startsWith(QLatin1String("wayland"))) {
+        return new PortalBackend(application);
+    }
+#endif
+    Q_UNUSED(isX11)
+    return nullptr;
+}
+
 } // namespace
 
-bool ShortcutBackend::registerShortcut(OlvShortcut *shortcut, Qt::Key key,
-                                       Qt::KeyboardModifiers modifiers)
+bool ShortcutBackend::registerShortcut(OlvShortcut *shortcut,
+                                       const ShortcutCombination &combination)
 {
     const Lock lock(mutex());
     ShortcutBackend *registrar = instanceOfThisThread();
-    return registrar && registrar->grab(shortcut, key, modifiers);
+    return registrar && registrar->grab(shortcut, combination);
 }
 
 void ShortcutBackend::unregisterShortcut(OlvShortcut *shortcut)
@@ -30,6 +62,12 @@ void ShortcutBackend::unregisterShortcut(OlvShortcut *shortcut)
     if (backend) {
         backend->release(shortcut);
     }
+}
+
+OlvShortcut::State ShortcutBackend::stateOf(const OlvShortcut *shortcut)
+{
+    const Lock lock(mutex());
+    return backend ? backend->state(const_cast<OlvShortcut *>(shortcut)) : OlvShortcut::Inactive;
 }
 
 ShortcutBackend::~ShortcutBackend() = default;
@@ -53,11 +91,8 @@ ShortcutBackend *ShortcutBackend::instanceOfThisThread()
     if (!application || application->thread() != QThread::currentThread()) {
         return nullptr;
     }
-    // With DISPLAY set, a connection could be made on every platform, but the user presses keys on
-    // that server only where the application's windows are on it.
-    if (!backend && QGuiApplication::platformName() == QLatin1String("xcb")) {
-        // It is a child of the application object, since it needs that object's event loop.
-        backend = new X11Backend(application);
+    if (!backend) {
+        backend = makeBackend(application);
     }
     return backend;
 }

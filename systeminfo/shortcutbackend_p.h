@@ -1,11 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OlvSystemInfo/shortcut.h>
+
+#include <QString>
 #include <Qt>
 
 #include <mutex>
 
-class OlvShortcut;
+/** What a shortcut is registered as. */
+struct ShortcutCombination
+{
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    /** What it is for, for desktops that ask their users; may be empty. */
+    QString description;
+};
 
 /**
  * What registers shortcuts with a desktop of one kind. Each kind of desktop has a class behind this
@@ -18,13 +28,15 @@ class ShortcutBackend
 public:
     /**
      * Registers a combination with the desktop that the application runs on, and emits the
-     * shortcut's activated() for it from then on; returns whether it is registered. False in every
-     * thread but the application's, and where there is no desktop that takes shortcuts.
+     * shortcut's activated() for it from then on; returns whether it is registered, which a desktop
+     * that asks its user decides later. False in every thread but the application's, and where
+     * there is no desktop that takes shortcuts.
      */
-    static bool registerShortcut(OlvShortcut *shortcut, Qt::Key key,
-                                 Qt::KeyboardModifiers modifiers);
+    static bool registerShortcut(OlvShortcut *shortcut, const ShortcutCombination &combination);
     /** Releases what the shortcut has registered, if anything. May be called in any thread. */
     static void unregisterShortcut(OlvShortcut *shortcut);
+    /** What has become of the registration. May be called in any thread. */
+    static OlvShortcut::State stateOf(const OlvShortcut *shortcut);
 
     virtual ~ShortcutBackend();
 
@@ -36,9 +48,11 @@ protected:
     void withdraw();
 
     /** Registers a combination. The mutex is locked. */
-    virtual bool grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers) = 0;
+    virtual bool grab(OlvShortcut *shortcut, const ShortcutCombination &combination) = 0;
     /** Releases what the shortcut has registered, if anything. The mutex is locked. */
     virtual void release(OlvShortcut *shortcut) = 0;
+    /** What has become of the registration; Inactive without one. The mutex is locked. */
+    virtual OlvShortcut::State state(OlvShortcut *shortcut) const = 0;
 
 private:
     static ShortcutBackend *instanceOfThisThread();

@@ -5,6 +5,8 @@
 
 #include <OlvSystemInfo/shortcut.h>
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <QSocketNotifier>
 
 #include <xkbcommon/xkbcommon-x11.h>
@@ -46,7 +48,26 @@ X11Backend::~X11Backend()
     xcb_disconnect(m_connection);
 }
 
-bool X11Backend::grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers)
+bool X11Backend::isOnWayland()
+{
+    // Older ones have no extension that tells, but name their screens "XWAYLAND0" and so on.
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (screen && screen->name().startsWith(QLatin1String("XWAYLAND"))) {
+        return true;
+    }
+    constexpr char extension[] = "XWAYLAND";
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    xcb_query_extension_reply_t *reply = xcb_query_extension_reply(
+        connection,
+        xcb_query_extension(connection, sizeof extension - 1, static_cast<const char *>(extension)),
+        nullptr);
+    const bool isPresent = reply && reply->present;
+    std::free(reply);
+    xcb_disconnect(connection);
+    return isPresent;
+}
+
+bool X11Backend::grab(OlvShortcut *shortcut, const ShortcutCombination &combination)
 {
     if (!isAlive()) {
         return false;
@@ -55,14 +76,14 @@ bool X11Backend::grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers 
     if (registered != m_registrations.cend() && !registered->keys.isEmpty()) {
         return true;
     }
-    const QVector<X11Key> keys = m_keymap->find(key, modifiers).keys;
+    const QVector<X11Key> keys = m_keymap->find(combination.key, combination.modifiers).keys;
     readEventsSoon();
     // The server would grant this connection the same keys again, and releasing either grab would
     // release both.
     if (keys.isEmpty() || !isFree(keys) || !grabKeys(keys)) {
         return false;
     }
-    m_registrations.insert(shortcut, { key, modifiers, keys });
+    m_registrations.insert(shortcut, { combination.key, combination.modifiers, keys });
     return true;
 }
 
@@ -73,6 +94,14 @@ void X11Backend::release(OlvShortcut *shortcut)
         ungrabKeys(registration.keys);
         readEventsSoon();
     }
+}
+
+OlvShortcut::State X11Backend::state(OlvShortcut *shortcut) const
+{
+    const auto registered = m_registrations.constFind(shortcut);
+    const bool isGrabbed =
+        registered != m_registrations.cend() && !registered->keys.isEmpty() && isAlive();
+    return isGrabbed ? OlvShortcut::Active : OlvShortcut::Inactive;
 }
 
 /** Has the server tell of changes of the keyboard's mapping and of its group. */

@@ -25,9 +25,13 @@ public:
     explicit X11Backend(QObject *parent);
     ~X11Backend() override;
 
+    /** Whether the server is one for X11 programs on a Wayland desktop. */
+    static bool isOnWayland();
+
 protected:
-    bool grab(OlvShortcut *shortcut, Qt::Key key, Qt::KeyboardModifiers modifiers) override;
+    bool grab(OlvShortcut *shortcut, const ShortcutCombination &combination) override;
     void release(OlvShortcut *shortcut) override;
+    OlvShortcut::State state(OlvShortcut *shortcut) const override;
 
 private:
     struct Registration

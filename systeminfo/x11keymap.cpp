@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "x11keymap_p.h"
 
+#include "keysymbols_p.h"
 #include "xcbxkb_p.h"
 
 #include <QChar>
@@ -15,65 +16,6 @@ namespace {
 
 constexpr int modifierCount = 8;
 
-struct NamedKey
-{
-    Qt::Key key;
-    xkb_keysym_t symbol;
-};
-
-constexpr NamedKey namedKeys[] = {
-    { Qt::Key_Escape, XKB_KEY_Escape },
-    { Qt::Key_Tab, XKB_KEY_Tab },
-    { Qt::Key_Backtab, XKB_KEY_ISO_Left_Tab },
-    { Qt::Key_Backspace, XKB_KEY_BackSpace },
-    { Qt::Key_Return, XKB_KEY_Return },
-    { Qt::Key_Enter, XKB_KEY_KP_Enter },
-    { Qt::Key_Insert, XKB_KEY_Insert },
-    { Qt::Key_Delete, XKB_KEY_Delete },
-    { Qt::Key_Pause, XKB_KEY_Pause },
-    { Qt::Key_Print, XKB_KEY_Print },
-    { Qt::Key_SysReq, XKB_KEY_Sys_Req },
-    { Qt::Key_Home, XKB_KEY_Home },
-    { Qt::Key_End, XKB_KEY_End },
-    { Qt::Key_Left, XKB_KEY_Left },
-    { Qt::Key_Up, XKB_KEY_Up },
-    { Qt::Key_Right, XKB_KEY_Right },
-    { Qt::Key_Down, XKB_KEY_Down },
-    { Qt::Key_PageUp, XKB_KEY_Page_Up },
-    { Qt::Key_PageDown, XKB_KEY_Page_Down },
-    { Qt::Key_Menu, XKB_KEY_Menu },
-    { Qt::Key_Help, XKB_KEY_Help },
-    { Qt::Key_VolumeDown, XKB_KEY_XF86AudioLowerVolume },
-    { Qt::Key_VolumeMute, XKB_KEY_XF86AudioMute },
-    { Qt::Key_VolumeUp, XKB_KEY_XF86AudioRaiseVolume },
-    { Qt::Key_MediaPlay, XKB_KEY_XF86AudioPlay },
-    { Qt::Key_MediaStop, XKB_KEY_XF86AudioStop },
-    { Qt::Key_MediaPrevious, XKB_KEY_XF86AudioPrev },
-    { Qt::Key_MediaNext, XKB_KEY_XF86AudioNext },
-    { Qt::Key_HomePage, XKB_KEY_XF86HomePage },
-    { Qt::Key_Calculator, XKB_KEY_XF86Calculator },
-};
-
-/** The symbol of a named key; none for text keys and for keys that cannot be a shortcut. */
-xkb_keysym_t symbolOf(Qt::Key key)
-{
-    if (key >= Qt::Key_F1 && key <= Qt::Key_F35) {
-        return xkb_keysym_t(XKB_KEY_F1 + (key - Qt::Key_F1));
-    }
-    for (const NamedKey &named : namedKeys) {
-        if (named.key == key) {
-            return named.symbol;
-        }
-    }
-    return XKB_KEY_NoSymbol;
-}
-
-/** Whether the key's number is that of its character, in upper case if it has one. */
-bool isText(Qt::Key key)
-{
-    return key >= Qt::Key_Space && uint(key) <= QChar::LastValidCodePoint;
-}
-
 bool isOnKeypad(xkb_keysym_t symbol)
 {
     return symbol >= XKB_KEY_KP_Space && symbol <= XKB_KEY_KP_9;
@@ -81,7 +23,7 @@ bool isOnKeypad(xkb_keysym_t symbol)
 
 bool gives(xkb_keysym_t symbol, Qt::Key key)
 {
-    if (!isText(key)) {
+    if (!isTextKey(key)) {
         return symbol != XKB_KEY_NoSymbol && symbol == symbolOf(key);
     }
     const uint character = xkb_keysym_to_utf32(symbol);

@@ -30,11 +30,21 @@
  * connect(shortcut, &OlvShortcut::activated, this, &Recorder::start);
  * @endcode
  *
- * So far it works on X11, where the application runs on Qt's platform "xcb"; on other platforms
- * active() returns false. The combination is activated whatever the state of the lock keys (Caps
- * Lock, Num Lock, Scroll Lock), follows the keyboard layout when that changes, and is activated
- * once for a key that is held. Where the user has several layouts, it is on the key of the layout
- * in effect, or, if that layout has no such key, of the first other layout that has one.
+ * On X11, Qt's platform "xcb", active() has the answer at once. The combination is activated
+ * whatever the state of the lock keys (Caps Lock, Num Lock, Scroll Lock), follows the keyboard
+ * layout when that changes, and is activated once for a key that is held. Where the user has
+ * several layouts, it is on the key of the layout in effect, or, if that layout has no such key, of
+ * the first other layout that has one.
+ *
+ * On Wayland, and for X11 programs on a Wayland desktop, the desktop's portal decides
+ * (org.freedesktop.portal.GlobalShortcuts), usually by asking the user, who may also choose other
+ * keys than these. So active() asks, returns false, and returns true once it is granted, which
+ * stateChanged() tells. It never blocks, and asks once: what has been refused is asked for again
+ * only after a destroy(). Combinations that are asked for within 50 milliseconds share a dialog.
+ * The portal knows the program by QGuiApplication::desktopFileName(), which newer ones require.
+ * What it does not grant is told in one warning, of the category "olv.shortcuts".
+ *
+ * On other platforms active() returns false.
  *
  * Threads: use it in the thread of the application object. A shortcut may be made in any thread,
  * but in any other thread active() returns false and registers nothing. destroy(), toString() and
@@ -50,6 +60,14 @@ class OLVSYSTEMINFO_EXPORT OlvShortcut : public QObject
     Q_OBJECT
 
 public:
+    /** What has become of the combination. */
+    enum State {
+        Inactive, ///< not registered: active() has not been called, or has been refused
+        Pending,  ///< asked for, and the desktop has not answered yet
+        Active,   ///< registered
+    };
+    Q_ENUM(State)
+
     /**
      * Describes the combination of @p key with the given modifiers; @p parent, if any, owns it.
      * Nothing is registered yet. @p key is what the key gives with the modifiers, as Qt's key
@@ -63,14 +81,25 @@ public:
      * Registers the combination with the desktop and returns whether it is registered: true when it
      * was already, false when another program, or another object of this one, holds it, when no
      * layout of the keyboard has such a key, for keys that cannot be one (0, Qt::Key_unknown,
-     * modifiers and lock keys alone), where there is no X server, and in another thread than the
-     * application object's.
+     * modifiers and lock keys alone), where there is neither an X server nor a portal, while a
+     * portal has not answered yet, and in another thread than the application object's.
      */
     virtual bool active();
     /** Releases the combination; does nothing when it is not registered. Works in every thread. */
     virtual void destroy();
     /** The combination as a user reads it, in native text, for example "Ctrl+Shift+A". */
     virtual QString toString();
+
+    /** What has become of the combination, without asking for it. Works in every thread. */
+    State state() const;
+
+    /** What the shortcut is for, as setDescription() has it; empty at first. */
+    QString description() const;
+    /**
+     * Sets what the shortcut is for, in words for the user, such as "Start recording". Desktops
+     * that ask their user show it from the next active() on; without one they show toString().
+     */
+    void setDescription(const QString &description);
 
     /**
      * The living shortcut whose address is @p address; null when there is none. Any number
@@ -86,6 +115,13 @@ Q_SIGNALS:
      * this object.
      */
     void activated();
+    /**
+     * The desktop has answered after active() has returned: @p state is Active or Inactive. Or it
+     * has taken back what it had granted: Inactive. Not emitted for what active() and destroy() do
+     * themselves, so that it is never emitted on X11. It is emitted in the thread that this object
+     * lives in. A slot may delete this object.
+     */
+    void stateChanged(OlvShortcut::State state);
 
 private:
     Q_DISABLE_COPY(OlvShortcut)

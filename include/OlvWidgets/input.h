@@ -132,8 +132,9 @@ private:
  * While it has the focus it notes the modifiers that are held and the last other key that was
  * pressed, Escape and Backspace included; releasing a key that is no modifier makes an OlvShortcut
  * of what was noted, and setShortcut() takes it. Modifiers alone make none. The shortcut is shown
- * as text; a combination that cannot be had leaves the one before in place, without a signal. The
- * tool tip is "请直接在键盘上输入新的快捷键" (press the new shortcut on the keyboard) at first, or
+ * as text; a combination that cannot be had leaves the one before in place, without a signal. Where
+ * the desktop answers later (OlvShortcut::Pending), the one before stays until it does. The tool
+ * tip is "请直接在键盘上输入新的快捷键" (press the new shortcut on the keyboard) at first, or
  * what a QTranslator makes of it, and follows another language.
  *
  * The value is read as a string, the text of the shortcut or "nullptr" where there is none, but set
@@ -190,11 +191,16 @@ public Q_SLOTS:
      * registered. Returns whether it is held. Emits shortcutChanged() and then valueChanged() when
      * it is; repaints nothing. A null shortcut is ignored; the one that is held already is
      * registered again, and kept even where that fails.
+     *
+     * One that the desktop has not answered for yet (OlvShortcut::Pending) is kept, and false
+     * returned. It is taken over with the same signals, and shown, once it is granted; it is
+     * deleted when it is refused, or when another one is set before.
      */
     bool setShortcut(OlvShortcut *shortcut);
     /**
-     * Deletes the shortcut that is held, which releases it, without calling its destroy(). Emits
-     * nothing and repaints nothing: the text stays on the screen until the next repaint.
+     * Deletes the shortcut that is held, which releases it, without calling its destroy(), and one
+     * that is pending. Emits nothing and repaints nothing: the text stays on the screen until the
+     * next repaint.
      */
     void clear();
 

@@ -37,15 +37,39 @@ void drawFrame(QPainter &painter, QSize size, const QColor &color)
 
 } // namespace
 
-class OlvShortcutEdit::Private
+class Q_DECL_HIDDEN OlvShortcutEdit::Private
 {
 public:
+    void await(OlvShortcutEdit *edit, OlvShortcut *candidate);
+
     ShortcutCapture capture;
     QPointer<OlvShortcut> held;
+    /** The last one that the desktop has not answered for yet. */
+    QPointer<OlvShortcut> pending;
+    QMetaObject::Connection answer;
     OwnToolTip tip;
     InputLook look;
     bool isEnding = false; // nothing would delete a shortcut that is taken now
 };
+
+/** Has @p edit take the candidate again once the desktop has answered for it. */
+void OlvShortcutEdit::Private::await(OlvShortcutEdit *edit, OlvShortcut *candidate)
+{
+    if (candidate == pending) {
+        return;
+    }
+    disconnect(answer);
+    answer = connect(candidate, &OlvShortcut::stateChanged, edit, [=] {
+        disconnect(answer);
+        pending.clear();
+        const QPointer<OlvShortcutEdit> self(edit);
+        if (edit->setShortcut(candidate) && self) {
+            edit->update();
+        }
+    });
+    const QPointer<OlvShortcut> before(std::exchange(pending, candidate));
+    delete before; // slots that hear of it may delete the field
+}
 
 OlvShortcutEdit::OlvShortcutEdit(QWidget *parent)
     : OlvWidget(parent)
@@ -69,6 +93,7 @@ OlvShortcutEdit::OlvShortcutEdit(OlvShortcut *shortcut, QWidget *parent)
 OlvShortcutEdit::~OlvShortcutEdit()
 {
     d->isEnding = true;
+    delete d->pending;
     delete d->held;
 }
 
@@ -106,6 +131,11 @@ bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
     const QPointer<OlvShortcutEdit> self(this);
     const QPointer<OlvShortcut> candidate(shortcut);
     const bool isActive = candidate->active();
+    if (self && candidate && !isActive && candidate != d->held
+        && candidate->state() == OlvShortcut::Pending) {
+        d->await(this, candidate);
+        return false;
+    }
     // an application's own shortcut may do anything in its operations
     if (!self || !candidate || !isActive) {
         if (!self || candidate != d->held) {
@@ -114,6 +144,14 @@ bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
         return false;
     }
     if (candidate != d->held) {
+        const QPointer<OlvShortcut> pending(std::exchange(d->pending, nullptr));
+        if (pending != candidate) {
+            delete pending;
+        }
+        if (!self || !candidate) {
+            delete candidate;
+            return false;
+        }
         const QPointer<OlvShortcut> before(std::exchange(d->held, candidate));
         if (before && property(hasShortcutProperty).toBool()) {
             before->destroy();
@@ -140,10 +178,11 @@ bool OlvShortcutEdit::setShortcut(OlvShortcut *shortcut)
 
 void OlvShortcutEdit::clear()
 {
-    if (!property(hasShortcutProperty).toBool()) {
+    const QPointer<OlvShortcutEdit> self(this);
+    delete d->pending;
+    if (!self || !property(hasShortcutProperty).toBool()) {
         return;
     }
-    const QPointer<OlvShortcutEdit> self(this);
     delete d->held;
     if (self && !d->held) { // a slot of destroyed() may have set another
         setProperty(hasShortcutProperty, false);

@@ -27,6 +27,7 @@ void TestShortcut::isNotActiveWithoutAServer()
     QVERIFY(!shortcut.active());
     QVERIFY(!shortcut.active());
     QVERIFY(clock.elapsed() < 1000);
+    QCOMPARE(shortcut.state(), OlvShortcut::Inactive);
     shortcut.destroy();
     shortcut.destroy();
     qunsetenv("DISPLAY");

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void holdsItAgainstOtherPrograms();
     void activatingAndDestroyingTwiceIsHarmless();
     void secondObjectOfACombinationIsRefused();
+    void stateIsKnownAtOnce();
     void combinationsThatShareAKeyAreOne();
     void destructorLetsGo();
     void keysThatAreNoneAreRefused_data();
@@ -114,6 +115,21 @@ void TestShortcutRegistration::secondObjectOfACombinationIsRefused()
     }
     pressWithControl(*m_input, symbolF5);
     QTRY_COMPARE(activated.count(), 1);
+}
+
+void TestShortcutRegistration::stateIsKnownAtOnce()
+{
+    const std::unique_ptr<OlvShortcut> first(ctrl(Qt::Key_F5));
+    const std::unique_ptr<OlvShortcut> second(ctrl(Qt::Key_F5));
+    const QSignalSpy changes(first.get(), &OlvShortcut::stateChanged);
+    first->setDescription(QStringLiteral("Nobody is asked here"));
+    QCOMPARE(first->state(), OlvShortcut::Inactive);
+    QVERIFY(first->active() && !second->active());
+    QCOMPARE(first->state(), OlvShortcut::Active);
+    QCOMPARE(second->state(), OlvShortcut::Inactive);
+    first->destroy();
+    QCOMPARE(first->state(), OlvShortcut::Inactive);
+    QCOMPARE(changes.count(), 0);
 }
 
 void TestShortcutRegistration::combinationsThatShareAKeyAreOne()
