@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+// Editors of single values: what they write, in which type, and in the cells of views.
+#include "sizedswitch.h"
+#include "sliderknob.h"
+
+#include <OlvButton>
+#include <OlvLineEdit>
+#include <OlvShortcutEdit>
+#include <OlvValueDelegate>
+
+#include <QApplication>
+#include <QDataWidgetMapper>
+#include <QItemEditorFactory>
+#include <QLineEdit>
+#include <QPointer>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+
+class TestValueEditors : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesNothingThatNobodyChanged_data();
+    void writesNothingThatNobodyChanged();
+    void keepsTheTypeOfAColumn_data();
+    void keepsTheTypeOfAColumn();
+    void triesAgainWhatTheModelRefused();
+    void showsAShortcutThatCannotBeHadAsNone();
+    void editsCellsOfViews();
+    void forgetsEditorsThatHaveGone();
+};
+
+void TestValueEditors::writesNothingThatNobodyChanged_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::newRow("null") << QVariant();
+    QTest::newRow("text") << QVariant(QStringLiteral("no such thing"));
+    QTest::newRow("beyond") << QVariant(1234);
+    QTest::newRow("below") << QVariant(-5);
+    QTest::newRow("fraction") << QVariant(12.5);
+    QTest::newRow("bytes") << QVariant(QByteArray("\xff\x00\x80", 3));
+}
+
+void TestValueEditors::writesNothingThatNobodyChanged()
+{
+    QFETCH(QVariant, stored);
+    QStandardItemModel model(2, 5);
+    for (int column = 0; column < 5; ++column) {
+        model.setData(model.index(0, column), stored, Qt::EditRole);
+        model.setData(model.index(1, column), 50, Qt::EditRole);
+    }
+    OlvLineEdit line;
+    OlvSwitch toggle;
+    OlvSlider slider;
+    OlvButton button;
+    OlvShortcutEdit shortcut(nullptr);
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
+    OlvWidget *const widgets[] = { &line, &toggle, &slider, &button, &shortcut };
+    for (int column = 0; column < 5; ++column) {
+        mapper.addMapping(widgets[column], column);
+    }
+    for (const int row : { 0, 1, 0 }) {
+        mapper.setCurrentIndex(row);
+        QVERIFY(mapper.submit());
+    }
+    for (int column = 0; column < 5; ++column) {
+        QCOMPARE(model.index(0, column).data(Qt::EditRole), stored);
+        QCOMPARE(model.index(1, column).data(Qt::EditRole), QVariant(50));
+    }
+    QCOMPARE(toggle.isChecked(), stored.toInt() != 0);
+    QCOMPARE(slider.getValue().toInt(), qBound(0, qRound(stored.toDouble()), 100));
+}
+
+void TestValueEditors::keepsTheTypeOfAColumn_data()
+{
+    QTest::addColumn<QVariant>("before");
+    QTest::addColumn<QVariant>("after");
+    QTest::newRow("int") << QVariant(1) << QVariant(0);
+    QTest::newRow("bool") << QVariant(true) << QVariant(false);
+    QTest::newRow("text") << QVariant(QStringLiteral("true")) << QVariant(QStringLiteral("false"));
+    QTest::newRow("real") << QVariant(1.0) << QVariant(0.0);
+    QTest::newRow("none") << QVariant() << QVariant(true);
+}
+
+void TestValueEditors::keepsTheTypeOfAColumn()
+{
+    QFETCH(QVariant, before);
+    QFETCH(QVariant, after);
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), before, Qt::EditRole);
+    OlvSwitch toggle;
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    mapper.addMapping(&toggle, 0);
+    mapper.toFirst();
+    releaseMouse(toggle);
+    const QVariant stored = model.index(0, 0).data(Qt::EditRole);
+    QCOMPARE(stored, after);
+    QCOMPARE(stored.userType(), after.userType());
+}
+
+void TestValueEditors::triesAgainWhatTheModelRefused()
+{
+    /** Takes nothing at first. */
+    class Model : public QStandardItemModel
+    {
+    public:
+        bool takes = false;
+
+        Model()
+            : QStandardItemModel(1, 1)
+        { }
+        bool setData(const QModelIndex &index, const QVariant &value, int role) override
+        {
+            return takes && QStandardItemModel::setData(index, value, role);
+        }
+    };
+    Model model;
+    OlvLineEdit line;
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    mapper.addMapping(&line, 0);
+    mapper.toFirst();
+    line.setText(QStringLiteral("new"));
+    QTest::keyClick(line.lineEdit(), Qt::Key_Return);
+    QCOMPARE(model.index(0, 0).data(), QVariant());
+    model.takes = true;
+    QTest::keyClick(line.lineEdit(), Qt::Key_Return);
+    QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("new")));
+}
+
+void TestValueEditors::showsAShortcutThatCannotBeHadAsNone()
+{
+    // no server to register shortcuts with: whatever is stored stays
+    QStandardItemModel model(2, 1);
+    model.setData(model.index(0, 0), QStringLiteral("Ctrl+F5"));
+    OlvShortcutEdit editor(nullptr);
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    mapper.addMapping(&editor, 0);
+    for (const int row : { 0, 1, 0 }) {
+        mapper.setCurrentIndex(row);
+        QVERIFY(!editor.shortcut());
+        QVERIFY(mapper.submit());
+    }
+    QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("Ctrl+F5")));
+    QCOMPARE(model.index(1, 0).data(), QVariant());
+}
+
+void TestValueEditors::editsCellsOfViews()
+{
+    QItemEditorFactory factory;
+    factory.registerEditor(QVariant::Bool, new QStandardItemEditorCreator<OlvSwitch>);
+    factory.registerEditor(QVariant::Int, new QStandardItemEditorCreator<OlvSlider>);
+    factory.registerEditor(QVariant::String, new QStandardItemEditorCreator<OlvLineEdit>);
+    QStandardItemModel model(1, 3);
+    model.setData(model.index(0, 0), true, Qt::EditRole);
+    model.setData(model.index(0, 1), 30, Qt::EditRole);
+    model.setData(model.index(0, 2), QStringLiteral("old"), Qt::EditRole);
+    OlvValueDelegate delegate;
+    delegate.setItemEditorFactory(&factory);
+    QTableView view;
+    view.setModel(&model);
+    view.setItemDelegate(&delegate);
+    view.resize(600, 200);
+    view.show();
+    QApplication::setActiveWindow(&view);
+
+    view.edit(model.index(0, 0));
+    const QPointer<OlvSwitch> toggle(view.findChild<OlvSwitch *>());
+    QVERIFY(toggle);
+    QVERIFY(toggle->isChecked());
+    QVERIFY(toggle->hasFocus());
+    releaseMouse(*toggle);
+    view.setFocus(); // while it slides
+    QTRY_VERIFY(!toggle);
+    QCOMPARE(model.index(0, 0).data(Qt::EditRole), QVariant(false));
+
+    view.edit(model.index(0, 1));
+    const QPointer<OlvSlider> slider(view.findChild<OlvSlider *>());
+    QVERIFY(slider);
+    QCOMPARE(slider->getValue(), QVariant(30));
+    dragKnobToTheEnd(*slider);
+    QCOMPARE(model.index(0, 1).data(Qt::EditRole), QVariant(100));
+    view.setFocus();
+    QTRY_VERIFY(!slider);
+
+    view.edit(model.index(0, 2));
+    const QPointer<OlvLineEdit> line(view.findChild<OlvLineEdit *>());
+    QVERIFY(line);
+    QVERIFY(line->lineEdit()->hasFocus());
+    QTest::keyClicks(line->lineEdit(), QStringLiteral("er"));
+    QTest::keyClick(line->lineEdit(), Qt::Key_Return);
+    QTRY_VERIFY(!line);
+    QCOMPARE(model.index(0, 2).data(), QVariant(QStringLiteral("er")));
+
+    view.edit(model.index(0, 2));
+    const QPointer<OlvLineEdit> again(view.findChild<OlvLineEdit *>());
+    QTest::keyClicks(again->lineEdit(), QStringLiteral("thrown away"));
+    QTest::keyClick(again->lineEdit(), Qt::Key_Escape);
+    QTRY_VERIFY(!again);
+    QCOMPARE(model.index(0, 2).data(), QVariant(QStringLiteral("er")));
+}
+
+void TestValueEditors::forgetsEditorsThatHaveGone()
+{
+    QStandardItemModel model(1, 1);
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    auto *toggle = new OlvSwitch;
+    mapper.addMapping(toggle, 0);
+    mapper.toFirst();
+    releaseMouse(*toggle);
+    delete toggle;
+    mapper.revert();
+    QVERIFY(mapper.submit());
+    QCOMPARE(model.index(0, 0).data(Qt::EditRole), QVariant(true));
+}
+
+QTEST_MAIN(TestValueEditors)
+#include "tst_valueeditors.moc"
