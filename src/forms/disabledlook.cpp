@@ -40,18 +40,22 @@ private:
     bool m_isGlyph;
 };
 
+/** Whether an effect is one that the library has given, and none of the application's. */
+bool isFade(const QGraphicsEffect *effect)
+{
+    return dynamic_cast<const Fade *>(effect);
+}
+
 } // namespace
 
-void DisabledLook::fit(FormMember &member)
+void DisabledLook::fit(const FormMember &member)
 {
     QWidget *widget = member.widget;
     if (widget->isEnabled() || !fades(member)) {
         take(member);
     } else if (!widget->graphicsEffect()) {
         const bool isGlyph = member.kind == FormKind::Glyph || member.kind == FormKind::BarButton;
-        auto *fade = new Fade(isGlyph);
-        member.fade = fade;
-        widget->setGraphicsEffect(fade);
+        widget->setGraphicsEffect(new Fade(isGlyph));
     }
 }
 
@@ -59,13 +63,12 @@ bool DisabledLook::fades(const FormMember &member)
 {
     // containers have members of their own in them, which fade by themselves
     const QGraphicsEffect *effect = member.widget->graphicsEffect();
-    return !holdsOthers(member.kind) && (!effect || effect == member.fade);
+    return !holdsOthers(member.kind) && (!effect || isFade(effect));
 }
 
-void DisabledLook::take(FormMember &member)
+void DisabledLook::take(const FormMember &member)
 {
-    // another effect in its place has deleted it
-    if (member.fade && member.widget->graphicsEffect() == member.fade) {
+    if (isFade(member.widget->graphicsEffect())) {
         member.widget->setGraphicsEffect(nullptr);
     }
 }

@@ -15,10 +15,10 @@ constexpr qreal opacity = 0.4;
  * Fades a disabled member, with its parts, by a graphics effect; takes the effect from one that is
  * enabled. One that has an effect of the application's keeps that.
  */
-void fit(FormMember &member);
+void fit(const FormMember &member);
 /** Whether a member is faded, or will be once it is disabled. */
 bool fades(const FormMember &member);
 /** Takes the effect away. */
-void take(FormMember &member);
+void take(const FormMember &member);
 
 } // namespace DisabledLook

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QGraphicsEffect>
 #include <QPointer>
 #include <QSize>
 #include <QWidget>
@@ -12,7 +11,7 @@ class QLineEdit;
 struct TextColors;
 
 /** What a form support tells apart. */
-enum class FormKind {
+enum class FormKind : quint8 {
     None,         ///< not of the library, or a part of one of its widgets
     Button,       ///< an OlvButton
     Tile,         ///< an OlvIconButton
@@ -57,14 +56,12 @@ struct FormMember
     QPointer<QWidget> widget;
     FormKind kind = FormKind::None;
 
-    /** The minimum size that it was given; 0 where it was given none. */
-    QSize minimum{ 0, 0 };
     bool hasPolicy = false;
     bool hasFocusPolicy = false;
     bool hasFocusProxy = false;
     bool hasReadableText = false;
-    /** The effect that a disabled one is seen through; the widget's. */
-    QPointer<QGraphicsEffect> fade;
-    /** The colours of its text; null unless they have been looked at. */
-    std::shared_ptr<TextColors> colors;
+    /** The minimum size that it was given; 0 where it was given none. */
+    QSize minimum{ 0, 0 };
+    /** The colours that its text was given; null where it was given none. */
+    std::shared_ptr<const TextColors> colors;
 };

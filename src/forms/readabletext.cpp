@@ -64,21 +64,37 @@ void copyRole(QPalette *to, const QPalette &from, QPalette::ColorRole role)
     }
 }
 
-/** Notes which colours of a palette are not those that have been given. */
-void noteOwn(TextColors *colors, const QPalette &palette)
+/** The roles of a palette that are not those that have been given. */
+QPalette ownOf(const QPalette &palette, const TextColors *colors)
 {
     const TextColors::Colors now = colorsOf(palette);
+    QPalette own = colors ? colors->own : QPalette();
     for (int i = 0; i < TextColors::roleCount; ++i) {
         const QPalette::ColorRole role = TextColors::roles[i];
         const auto first = [=](const TextColors::Colors &all) {
             return all.cbegin() + 3 * i;
         };
-        const bool isGiven = colors->isGiven && hasOwn(palette, role)
+        const bool isGiven = colors && hasOwn(palette, role)
             && std::equal(first(now), first(now) + 3, first(colors->given));
-        if (!isGiven && (hasOwn(palette, role) || hasOwn(colors->own, role))) {
-            copyRole(&colors->own, palette, role);
+        if (!isGiven && (hasOwn(palette, role) || hasOwn(own, role))) {
+            copyRole(&own, palette, role);
         }
     }
+    return own;
+}
+
+/** The colours that were given last, when they are the same: a form has many texts alike. */
+std::shared_ptr<const TextColors> shared(const TextColors &colors)
+{
+    static std::weak_ptr<const TextColors> latest;
+    const std::shared_ptr<const TextColors> same = latest.lock();
+    if (same && same->given == colors.given && same->own == colors.own
+        && same->own.resolve() == colors.own.resolve()) {
+        return same;
+    }
+    const auto result = std::make_shared<const TextColors>(colors);
+    latest = result;
+    return result;
 }
 
 /** A colour of text that may be meant for a dark ground: there, a light one takes its place. */
@@ -177,30 +193,23 @@ void fitText(FormMember &member, QLineEdit *text, bool fades)
     if (!hasSheet(before) && !text->testAttribute(Qt::WA_WState_Polished)) {
         return; // the style sheet has not taken hold yet
     }
-    if (!member.colors) {
-        member.colors = std::make_shared<TextColors>();
-    }
-    TextColors &colors = *member.colors;
-    noteOwn(&colors, before);
+    const QPalette own = ownOf(before, member.colors.get());
     // what Qt gives a widget that has a style sheet: nothing of the widgets around it
     QPalette ofApplication = QApplication::palette(text);
     ofApplication.resolve(0);
-    const QPalette natural = withoutGiven(before, colors.own).resolve(ofApplication);
+    const QPalette natural = withoutGiven(before, own).resolve(ofApplication);
     const QPalette after = readable(natural, fades);
     if (after != before) {
-        colors.given = colorsOf(after);
-        colors.isGiven = true;
+        member.colors = shared({ colorsOf(after), own });
         text->setPalette(after); // what hears of it may delete the member
     }
 }
 
 void takeText(FormMember &member, QLineEdit *text)
 {
-    const std::shared_ptr<TextColors> colors = std::exchange(member.colors, nullptr);
-    if (colors && colors->isGiven) {
+    if (const auto colors = std::exchange(member.colors, nullptr)) {
         const QPalette before = text->palette();
-        noteOwn(colors.get(), before);
-        text->setPalette(withoutGiven(before, colors->own));
+        text->setPalette(withoutGiven(before, ownOf(before, colors.get())));
     }
 }
 
@@ -247,7 +256,7 @@ bool ReadableText::isRestored(const FormMember &member, const QLineEdit *text)
 {
     const QPalette palette = text->palette();
     // some of its own roles may come from a style sheet that is no more
-    return member.colors && member.colors->isGiven && !hasSheet(palette)
+    return member.colors && !hasSheet(palette)
         && std::all_of(std::begin(TextColors::roles), std::end(TextColors::roles),
                        [&](QPalette::ColorRole role) {
                            return !hasOwn(palette, role)

@@ -9,7 +9,7 @@
 class QLineEdit;
 struct FormMember;
 
-/** The colours of the text in a line edit, while a form has them readable. */
+/** The colours that the text in a line edit has been given; many texts share them. */
 struct TextColors
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
@@ -24,8 +24,7 @@ struct TextColors
     using Colors = std::array<QRgb, 3 * roleCount>;
 
     Colors given{};
-    bool isGiven = false;
-    /** What the application has set, or the style from a style sheet of the application's. */
+    /** What the application had set, or the style from a style sheet of the application's. */
     QPalette own;
 };
 

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+// What a form support costs each widget: bytes of heap, and timers.
+#include "deferred.h"
+
+#include <OlvWidgets/OlvWidgets>
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <memory>
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#if __GLIBC_PREREQ(2, 33)
+#include <malloc.h>
+#define OLV_HAS_HEAP_FIGURES
+#endif
+#endif
+
+namespace {
+
+constexpr int widgetCount = 100;
+constexpr int rounds = 5;
+constexpr int maxBytes = 400;
+/** A line edit is two widgets to a support: the frame, and the text in it. */
+constexpr int maxBytesOfLineEdit = 500;
+
+using Make = QWidget *(*)();
+
+/** A shown window full of widgets of one kind, at their natural sizes in either case. */
+class Window : public QWidget
+{
+public:
+    Window(Make make, OlvFormSupport::Features features)
+    {
+        setLayoutDirection(Qt::RightToLeft);
+        auto *column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(0);
+        // the offscreen platform complains about windows with a minimum size
+        column->setSizeConstraint(QLayout::SetNoConstraint);
+        for (int i = 0; i < widgetCount; ++i) {
+            column->addWidget(make());
+        }
+        const QSize natural = OlvFormSupport::naturalSize(column->itemAt(0)->widget());
+        resize(natural.width(), natural.height() * widgetCount);
+        if (features) {
+            new OlvFormSupport(this, features);
+        }
+        show();
+        settle();
+        if (QWidget *focused = focusWidget()) {
+            focused->clearFocus(); // the caret of a text blinks by a timer of its own
+        }
+    }
+
+    void settle()
+    {
+        for (int i = 0; i < 3; ++i) {
+            runDeferred();
+        }
+        repaint();
+    }
+};
+
+#ifdef OLV_HAS_HEAP_FIGURES
+/** The heap in use while a window is shown, in bytes. */
+double heapOfShown(Make make, OlvFormSupport::Features features)
+{
+    const Window window(make, features);
+    return double(mallinfo2().uordblks);
+}
+#endif
+
+int timerCount(const QWidget &window)
+{
+    const auto *dispatcher = QAbstractEventDispatcher::instance();
+    int count = 0;
+    const auto all = window.findChildren<QObject *>();
+    for (QObject *object : all) {
+        count += dispatcher->registeredTimers(object).size();
+    }
+    return count;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Make)
+
+class TestFormCosts : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // so that every feature has something to do
+        QPalette palette;
+        palette.setColor(QPalette::Text, Qt::white);
+        QApplication::setPalette(palette);
+    }
+    void isLittleHeap_data()
+    {
+        addKinds();
+    }
+    void isLittleHeap();
+    void isNoTimer_data()
+    {
+        addKinds();
+    }
+    void isNoTimer();
+
+private:
+    static void addKinds();
+};
+
+void TestFormCosts::addKinds()
+{
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<int>("limit");
+    const QVector<QPair<const char *, Make>> kinds{
+        { "line edit",
+          []() -> QWidget * {
+              return new OlvLineEdit;
+          } },
+        { "shortcut edit",
+          []() -> QWidget * {
+              return new OlvShortcutEdit(nullptr);
+          } },
+        { "switch",
+          []() -> QWidget * {
+              return new OlvSwitch;
+          } },
+        { "slider",
+          []() -> QWidget * {
+              return new OlvSlider;
+          } },
+        { "button",
+          []() -> QWidget * {
+              return new OlvButton(QStringLiteral("Save"));
+          } },
+        { "tile",
+          []() -> QWidget * {
+              return new OlvIconButton(QLatin1Char('M'), QStringLiteral("Mail"),
+                                       QStringLiteral("Sans"), nullptr, 80, 80);
+          } },
+        { "simple icon button",
+          []() -> QWidget * {
+              return new OlvSimpleIconButton;
+          } },
+    };
+    for (const auto &kind : kinds) {
+        const bool isLineEdit = qstrcmp(kind.first, "line edit") == 0;
+        QTest::newRow(kind.first) << kind.second << (isLineEdit ? maxBytesOfLineEdit : maxBytes);
+    }
+}
+
+void TestFormCosts::isLittleHeap()
+{
+#ifdef OLV_HAS_HEAP_FIGURES
+    QFETCH(Make, make);
+    QFETCH(int, limit);
+    double bytes = 0;
+    for (int i = 0; i < rounds; ++i) { // the first ones fill caches of Qt's
+        const double without = heapOfShown(make, {});
+        bytes = (heapOfShown(make, OlvFormSupport::AllFeatures) - without) / widgetCount;
+    }
+    qInfo("%.0f bytes a widget", bytes);
+    QVERIFY2(bytes <= limit, qPrintable(QString::number(bytes)));
+#else
+    QSKIP("this C library does not say how much heap is in use");
+#endif
+}
+
+void TestFormCosts::isNoTimer()
+{
+    QFETCH(Make, make);
+    const Window without(make, {});
+    const Window with(make, OlvFormSupport::AllFeatures);
+    QCOMPARE(timerCount(with), timerCount(without));
+}
+
+QTEST_MAIN(TestFormCosts)
+#include "tst_formcosts.moc"
