@@ -11,13 +11,15 @@ install(TARGETS OlvWidgets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     COMPONENT widgets NAMELINK_COMPONENT development)
 install(TARGETS OlvSystemInfo
-    EXPORT OlvWidgetsTargets
+    EXPORT OlvSystemInfoTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     COMPONENT systeminfo NAMELINK_COMPONENT development)
-install(EXPORT OlvWidgetsTargets
-    NAMESPACE OlvWidgets::
-    DESTINATION ${olv_cmake_dir}
-    COMPONENT development)
+foreach(library OlvSystemInfo OlvWidgets)
+    install(EXPORT ${library}Targets
+        NAMESPACE OlvWidgets::
+        DESTINATION ${olv_cmake_dir}
+        COMPONENT development)
+endforeach()
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OlvWidgetsConfig.cmake.in
     ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake

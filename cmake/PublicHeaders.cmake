@@ -16,6 +16,9 @@ function(olv_public_headers target)
     generate_export_header(${target}
         EXPORT_MACRO_NAME ${upper}_EXPORT
         EXPORT_FILE_NAME ${generated_dir}/${target}/${lower}_export.h)
+    if(NOT BUILD_SHARED_LIBS)
+        target_compile_definitions(${target} PUBLIC ${upper}_STATIC_DEFINE)
+    endif()
     set(installed ${generated_dir}/${target}/${lower}_export.h)
     set(symbols ${PROJECT_SOURCE_DIR}/cmake/ExportedSymbols.map)
     target_link_options(${target} PRIVATE LINKER:--version-script=${symbols})
@@ -49,9 +52,11 @@ function(olv_public_headers target)
         $<BUILD_INTERFACE:${generated_dir}/${target}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${target}>)
-    install(FILES ${installed}
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
-        COMPONENT development)
+    if(OLVWIDGETS_INSTALL)
+        install(FILES ${installed}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
+            COMPONENT development)
+    endif()
 endfunction()
 
 # An unchanged header keeps its time stamp, so that configuring again rebuilds nothing.

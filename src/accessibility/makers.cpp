@@ -155,3 +155,7 @@ void registerInstaller()
 Q_CONSTRUCTOR_FUNCTION(registerInstaller)
 
 } // namespace
+
+/** Named by programs that link the library statically, so that the linker takes this file. */
+extern "C" void olvWidgetsAccessibility();
+void olvWidgetsAccessibility() { }
