@@ -21,7 +21,7 @@ test_packages=(
     libxcb-keysyms1-dev libxcb-xtest0-dev
     qtbase5-private-dev libqt5sql5-sqlite at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     qttools5-dev qttools5-dev-tools dpkg-dev
-    abigail-tools python3 doxygen
+    abigail-tools python3 doxygen libqt5svg5-dev kde-style-breeze qt5-style-kvantum
 )
 # what scripts/packages needs besides
 package_packages=("${docs_packages[@]}" qttools5-dev dpkg-dev file gzip lintian)
