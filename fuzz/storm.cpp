@@ -9,7 +9,9 @@
 #include <QEvent>
 #include <QFile>
 #include <QTextStream>
+#include <QVector>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -32,6 +34,24 @@ const char *currentFamily = "";
 volatile quint64 currentSeed = 0;
 volatile quint64 currentEvent = 0;
 quint64 warnings = 0;
+
+/** The types of the events that are being delivered, the outermost first. */
+QVector<QEvent::Type> deliveredTypes;
+
+/** Takes down which events are being delivered. */
+class StormApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        deliveredTypes.append(event->type());
+        const bool isHandled = QApplication::notify(receiver, event);
+        deliveredTypes.removeLast();
+        return isHandled;
+    }
+};
 
 void reportPlace()
 {
@@ -158,6 +178,12 @@ void Storm::check(bool holds, const char *rule)
     }
 }
 
+bool Storm::isDelivering(const QSet<QEvent::Type> &types)
+{
+    return std::any_of(deliveredTypes.cbegin(), deliveredTypes.cend(),
+                       [&](QEvent::Type type) { return types.contains(type); });
+}
+
 void Storm::processEvents(int milliseconds)
 {
     VirtualClock::advance(std::chrono::milliseconds(milliseconds));
@@ -173,7 +199,7 @@ int Storm::run(int argc, char **argv, const char *family, const Maker &make)
     qputenv("QT_NO_GLIB", "1"); // only Qt's own event loop uses the virtual clock
     currentFamily = family;
     watchForCrashes();
-    QApplication application(argc, argv);
+    const StormApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(handleMessage);
 

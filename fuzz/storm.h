@@ -3,6 +3,9 @@
 
 #include "dice.h"
 
+#include <QEvent>
+#include <QSet>
+
 #include <functional>
 #include <memory>
 
@@ -40,6 +43,9 @@ int run(int argc, char **argv, const char *family, const Maker &make);
 
 /** Unless @p holds, ends the program with the seed and the number of the event. */
 void check(bool holds, const char *rule);
+
+/** Whether an event whose type is one of @p types is being delivered. */
+bool isDelivering(const QSet<QEvent::Type> &types);
 
 /** Advances the clock by @p milliseconds, and delivers timer events and posted events. */
 void processEvents(int milliseconds);

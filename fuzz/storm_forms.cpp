@@ -30,29 +30,6 @@ template <typename Object> void prune(QVector<QPointer<Object>> &objects)
                   objects.end());
 }
 
-/** Qt's delegates go on to use an editor that they have committed because the focus left it. */
-class GuardedDelegate : public OlvValueDelegate
-{
-public:
-    GuardedDelegate(World &world, QObject *parent)
-        : OlvValueDelegate(parent)
-        , m_world(world)
-    { }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::FocusOut && event->type() != QEvent::Hide) {
-            return OlvValueDelegate::eventFilter(watched, event);
-        }
-        const World::Guard guard(m_world);
-        return OlvValueDelegate::eventFilter(watched, event);
-    }
-
-private:
-    World &m_world;
-};
-
 /** Widgets of the library in layouts, splitters and bare windows, with supports that come and go.
  */
 class FormsFamily : public Family
@@ -135,6 +112,16 @@ public:
     {
         return { "content", "partSize", "Icon",   "Pwd",      "state",
                  "hovered", "type",     "switch", "progress", "isCheckable" };
+    }
+
+    /** Layouts, queued shows and the end of an editor are Qt's, which stands no deletion there. */
+    bool isQtAtWork() const override
+    {
+        return Storm::isDelivering({ QEvent::ChildPolished, QEvent::DeferredDelete,
+                                     QEvent::EnabledChange, QEvent::FocusIn, QEvent::FocusOut,
+                                     QEvent::FontChange, QEvent::Hide, QEvent::LayoutRequest,
+                                     QEvent::MetaCall, QEvent::Move, QEvent::ParentChange,
+                                     QEvent::Resize, QEvent::Show, QEvent::StyleChange });
     }
 
     void check(World & /*world*/, QWidget *widget) override
@@ -220,14 +207,17 @@ private:
         }
         Dice &dice = world.dice();
         const OlvFormSupport::Features features = anyFeatures(dice);
-        const QPointer<OlvFormSupport> made(
-            new OlvFormSupport(dice.oneIn(16) ? nullptr : form, features));
+        QPointer<OlvFormSupport> made;
+        {
+            // there would be no pointer to one that goes while it is made
+            const World::Guard guard(world);
+            made = new OlvFormSupport(dice.oneIn(16) ? nullptr : form, OlvFormSupport::Features());
+        }
+        world.remember(made);
+        m_supports.append(made);
+        made->setFeatures(features);
         Storm::check(!world.isUndisturbed() || (made && made->features() == features),
                      "a support has the features that it was given");
-        if (made) {
-            world.remember(made);
-            m_supports.append(made);
-        }
     }
 
     void dismiss(World &world)
@@ -296,9 +286,9 @@ private:
         }
         Dice &dice = world.dice();
         if (m_mappers.isEmpty() || (m_mappers.size() < mostMappers && dice.oneIn(4))) {
-            auto *mapper = new QDataWidgetMapper(world.anyHost());
+            auto *mapper = new QDataWidgetMapper; // Qt does not stand its end in a slot
             mapper->setModel(&m_model);
-            mapper->setItemDelegate(new GuardedDelegate(world, mapper));
+            mapper->setItemDelegate(new OlvValueDelegate(mapper));
             mapper->setSubmitPolicy(dice.coin() ? QDataWidgetMapper::AutoSubmit
                                                 : QDataWidgetMapper::ManualSubmit);
             world.remember(mapper->itemDelegate());
@@ -327,9 +317,9 @@ private:
             mapper->revert();
             break;
         case 3: {
-            // Qt's mapper uses the delegate before when it gets another
-            const std::unique_ptr<QAbstractItemDelegate> before(mapper->itemDelegate());
-            mapper->setItemDelegate(new GuardedDelegate(world, mapper));
+            QAbstractItemDelegate *before = mapper->itemDelegate();
+            mapper->setItemDelegate(new OlvValueDelegate(mapper));
+            before->deleteLater(); // it may be at work
             break;
         }
         default: {

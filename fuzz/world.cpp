@@ -26,6 +26,11 @@ Family::~Family() = default;
 
 void Family::check(World & /*world*/, QWidget * /*widget*/) { }
 
+bool Family::isQtAtWork() const
+{
+    return false;
+}
+
 void Family::setText(QWidget * /*widget*/, const QString & /*text*/) { }
 
 World::Guard::Guard(World &world)
@@ -146,7 +151,7 @@ void World::forget(QObject *dying)
 
 bool World::isGuarded() const
 {
-    return m_guards > 0;
+    return m_guards > 0 || m_family->isQtAtWork();
 }
 
 bool World::isUndisturbed() const
@@ -271,7 +276,7 @@ void World::actRarely(QWidget *widget)
 
 void World::destroy(QObject *object)
 {
-    if (m_guards > 0) {
+    if (isGuarded()) {
         object->deleteLater();
     } else {
         delete object;
@@ -281,7 +286,7 @@ void World::destroy(QObject *object)
 void World::pass(int milliseconds)
 {
     // an object that is half destroyed may have posted events that Qt would still deliver
-    if (m_guards == 0) {
+    if (!isGuarded()) {
         Storm::processEvents(milliseconds);
     }
 }

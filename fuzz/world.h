@@ -26,6 +26,9 @@ public:
     virtual QVector<QByteArray> properties() const = 0;
     /** Checks what always holds for @p widget. */
     virtual void check(World &world, QWidget *widget);
+    /** Whether Qt goes on to use the widgets after what it does now, as if a World::Guard existed.
+     */
+    virtual bool isQtAtWork() const;
     /** Sets @p text, which may be a megabyte long, wherever @p widget takes a text. */
     virtual void setText(QWidget *widget, const QString &text);
 

@@ -116,7 +116,7 @@ void World::hear(const QAccessibleEvent &update)
     ++m_strikes;
     if (m_dice.oneIn(8)) {
         StormAssistant::setActive(m_dice.coin());
-    } else if (standsDeletion(update) && m_guards == 0 && !m_isDying && !m_isMaking) {
+    } else if (standsDeletion(update) && !isGuarded() && !m_isDying && !m_isMaking) {
         strikeFrom(update.object());
     } else {
         const Guard guard(*this);
@@ -137,7 +137,7 @@ void World::hear(const QAccessibleEvent &update)
 
 bool World::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_depth >= deepest || m_guards > 0 || m_isDying || !standsDeletion(*watched, *event)
+    if (m_depth >= deepest || isGuarded() || m_isDying || !standsDeletion(*watched, *event)
         || !m_dice.oneIn(24)) {
         return QObject::eventFilter(watched, event);
     }
