@@ -24,6 +24,7 @@ function(olv_public_headers target)
     target_link_options(${target} PRIVATE LINKER:--version-script=${symbols})
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${symbols})
 
+    # REUSE-IgnoreStart
     set(umbrella "// SPDX-License-Identifier: MIT\n#pragma once\n")
     foreach(header IN LISTS ARGN)
         set(path ${source_dir}/${target}/${header})
@@ -41,6 +42,7 @@ function(olv_public_headers target)
             list(APPEND installed ${generated_dir}/${target}/${class})
         endforeach()
     endforeach()
+    # REUSE-IgnoreEnd
     olv_write_if_changed(${generated_dir}/${target}/${target} "${umbrella}")
     list(APPEND installed ${generated_dir}/${target}/${target})
 
