@@ -92,13 +92,13 @@ public:
         /**
          * Texts that can be read under every palette. The fields are white whatever the palette is,
          * where the text of a dark one is hard to see. In an OlvLineEdit and an OlvShortcutEdit the
-         * text, a placeholder, a selected text and the glyph get a contrast of at least 4.5 : 1:
+         * text, a placeholder, a selected text and the glyphs get a contrast of at least 4.5 : 1:
          * where a colour has less, a darker one takes its place. The contrast is that of the Web
          * Content Accessibility Guidelines 2.1, success criterion 1.4.3, a ratio of relative
          * luminances (https://www.w3.org/TR/WCAG21/). Disabled texts are paler than that, but not
          * faded twice where DisabledLook fades them. The colours are set in the palette of
          * OlvLineEdit::lineEdit() and follow it; those that the application sets there come back
-         * when the support goes. The password button keeps its colours.
+         * when the support goes.
          */
         ReadableText = 0x20,
         /** All of the above. */

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/togglesheet_p.h"
 #include "support/accessibility_p.h"
 
 #include <QPointer>
@@ -33,9 +34,7 @@ OlvSimpleIconButton::OlvSimpleIconButton(QWidget *parent)
 
 void OlvSimpleIconButton::setToggle(const QString &checkedText)
 {
-    setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(184,186,188);}"
-                                 "QPushButton:hover{color:rgb(32,32,32)}"
-                                 "QPushButton:checked{color:rgb(32,32,32)}"));
+    setStyleSheet(toggleSheet(restingToggle));
     // an event filter may delete the button when either property changes
     const QPointer<OlvSimpleIconButton> self(this);
     setProperty(uncheckedProperty, text());

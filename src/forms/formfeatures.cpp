@@ -144,8 +144,7 @@ void FormFeatures::fit(const QPointer<QWidget> &widget, const QEvent *event)
         && m_features.testFlag(Feature::Mirroring)) {
         Mirroring::fit(*member);
     }
-    if (self
-        && (event->type() == QEvent::EnabledChange || event->type() == QEvent::PaletteChange)) {
+    if (self && ReadableText::mayChange(event)) {
         fitTexts(widget);
     }
 }

@@ -42,11 +42,6 @@ Qt::FocusPolicy naturalPolicy(const QWidget *widget)
     return Qt::FocusPolicy(widget->style()->styleHint(QStyle::SH_Button_FocusPolicy));
 }
 
-OlvSimpleIconButton *passwordButton(const OlvLineEdit *edit)
-{
-    return edit->findChild<OlvSimpleIconButton *>(QString(), Qt::FindDirectChildrenOnly);
-}
-
 void giveText(FormMember &member, OlvLineEdit *edit)
 {
     QLineEdit *text = edit->lineEdit();

@@ -74,6 +74,11 @@ QLineEdit *textOf(const QWidget *widget, FormKind kind)
                                       : nullptr;
 }
 
+OlvSimpleIconButton *passwordButton(const OlvLineEdit *edit)
+{
+    return edit->findChild<OlvSimpleIconButton *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 bool isStill(const QWidget *widget, FormKind kind)
 {
     switch (kind) {

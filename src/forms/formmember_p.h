@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class OlvLineEdit;
+class OlvSimpleIconButton;
 class QLineEdit;
 struct TextColors;
 
@@ -32,6 +34,8 @@ FormKind formKindOf(const QWidget *widget);
 
 /** The text in a line edit, whose events are a support's business, too; null for other widgets. */
 QLineEdit *textOf(const QWidget *widget, FormKind kind);
+/** The password button of a line edit; null when the application has deleted it. */
+OlvSimpleIconButton *passwordButton(const OlvLineEdit *edit);
 
 /**
  * Whether @p widget, which was of @p kind, is so still. What is left of one that is being destroyed

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/readabletext_p.h"
 
+#include <OlvWidgets/buttons.h>
 #include <OlvWidgets/input.h>
 
+#include "buttons/togglesheet_p.h"
 #include "forms/disabledlook_p.h"
 #include "forms/formmember_p.h"
 #include "input/inputlook_p.h"
@@ -10,6 +12,7 @@
 
 #include <QApplication>
 #include <QCache>
+#include <QDynamicPropertyChangeEvent>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -26,6 +29,8 @@ constexpr double strongText = 12.0;
 constexpr double strongPlaceholder = 7.0;
 
 constexpr int maxBrushes = 64;
+/** Whether a line edit shows its password button. */
+constexpr char passwordProperty[] = "Pwd";
 
 /** What the style sheet of the text sets in its palette. */
 constexpr uint sheetRoles = 1U << QPalette::Base | 1U << QPalette::Window | 1U << QPalette::Button;
@@ -213,6 +218,20 @@ void takeText(FormMember &member, QLineEdit *text)
     }
 }
 
+/** Changes the colour of a password button's glyph, unless the application has restyled it. */
+void recolor(OlvLineEdit *edit, const QColor &from, const QColor &to)
+{
+    OlvSimpleIconButton *button = passwordButton(edit);
+    if (button && button->styleSheet() == toggleSheet(from)) {
+        button->setStyleSheet(toggleSheet(to));
+    }
+}
+
+QColor readableToggle()
+{
+    return Contrast::atLeast(Contrast::readable, QColor(restingToggle), ground);
+}
+
 InputLook::Contrast contrastOf(const QWidget *field, bool fades)
 {
     if (field->isEnabled()) {
@@ -232,9 +251,28 @@ void ReadableText::fit(FormMember &member, bool fades)
     } else if (member.kind == FormKind::LineEdit) {
         auto *edit = static_cast<OlvLineEdit *>(member.widget.data());
         InputLook::setContrast(edit, contrastOf(edit, fades));
+        const QPointer<OlvLineEdit> alive(edit);
         if (QLineEdit *text = edit->lineEdit()) {
             fitText(member, text, fades);
         }
+        // a style sheet takes time to parse, and most line edits never show the button
+        if (alive && alive->property(passwordProperty).toBool()) {
+            recolor(alive, QColor(restingToggle), readableToggle());
+        }
+    }
+}
+
+bool ReadableText::mayChange(const QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::EnabledChange:
+    case QEvent::PaletteChange:
+        return true;
+    case QEvent::DynamicPropertyChange:
+        return static_cast<const QDynamicPropertyChangeEvent *>(event)->propertyName()
+            == passwordProperty;
+    default:
+        return false;
     }
 }
 
@@ -246,8 +284,12 @@ void ReadableText::take(FormMember &member)
     } else if (member.kind == FormKind::LineEdit) {
         auto *edit = static_cast<OlvLineEdit *>(member.widget.data());
         InputLook::setContrast(edit, InputLook::Unchanged);
+        const QPointer<OlvLineEdit> alive(edit);
         if (QLineEdit *text = edit->lineEdit()) {
             takeText(member, text);
+        }
+        if (alive) {
+            recolor(alive, readableToggle(), QColor(restingToggle));
         }
     }
 }

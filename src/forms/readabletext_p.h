@@ -6,6 +6,7 @@
 
 #include <array>
 
+class QEvent;
 class QLineEdit;
 struct FormMember;
 
@@ -39,6 +40,8 @@ namespace ReadableText {
 
 /** Makes the texts of a member readable, which may be disabled, and is faded then or not. */
 void fit(FormMember &member, bool fades);
+/** Whether they may have to be made readable anew after @p event, which came to a member. */
+bool mayChange(const QEvent *event);
 /** Restores the colours. */
 void take(FormMember &member);
 /**

@@ -68,6 +68,8 @@ public:
         selected->setText(blocks());
         hint->setPlaceholderText(blocks());
         glyph->setIcon(QStringLiteral("█"));
+        glyph->setPassWord(true);
+        glyph->setPwdIcon(QStringLiteral("█"), QStringLiteral("▓"));
         shortcut->setShortcut(new FakeShortcut(blocks()));
         new OlvFormSupport(this, features);
     }
@@ -99,6 +101,10 @@ public:
     double contrastOfGlyph()
     {
         return contrastIn(glyph, QRect(3, 3, 26, 26));
+    }
+    double contrastOfPasswordButton()
+    {
+        return contrastIn(glyph, QRect(glyph->width() - 28, 4, 24, 24));
     }
     double contrastOfShortcut()
     {
@@ -189,6 +195,7 @@ void TestReadableText::isReadUnderAPaletteOfTheApplication()
         VERIFY_READABLE(fields.contrastOfText(fields.hint));
         VERIFY_READABLE(fields.contrastOfText(fields.selected));
         VERIFY_READABLE(fields.contrastOfGlyph());
+        VERIFY_READABLE(fields.contrastOfPasswordButton());
         VERIFY_READABLE(fields.contrastOfShortcut());
         if (isActive) {
             sendFocus(fields.glyph->lineEdit(), QEvent::FocusIn);
@@ -285,6 +292,7 @@ void TestReadableText::isMissingWithoutTheFeature()
     QVERIFY(fields.showActive());
     QCOMPARE(fields.contrastOfText(fields.text), 1.0);
     QVERIFY(fields.contrastOfGlyph() < 2);
+    QVERIFY(fields.contrastOfPasswordButton() < 2);
     QVERIFY(fields.contrastOfShortcut() < 3);
 }
 

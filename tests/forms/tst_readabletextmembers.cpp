@@ -54,6 +54,7 @@ private Q_SLOTS:
     void followsAnotherStyle();
     void followsTheEnabledState();
     void followsWhetherItIsFaded();
+    void followsWhetherAPasswordIsAsked();
     void followsWidgetsThatComeAndGo();
     void leavesNothingBehind_data();
     void leavesNothingBehind();
@@ -166,6 +167,21 @@ void TestReadableTextMembers::followsWhetherItIsFaded()
     QCOMPARE(textColor(form.name), QColor(153, 153, 153));
     support->setFeatures(OlvFormSupport::AllFeatures);
     QCOMPARE(textColor(form.name), QColor(Qt::black));
+}
+
+void TestReadableTextMembers::followsWhetherAPasswordIsAsked()
+{
+    WidgetForm form;
+    const QString before = buttonOf(*form.name)->styleSheet();
+    auto *support = new OlvFormSupport(&form);
+    QCOMPARE(buttonOf(*form.name)->styleSheet(), before);
+    form.name->setPassWord(true);
+    QCOMPARE(buttonOf(*form.name)->styleSheet(), buttonOf(*form.password)->styleSheet());
+    QVERIFY(buttonOf(*form.name)->styleSheet() != before);
+    buttonOf(*form.password)->setStyleSheet(QStringLiteral("color: blue"));
+    delete support;
+    QCOMPARE(buttonOf(*form.name)->styleSheet(), before);
+    QCOMPARE(buttonOf(*form.password)->styleSheet(), QStringLiteral("color: blue"));
 }
 
 void TestReadableTextMembers::followsWidgetsThatComeAndGo()
