@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "mouse.h"
+#include "movablewidget.h"
 
 #include <OlvMoveWidget>
 #include <OlvPluginEventFilter>
@@ -168,11 +169,8 @@ void TestMoveWidget::everyMouseButtonMoves()
 
 void TestMoveWidget::followsThePointer()
 {
-    QWidget parent;
-    auto *target = new QWidget(&parent);
-    target->setGeometry(50, 60, 100, 40);
-    OlvMoveWidget mover(target);
-    mover.setMoveArea(QRect());
+    MovableWidget movable({ 50, 60, 100, 40 });
+    QWidget *target = movable.target;
     Mouse::press(target, { 10, 10 });
     // positions are relative to the widget, which moves along
     Mouse::move(target, { 13, 9 });
@@ -185,11 +183,8 @@ void TestMoveWidget::followsThePointer()
 
 void TestMoveWidget::roundsPositions()
 {
-    QWidget parent;
-    auto *target = new QWidget(&parent);
-    target->setGeometry(50, 60, 100, 40);
-    OlvMoveWidget mover(target);
-    mover.setMoveArea(QRect());
+    MovableWidget movable({ 50, 60, 100, 40 });
+    QWidget *target = movable.target;
     Mouse::press(target, { 9.5, 9.4 });
     Mouse::move(target, { 12.5, 12.4 });
     QCOMPARE(target->pos(), QPoint(53, 63));
@@ -197,11 +192,8 @@ void TestMoveWidget::roundsPositions()
 
 void TestMoveWidget::stopsAtTheRelease()
 {
-    QWidget parent;
-    auto *target = new QWidget(&parent);
-    target->setGeometry(50, 60, 100, 40);
-    OlvMoveWidget mover(target);
-    mover.setMoveArea(QRect());
+    MovableWidget movable({ 50, 60, 100, 40 });
+    QWidget *target = movable.target;
     Mouse::move(target, { 20, 20 });
     QCOMPARE(target->pos(), QPoint(50, 60));
     Mouse::press(target, { 10, 10 });

@@ -62,10 +62,7 @@ void TestResizeDrag::dragsResize()
     QWidget target;
     target.resize(400, 300);
     const OlvResizeWidget resizer(&target, 5);
-    const Handles handles = handlesOf(target);
-    OlvResizeItem *handle = type == OlvResizeItem::RightEdge ? handles.right
-        : type == OlvResizeItem::BottomEdge                  ? handles.bottom
-                                                             : handles.corner;
+    OlvResizeItem *handle = handleOf(target, OlvResizeItem::ResizeType(type));
     drag(handle, { 2, 3 }, QPointF(2, 3) + moved);
     QCOMPARE(target.size(), size);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deferred.h"
 #include "mouse.h"
+#include "movablewidget.h"
 #include "resizehandles.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
@@ -135,14 +136,11 @@ void TestDisabledWidgets::sliderDragEnds()
 
 void TestDisabledWidgets::widgetIsNotMoved()
 {
-    QWidget window;
-    auto *target = new QWidget(&window);
-    target->setGeometry(20, 30, 100, 100);
-    OlvMoveWidget mover(target);
-    mover.setMoveArea(QRect());
+    MovableWidget movable;
+    QWidget *target = movable.target;
     target->setEnabled(false);
     Mouse::press(target, { 10, 10 });
-    QVERIFY(!mover.property("CanMove").toBool());
+    QVERIFY(!movable.mover.property("CanMove").toBool());
     Mouse::move(target, { 17, 18 });
     target->setEnabled(true);
     Mouse::move(target, { 17, 18 });
@@ -159,21 +157,18 @@ void TestDisabledWidgets::moveEnds_data()
 void TestDisabledWidgets::moveEnds()
 {
     QFETCH(bool, byParent);
-    QWidget window;
-    auto *target = new QWidget(&window);
-    target->setGeometry(20, 30, 100, 100);
-    OlvMoveWidget mover(target);
-    mover.setMoveArea(QRect());
+    MovableWidget movable;
+    QWidget *target = movable.target;
     Mouse::press(target, { 10, 10 });
     Mouse::move(target, { 17, 18 });
     QCOMPARE(target->pos(), QPoint(27, 38));
-    QWidget *disabled = byParent ? &window : target;
+    QWidget *disabled = byParent ? &movable.window : target;
     disabled->setEnabled(false);
     Mouse::move(target, { 17, 18 });
     QCOMPARE(target->pos(), QPoint(27, 38));
-    QVERIFY(mover.property("CanMove").toBool());
+    QVERIFY(movable.mover.property("CanMove").toBool());
     Mouse::release(target);
-    QCOMPARE(mover.property("CanMove"), QVariant(false));
+    QCOMPARE(movable.mover.property("CanMove"), QVariant(false));
     disabled->setEnabled(true);
     Mouse::move(target, { 17, 18 });
     QCOMPARE(target->pos(), QPoint(27, 38));
@@ -193,10 +188,7 @@ void TestDisabledWidgets::widgetIsNotResized()
     QWidget target;
     target.resize(400, 300);
     const OlvResizeWidget resizer(&target, 5);
-    const Handles handles = handlesOf(target);
-    OlvResizeItem *handle = type == OlvResizeItem::RightEdge ? handles.right
-        : type == OlvResizeItem::BottomEdge                  ? handles.bottom
-                                                             : handles.corner;
+    OlvResizeItem *handle = handleOf(target, OlvResizeItem::ResizeType(type));
     target.setEnabled(false);
     drag(handle, { 1, 1 }, { 20, 20 });
     QCOMPARE(target.size(), QSize(400, 300));

@@ -2,6 +2,7 @@
 #include "fakeshortcut.h"
 #include "gridscene.h"
 #include "mouse.h"
+#include "movablewidget.h"
 #include "sizedswitch.h"
 
 #include <OlvWidgets>
@@ -132,12 +133,9 @@ void TestMisuse::areaThatIsNoneMovesNothing()
 {
     QFETCH(QVariant, area);
     QFETCH(QPoint, moved);
-    QWidget window;
-    auto *target = new QWidget(&window);
-    target->setGeometry(20, 30, 100, 100);
-    OlvMoveWidget mover(target);
-    mover.setMoveArea(QRect(0, 0, 100, 100));
-    mover.setProperty("MoveArea", area);
+    MovableWidget movable;
+    QWidget *target = movable.target;
+    movable.mover.setProperty("MoveArea", area);
     Mouse::press(target, { 10, 10 });
     Mouse::move(target, { 17, 18 });
     QCOMPARE(target->pos(), QPoint(20, 30) + moved);
@@ -148,13 +146,10 @@ void TestMisuse::pressPositionThatIsNoneCountsAsTheCorner()
 {
     for (const QVariant &value :
          { QVariant(), QVariant(QStringLiteral("x")), QVariant(5), QVariant(QRect(1, 2, 3, 4)) }) {
-        QWidget window;
-        auto *target = new QWidget(&window);
-        target->setGeometry(20, 30, 100, 100);
-        OlvMoveWidget mover(target);
-        mover.setMoveArea(QRect(0, 0, 100, 100));
+        MovableWidget movable;
+        QWidget *target = movable.target;
         Mouse::press(target, { 10, 10 });
-        mover.setProperty("PressPos", value);
+        movable.mover.setProperty("PressPos", value);
         Mouse::move(target, { 17, 18 });
         QCOMPARE(target->pos(), QPoint(37, 48));
     }

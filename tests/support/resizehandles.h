@@ -36,6 +36,20 @@ inline Handles handlesOf(const QWidget &target)
     return handles;
 }
 
+inline OlvResizeItem *handleOf(const QWidget &target, OlvResizeItem::ResizeType type)
+{
+    const Handles handles = handlesOf(target);
+    switch (type) {
+    case OlvResizeItem::RightEdge:
+        return handles.right;
+    case OlvResizeItem::BottomEdge:
+        return handles.bottom;
+    case OlvResizeItem::Corner:
+        break;
+    }
+    return handles.corner;
+}
+
 inline void drag(OlvResizeItem *handle, QPointF from, QPointF to)
 {
     Mouse::press(handle, from);
