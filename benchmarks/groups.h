@@ -12,3 +12,4 @@ void addManyButtons();
 void addSwitchAndSlider();
 void addSwitchTicks();
 void addTextFitting();
+void addWindows();

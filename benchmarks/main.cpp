@@ -29,6 +29,7 @@ int main(int argc, char **argv)
     addManyButtons();
     addFlowGrid();
     addGridFilter();
+    addWindows();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTimerEvent>
 #include <QVariantAnimation>
+#include <QVector>
 
 namespace {
 
@@ -155,6 +156,61 @@ void toggleAnimated(benchmark::State &state)
     }
 }
 
+constexpr int manySwitches = 1000;
+constexpr int switchesInARow = 40;
+
+template <typename Switch> QVector<Switch *> makeMany(QWidget &window)
+{
+    window.resize(switchesInARow * 60, manySwitches / switchesInARow * 30);
+    QVector<Switch *> switches;
+    for (int i = 0; i < manySwitches; ++i) {
+        switches.append(new Switch(&window));
+        switches.last()->setGeometry(
+            switchGeometry.translated(i % switchesInARow * 60, i / switchesInARow * 30));
+    }
+    return switches;
+}
+
+void startOne(OlvSwitch *library)
+{
+    library->setValue(!library->getValue().toBool());
+}
+
+void startOne(HandWrittenSwitch *handWritten)
+{
+    handWritten->start();
+}
+
+int timerOf(const OlvSwitch *library)
+{
+    return library->property("timerId").toInt();
+}
+
+int timerOf(const HandWrittenSwitch *handWritten)
+{
+    return handWritten->timerId();
+}
+
+/** All slide side by side, and the window is painted once a tick. */
+template <typename Switch> void toggleMany(benchmark::State &state)
+{
+    QWidget window;
+    const QVector<Switch *> switches = makeMany<Switch>(window);
+    showAndWait(window);
+    while (state.KeepRunning()) {
+        for (Switch *one : switches) {
+            startOne(one);
+        }
+        for (int i = 0; i < tickCount; ++i) {
+            for (Switch *one : switches) {
+                QTimerEvent event(timerOf(one));
+                QCoreApplication::sendEvent(one, &event);
+            }
+            paintUpdates(window);
+        }
+    }
+}
+
 } // namespace
 
 void addSwitchTicks()
@@ -162,4 +218,6 @@ void addSwitchTicks()
     addBenchmark("switch-ticks/library", toggleLibrary);
     addBenchmark("switch-ticks/handwritten", toggleHandWritten);
     addBenchmark("switch-ticks/animation", toggleAnimated);
+    addBenchmark("many-switches/library", toggleMany<OlvSwitch>);
+    addBenchmark("many-switches/handwritten", toggleMany<HandWrittenSwitch>);
 }

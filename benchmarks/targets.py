@@ -61,6 +61,7 @@ TARGETS = [
     Ratio("button-events-painted", "sheet", None),
     Ratio("switch-ticks", "handwritten", 0.4),
     Ratio("switch-ticks", "animation", 0.35),
+    Ratio("many-switches", "handwritten", None),
     Ratio("slider-drag", "fusion", 0.9),
     Ratio("slider-drag", "sheet", 0.45),
     Ratio("filter-listener", "override", 1.3),
@@ -80,6 +81,9 @@ TARGETS = [
     Ratio("many-buttons", "button-sheets", 0.25, 1000),
     Ratio("many-buttons", "button-sheets", 0.25, 10000),
     Slope("many-buttons", 1.1),
+    Ratio("window-start", "sheet", None),
+    Ratio("window-widen", "fusion", None),
+    Ratio("window-widen", "sheet", None),
     Counter("button-heap", "bytes", "bytes a button", 2100),
     Ratio("button-heap", "window-sheet", 0.37),
     *(
