@@ -4,10 +4,12 @@
 #include <OlvMoveWidget>
 #include <OlvResizeWidget>
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -51,6 +53,14 @@ FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
     m_mover->setMoveArea(QRect(0, 0, width(), headerHeight));
     m_resizer = new OlvResizeWidget(this, handleWidth);
 
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        // where a program cannot stack its windows; the first button is the application's own
+        const auto buttons = m_bar->findChildren<QPushButton *>();
+        for (const auto state :
+             { OlvControlBar::Float, OlvControlBar::Bottom, OlvControlBar::Top }) {
+            buttons.at(1 + state)->hide();
+        }
+    }
     connect(m_bar, &OlvControlBar::changed, this, &FramelessWindow::change);
     connect(m_bar, &OlvControlBar::custom, this, [=] {
         QMessageBox::information(this, title,

@@ -212,7 +212,8 @@ public:
 
     /**
      * Changes how the panel is stacked, and shows it, since a change of its window flags hides it.
-     * Nothing happens when it is stacked so already.
+     * Nothing happens when it is stacked so already. On Wayland, where programs do not stack their
+     * windows, a window that is shown stays where it is.
      */
     void stay(OlvStayType type);
     /** Makes the panel a tool window, or a plain one again, and shows it. */

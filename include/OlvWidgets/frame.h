@@ -33,6 +33,11 @@ class QPushButton;
  * mover->setMoveArea(QRect(0, 0, window->width(), 32)); // its title
  * @endcode
  *
+ * On Wayland, where a program cannot place its windows, the first mouse move hands the drag of a
+ * window over to the compositor (with Qt 5.15 or later, before that windows stay where they are).
+ * The window is told that the button is released then, and gets no more mouse moves of the drag;
+ * its pos() means nothing there. Widgets in a window are moved as everywhere.
+ *
  * Any mouse button starts a move; a maximised widget does not start one. From the first
  * setMoveArea() on, the widget's own mousePressEvent(), mouseMoveEvent() and mouseReleaseEvent() no
  * longer run, in the area or out of it. Its state lies in dynamic properties of the helper:
@@ -177,6 +182,11 @@ public:
  * });
  * connect(bar, &OlvControlBar::custom, window, [=](int) { window->openSettings(); });
  * @endcode
+ *
+ * On Wayland no program can let a window float, or keep it on top or at the bottom: changing the
+ * window flags for them has no effect but that the window is shown again in another place, so hide
+ * these three buttons there. Maximising, restoring, minimising and closing work. A program is not
+ * told that its window is minimised, isMinimized() stays false, and only the user brings it back.
  *
  * Keeping on top and keeping at the bottom exclude each other: checking one unchecks the other
  * silently, after changed() has told of the first. The glyph and the tool tip of the maximise

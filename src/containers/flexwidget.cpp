@@ -6,6 +6,7 @@
 #include "painting/shape_p.h"
 #include "support/accessibility_p.h"
 #include "support/childaddress_p.h"
+#include "support/platform_p.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -107,6 +108,11 @@ void OlvFlexWidget::stay(OlvStayType type)
     // event filters and listeners of assistive programs may delete the panel at each of these
     const QPointer<OlvFlexWidget> self(this);
     setProperty(stayProperty, int(type));
+    if (self && isOnWayland() && isWindow() && isVisible()) {
+        // Nothing stacks windows there, and showing it again would put it elsewhere.
+        overrideWindowFlags(flags);
+        return;
+    }
     if (self) {
         setWindowFlags(flags);
     }

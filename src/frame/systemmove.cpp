@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "frame/systemmove_p.h"
 
-#include <QGuiApplication>
+#include "support/platform_p.h"
+
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWidget>
@@ -10,12 +11,6 @@
 #if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
 
 namespace {
-
-/** The platforms of the compositors' different graphics are called "wayland-egl" and the like. */
-bool isOnWayland()
-{
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
 
 /** Tells @p window that the buttons that are held during @p move are released. */
 void releaseButtons(const QPointer<QWindow> &window, const QMouseEvent *move)

@@ -68,9 +68,9 @@ public:
 
     /**
      * Waits until the screen shows a window, by its colour, and the window sees the pointer in its
-     * middle; returns where it is shown, null for nowhere.
+     * middle; returns where it is shown, null for nowhere. The colour begins at @p inset in it.
      */
-    QRect waitFor(const QWidget &window, QColor color)
+    QRect waitFor(const QWidget &window, QColor color, QPoint inset = QPoint())
     {
         constexpr int attempts = 100;
         for (int i = 0; i < attempts; ++i) {
@@ -84,7 +84,7 @@ public:
             input.moveTo(area.center());
             QTest::qWait(50);
             if (!area.isNull() && window.underMouse()
-                && window.mapFromGlobal(QCursor::pos()) == area.center() - area.topLeft()) {
+                && window.mapFromGlobal(QCursor::pos()) == area.center() - area.topLeft() + inset) {
                 return area;
             }
         }

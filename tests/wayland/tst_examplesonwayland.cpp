@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "compositor.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+/** The examples with windows of the library's own, driven from outside. */
+class TestExamplesOnWayland : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void noteIsMovedAndPinned();
+    void editorIsMovedAndClosed();
+
+private:
+    /** Starts a program and waits until the screen shows a colour; returns where. */
+    QRect start(const char *program, QColor color)
+    {
+        m_program.start(QLatin1String(program), QStringList());
+        constexpr int smallestWidth = 100; // the pointer may have a few pixels of the colour
+        for (int tries = 0; tries < 100 && m_compositor.areaOf(color).width() < smallestWidth;
+             ++tries) {
+            QTest::qWait(50);
+        }
+        for (const QPoint corner : { QPoint(1279, 799), QPoint(0, 0) }) {
+            m_compositor.input.moveTo(corner);
+            QTest::qWait(50);
+        }
+        m_compositor.input.moveTo(QPoint(1279, 799)); // where it shows nothing of the pointer
+        pause();
+        return m_compositor.areaOf(color);
+    }
+    void pause()
+    {
+        QTest::qWait(150); // nothing tells how far the other program is
+    }
+    void click(QPoint place)
+    {
+        m_compositor.input.moveTo(place);
+        pause();
+        m_compositor.input.click();
+        pause();
+    }
+    /** Clicks a place that ends the program, again if that has been too slow to see the pointer. */
+    void clickToEnd(QPoint place)
+    {
+        for (int tries = 0; tries < 20 && m_program.state() != QProcess::NotRunning; ++tries) {
+            m_compositor.input.moveTo(place - QPoint(0, 1));
+            click(place);
+        }
+        QCOMPARE(m_program.state(), QProcess::NotRunning);
+        QCOMPARE(m_program.exitCode(), 0);
+    }
+    /** Drags until a colour begins at a place, and is so wide; the pointer may hang out below. */
+    void dragTo(QPoint from, QPoint to, QColor color, const QRect &expected)
+    {
+        m_compositor.input.moveTo(from);
+        pause();
+        m_compositor.input.press();
+        pause();
+        m_compositor.input.moveTo(from + QPoint(1, 1));
+        const auto isThere = [&] {
+            // The compositor may have taken over only after the last motion.
+            m_compositor.input.moveTo(to - QPoint(1, 0));
+            m_compositor.input.moveTo(to);
+            pause();
+            const QRect area = m_compositor.areaOf(color);
+            return area.topLeft() == expected.topLeft() && area.width() == expected.width();
+        };
+        QTRY_VERIFY(isThere());
+        m_compositor.input.release();
+        pause();
+    }
+
+    QProcess m_program;
+    QTemporaryDir m_home;
+    Compositor m_compositor;
+};
+
+void TestExamplesOnWayland::init()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
+    m_program.setProcessEnvironment(environment);
+    m_program.setProcessChannelMode(QProcess::ForwardedChannels);
+}
+
+void TestExamplesOnWayland::cleanup()
+{
+    m_program.kill();
+    m_program.waitForFinished();
+}
+
+void TestExamplesOnWayland::noteIsMovedAndPinned()
+{
+    const QColor header(255, 193, 7);
+    const QRect before = start(OLV_STICKYNOTE, header);
+    QVERIFY(!before.isNull());
+    const QRect moved(QPoint(300, 200), before.size());
+    dragTo(before.center(), moved.center(), header, moved);
+    QCOMPARE(m_compositor.areaOf(header), moved);
+    // the pin, which unpins it, and pins it again
+    for (int i = 0; i < 2; ++i) {
+        click(moved.topLeft() + QPoint(22, 26));
+        QCOMPARE(m_compositor.areaOf(header), moved);
+    }
+    // the cross at the right
+    clickToEnd(QPoint(moved.right() - 23, moved.top() + 26));
+}
+
+void TestExamplesOnWayland::editorIsMovedAndClosed()
+{
+    const QColor header = QApplication::palette().color(QPalette::Window);
+    const QRect before = start(OLV_FRAMELESSEDITOR, header);
+    QCOMPARE(before.width(), 638); // within the frame
+    const QRect moved(QPoint(300, 200), before.size());
+    dragTo(before.center(), moved.center(), header, moved);
+    // by its corner
+    const QPoint corner = moved.topLeft() + QPoint(636, 416);
+    dragTo(corner, corner + QPoint(50, 40), header, moved.adjusted(0, 0, 50, 0));
+    // the last button of its bar
+    clickToEnd(QPoint(moved.right() + 50 - 12, moved.top() + 18));
+}
+
+QTEST_MAIN(TestExamplesOnWayland)
+#include "tst_examplesonwayland.moc"
