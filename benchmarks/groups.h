@@ -7,6 +7,7 @@ void addButtonEvents();
 void addColors();
 void addEventFilter();
 void addFlowGrid();
+void addForms();
 void addGridFilter();
 void addManyButtons();
 void addSwitchAndSlider();

@@ -28,6 +28,7 @@ int main(int argc, char **argv)
     addColors();
     addManyButtons();
     addFlowGrid();
+    addForms();
     addGridFilter();
     addWindows();
     benchmark::RunSpecifiedBenchmarks();

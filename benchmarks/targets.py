@@ -129,6 +129,11 @@ TARGETS = [
         Slope(f"grid-{name}", None)
         for name in ("all-move", "none-moves", "add-list", "scroll-step", "add-each")
     ),
+    Counter("form-use", "bytes", "bytes a widget", 400),
+    Counter("form-use", "bytes", "bytes a widget, sizes too", None, "unsized"),
+    Counter("form-use", "timers", "timers", 0),
+    Ratio("form-visits", "unsupported", 1.6),
+    Ratio("form-keys", "fusion", None),
     Ratio("load", "empty", 2.1),
     Counter("load", "bytes", "bytes of heap", 3000),
     Counter("load", "bytes", "bytes, empty library", None, "empty"),
