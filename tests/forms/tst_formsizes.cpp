@@ -54,6 +54,7 @@ private Q_SLOTS:
     void followAGlyph();
     void followTheFontOfTheForm();
     void makeRoomForAPasswordButton();
+    void makeTheRoomThatAGlyphTakes();
     void haveTypedTextAboutAsLargeAsTheForm();
     void comeToAWidgetThatIsAddedLater();
     void areTakenBack();
@@ -257,6 +258,19 @@ void TestFormSizes::makeRoomForAPasswordButton()
     QCOMPARE(form.name->minimumWidth(), before + form.name->minimumHeight());
     form.name->setIcon(QStringLiteral("wide glyph"));
     QVERIFY(form.name->minimumWidth() > before + form.name->minimumHeight());
+}
+
+void TestFormSizes::makeTheRoomThatAGlyphTakes()
+{
+    OlvLineEdit edit;
+    const QSize before = OlvFormSupport::naturalSize(&edit);
+    edit.resize(before);
+    edit.show();
+    const int column = edit.lineEdit()->x();
+    edit.setIcon(QStringLiteral("mmm"));
+    QVERIFY(edit.lineEdit()->x() > column);
+    const QSize after = OlvFormSupport::naturalSize(&edit);
+    QCOMPARE(after.width() - before.width(), edit.lineEdit()->x() - column);
 }
 
 void TestFormSizes::haveTypedTextAboutAsLargeAsTheForm()
