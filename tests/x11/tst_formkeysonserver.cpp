@@ -61,6 +61,7 @@ private Q_SLOTS:
     void spaceFlipsTheSwitch();
     void keysMoveTheSlider_data();
     void keysMoveTheSlider();
+    void arrowsMoveThroughAGrid();
     void combinationsReachTheShortcutEdit();
 
 private:
@@ -296,6 +297,21 @@ void TestFormKeysOnServer::keysMoveTheSlider()
         place.moveRight(volume->width() - 1 - place.left());
     }
     QCOMPARE(knobOf(*volume)->geometry(), place);
+}
+
+/** The tiles stand from the left to the right in either direction. */
+void TestFormKeysOnServer::arrowsMoveThroughAGrid()
+{
+    focus(m_dialog->news);
+    QVERIFY(m_dialog->news->x() < m_dialog->chat->x());
+    m_keys->click(Symbol::right);
+    QTRY_COMPARE(QApplication::focusWidget(), m_dialog->chat);
+    m_keys->click(Symbol::left);
+    QTRY_COMPARE(QApplication::focusWidget(), m_dialog->news);
+    m_keys->click(Symbol::end);
+    QTRY_COMPARE(QApplication::focusWidget(), m_dialog->chat);
+    m_keys->click(Symbol::home);
+    QTRY_COMPARE(QApplication::focusWidget(), m_dialog->news);
 }
 
 void TestFormKeysOnServer::combinationsReachTheShortcutEdit()
