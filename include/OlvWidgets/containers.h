@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class GridMirror;
 class QScrollBar;
 
 /**
@@ -148,6 +149,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    friend class GridMirror;
     bool isSubWindow() const;
     QScrollBar *scrollBar() const;
     void makeScrollBar();

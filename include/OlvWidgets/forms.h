@@ -84,7 +84,8 @@ public:
          * The glyph of an OlvLineEdit is at its right then, and the password button at its left; a
          * slider's value grows to the left, in a drag, at a resize, after which the knob stands at
          * the value that it was brought to last, and under the arrow keys, as those of QSlider do;
-         * a switch is on with its knob at the left, and keeps it at the end when it is resized. The
+         * a switch is on with its knob at the left, and keeps it at the end when it is resized; the
+         * rows of an OlvGridLayout begin at the right, and its scroll bar is at the left. The
          * frames are drawn as in a mirror, texts and glyphs never are. Values, properties and
          * signals mean what they always mean. Control bars need none of this: Qt lays them out.
          */

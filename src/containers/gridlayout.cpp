@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <OlvWidgets/containers.h>
+#include "containers/gridlayout_p.h"
 
 #include "containers/gridscrollbar_p.h"
-#include "containers/tilelist_p.h"
 #include "support/pixels_p.h"
 
 #include <QCoreApplication>
 #include <QLabel>
-#include <QPointer>
 #include <QScrollBar>
 #include <QTimer>
 #include <QWheelEvent>
@@ -24,7 +22,6 @@ constexpr int windowBorder = 1;
 constexpr int emptyHeight = 50;
 constexpr int emptyPointSize = 16;
 constexpr int settlingTime = 300; // milliseconds
-constexpr int barDistance = 13;
 
 bool isInWindow(const QWidget *parent)
 {
@@ -51,24 +48,6 @@ OlvGridLayout *whole(QObject *grid)
 }
 
 } // namespace
-
-class OlvGridLayout::Private
-{
-public:
-    /** Null once an application has deleted it. */
-    QLabel *label() const
-    {
-        return qobject_cast<QLabel *>(emptyLabel.data());
-    }
-
-    int spacing = 20;
-    TileList tiles;
-    QPointer<QObject> emptyLabel;
-    QString emptyText; // as the grid has set it
-    QPointer<QObject> scrollBar;
-    QPointer<QObject> resizeTimer;
-    int viewHeight = 0;
-};
 
 OlvGridLayout::OlvGridLayout(QWidget *parent)
     : QWidget(parent)
@@ -335,7 +314,7 @@ void OlvGridLayout::makeScrollBar()
 {
     // a sibling of the grid, since a child would scroll along
     auto *bar = GridScrollBar::make(parentWidget());
-    bar->setGeometry(width() - barDistance, 0, GridScrollBar::width, d->viewHeight);
+    bar->setGeometry(d->placeOfBar(width()), 0, GridScrollBar::width, d->viewHeight);
     setProperty(scrollBarProperty, reinterpret_cast<qulonglong>(bar));
     d->scrollBar = bar;
     connect(bar, &QScrollBar::valueChanged, this, [self = static_cast<QObject *>(this)](int value) {
@@ -375,7 +354,7 @@ void OlvGridLayout::fitParent()
     const QPointer<OlvGridLayout> self(this);
     resize(parent->width(), height());
     if (QScrollBar *bar = self ? scrollBar() : nullptr) {
-        bar->setGeometry(width() - barDistance, 0, GridScrollBar::width, d->viewHeight);
+        bar->setGeometry(d->placeOfBar(width()), 0, GridScrollBar::width, d->viewHeight);
     }
 }
 

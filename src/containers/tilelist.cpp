@@ -103,6 +103,16 @@ void TileList::setMargin(int margin)
     m_margin = margin;
 }
 
+bool TileList::isMirrored() const
+{
+    return m_isMirrored;
+}
+
+void TileList::setMirrored(bool isMirrored)
+{
+    m_isMirrored = isMirrored;
+}
+
 int TileList::arrange(const QPointer<QWidget> &grid) const
 {
     // Moving a widget may change the list; each addition to it causes its own reflow.
@@ -119,7 +129,8 @@ int TileList::arrange(const QPointer<QWidget> &grid) const
             continue;
         }
         flow = next(flow, widget->width(), m_margin);
-        const bool isMoved = moveTo(widget, QPoint(toPixels(flow.left), toPixels(flow.top)));
+        const qint64 x = m_isMirrored ? grid->width() - widget->width() - flow.left : flow.left;
+        const bool isMoved = moveTo(widget, QPoint(toPixels(x), toPixels(flow.top)));
         if (isMoved && !grid) {
             return 0;
         }

@@ -28,6 +28,10 @@ public:
     int margin() const;
     void setMargin(int margin);
 
+    /** Whether the rows begin at the right; false at first. */
+    bool isMirrored() const;
+    void setMirrored(bool isMirrored);
+
     /**
      * Moves the widgets into rows of the width of @p grid, and returns the height of its content.
      * Moving sends events, whose receivers may change the list and the margin, and may delete the
@@ -41,5 +45,6 @@ private:
     QList<QWidget *> m_widgets;
     uint m_departures = 0; // how many widgets have left the list so far
     bool m_retainsHidden = true;
+    bool m_isMirrored = false;
     int m_margin = 15;
 };

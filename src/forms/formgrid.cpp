@@ -3,6 +3,8 @@
 
 #include <OlvWidgets/containers.h>
 
+#include "containers/gridmirror_p.h"
+
 #include <QFocusEvent>
 #include <QKeyEvent>
 
@@ -61,11 +63,12 @@ QWidget *inNextRow(const OlvGridLayout *grid, const QWidget *tile, int step)
 QWidget *target(const OlvGridLayout *grid, QWidget *tile, int key)
 {
     const int index = grid->indexOf(tile);
+    const int toTheRight = GridMirror::isOn(grid) ? -1 : 1;
     switch (key) {
     case Qt::Key_Left:
-        return nextFrom(grid, index - 1, -1);
+        return nextFrom(grid, index - toTheRight, -toTheRight);
     case Qt::Key_Right:
-        return nextFrom(grid, index + 1, 1);
+        return nextFrom(grid, index + toTheRight, toTheRight);
     case Qt::Key_Up:
         return inNextRow(grid, tile, -1);
     case Qt::Key_Down:

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/mirroring_p.h"
 
+#include <OlvWidgets/containers.h>
 #include <OlvWidgets/input.h>
 #include <OlvWidgets/value.h>
 
+#include "containers/gridmirror_p.h"
 #include "forms/formmember_p.h"
 #include "input/inputlook_p.h"
 #include "value/knobmirror_p.h"
@@ -25,6 +27,9 @@ void mirror(const FormMember &member, bool isOn)
         break;
     case FormKind::Slider:
         KnobMirror::set(static_cast<OlvSlider *>(widget), isOn);
+        break;
+    case FormKind::Grid:
+        GridMirror::set(static_cast<OlvGridLayout *>(widget), isOn);
         break;
     default: // have nothing that stands on one side, or are laid out by Qt
         break;

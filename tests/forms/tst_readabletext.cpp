@@ -15,7 +15,7 @@
 namespace {
 
 constexpr double readable = 4.5;
-constexpr int randomPalettes = 40;
+constexpr int randomPalettes = 20;
 
 /** Plain areas, so that pixels have the colour of the text and not one on its way to the ground. */
 QString blocks()

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <OlvWidgets/containers.h>
+
+#include "containers/gridscrollbar_p.h"
+#include "containers/tilelist_p.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QString>
+
+/** The widgets of a grid, and its parts. */
+class OlvGridLayout::Private
+{
+public:
+    /** Null once an application has deleted it. */
+    QLabel *label() const
+    {
+        return qobject_cast<QLabel *>(emptyLabel.data());
+    }
+
+    /** Where the scroll bar stands in the viewport of a grid of @p width. */
+    int placeOfBar(int width) const
+    {
+        return tiles.isMirrored() ? barDistance - GridScrollBar::width : width - barDistance;
+    }
+
+    int spacing = 20;
+    TileList tiles;
+    QPointer<QObject> emptyLabel;
+    QString emptyText; // as the grid has set it
+    QPointer<QObject> scrollBar;
+    QPointer<QObject> resizeTimer;
+    int viewHeight = 0;
+
+private:
+    static constexpr int barDistance = 13;
+};

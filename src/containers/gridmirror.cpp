@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "containers/gridmirror_p.h"
+
+#include "containers/gridlayout_p.h"
+#include "support/pixels_p.h"
+
+#include <QScrollBar>
+#include <QVector>
+
+void GridMirror::set(OlvGridLayout *grid, bool isOn)
+{
+    TileList &tiles = grid->d->tiles;
+    if (tiles.isMirrored() == isOn) {
+        return;
+    }
+    tiles.setMirrored(isOn);
+    QVector<QPointer<QWidget>> moved; // a widget may be in the list twice
+    for (QWidget *tile : tiles.all()) {
+        if (!moved.contains(tile)) {
+            moved.append(tile);
+        }
+    }
+    if (QScrollBar *bar = grid->scrollBar()) {
+        moved.append(bar);
+    }
+    const int width = grid->width();
+    // moving sends events, whose receivers may delete the grid and the widgets
+    for (const QPointer<QWidget> &widget : qAsConst(moved)) {
+        if (widget) {
+            widget->move(toPixels(qint64(width) - widget->width() - widget->x()), widget->y());
+        }
+    }
+}
+
+bool GridMirror::isOn(const OlvGridLayout *grid)
+{
+    return grid->d->tiles.isMirrored();
+}
