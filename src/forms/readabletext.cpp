@@ -45,15 +45,18 @@ bool hasOwn(const QPalette &palette, QPalette::ColorRole role)
     return (palette.resolve() & bitOf(role)) != 0;
 }
 
+std::array<QRgb, 3> colorsOf(const QPalette &palette, QPalette::ColorRole role)
+{
+    return { palette.color(QPalette::Active, role).rgba(),
+             palette.color(QPalette::Inactive, role).rgba(),
+             palette.color(QPalette::Disabled, role).rgba() };
+}
+
 TextColors::Colors colorsOf(const QPalette &palette)
 {
     TextColors::Colors colors;
-    auto color = colors.begin();
-    for (const QPalette::ColorRole role : TextColors::roles) {
-        for (const QPalette::ColorGroup group : groups) {
-            *color++ = palette.color(group, role).rgba();
-        }
-    }
+    std::transform(std::begin(TextColors::roles), std::end(TextColors::roles), colors.begin(),
+                   [&](QPalette::ColorRole role) { return colorsOf(palette, role); });
     return colors;
 }
 
@@ -72,15 +75,11 @@ void copyRole(QPalette *to, const QPalette &from, QPalette::ColorRole role)
 /** The roles of a palette that are not those that have been given. */
 QPalette ownOf(const QPalette &palette, const TextColors *colors)
 {
-    const TextColors::Colors now = colorsOf(palette);
     QPalette own = colors ? colors->own : QPalette();
-    for (int i = 0; i < TextColors::roleCount; ++i) {
+    for (std::size_t i = 0; i < TextColors::roleCount; ++i) {
         const QPalette::ColorRole role = TextColors::roles[i];
-        const auto first = [=](const TextColors::Colors &all) {
-            return all.cbegin() + 3 * i;
-        };
-        const bool isGiven = colors && hasOwn(palette, role)
-            && std::equal(first(now), first(now) + 3, first(colors->given));
+        const bool isGiven =
+            colors && hasOwn(palette, role) && colorsOf(palette, role) == colors->given.at(i);
         if (!isGiven && (hasOwn(palette, role) || hasOwn(own, role))) {
             copyRole(&own, palette, role);
         }
@@ -92,14 +91,14 @@ QPalette ownOf(const QPalette &palette, const TextColors *colors)
 std::shared_ptr<const TextColors> shared(const TextColors &colors)
 {
     static std::weak_ptr<const TextColors> latest;
-    const std::shared_ptr<const TextColors> same = latest.lock();
+    std::shared_ptr<const TextColors> same = latest.lock();
     if (same && same->given == colors.given && same->own == colors.own
         && same->own.resolve() == colors.own.resolve()) {
         return same;
     }
-    const auto result = std::make_shared<const TextColors>(colors);
-    latest = result;
-    return result;
+    same = std::make_shared<const TextColors>(colors);
+    latest = same;
+    return same;
 }
 
 /** A colour of text that may be meant for a dark ground: there, a light one takes its place. */
@@ -296,7 +295,7 @@ void ReadableText::take(FormMember &member)
 
 bool ReadableText::isRestored(const FormMember &member, const QLineEdit *text)
 {
-    const QPalette palette = text->palette();
+    const QPalette &palette = text->palette();
     // some of its own roles may come from a style sheet that is no more
     return member.colors && !hasSheet(palette)
         && std::all_of(std::begin(TextColors::roles), std::end(TextColors::roles),

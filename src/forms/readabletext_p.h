@@ -20,9 +20,9 @@ struct TextColors
     // placeholders are drawn in the colour of the text, half translucent
     static constexpr QPalette::ColorRole roles[] = { QPalette::Text, QPalette::HighlightedText };
 #endif
-    static constexpr int roleCount = sizeof roles / sizeof *roles;
-    /** The colours of the roles, in each of the three groups of a palette. */
-    using Colors = std::array<QRgb, 3 * roleCount>;
+    static constexpr std::size_t roleCount = sizeof roles / sizeof *roles;
+    /** The colours of the roles, each in the three groups of a palette. */
+    using Colors = std::array<std::array<QRgb, 3>, roleCount>;
 
     Colors given{};
     /** What the application had set, or the style from a style sheet of the application's. */

@@ -345,14 +345,12 @@ void TestReadableTextMembers::standsADeletion()
     deleter.victim = victims.value(victim);
     deleter.isArmed = true;
     form.name->lineEdit()->installEventFilter(&deleter);
-    if (isGiven) {
-        support->setFeatures(OlvFormSupport::AllFeatures);
+    if (cause == QLatin1String("palette")) {
+        QApplication::setPalette(withText(Qt::yellow));
     } else if (cause == QLatin1String("taken")) {
         support->setFeatures({});
-    } else if (cause == QLatin1String("disabled")) {
-        support->setFeatures(OlvFormSupport::AllFeatures); // is to be faded from now on
     } else {
-        QApplication::setPalette(withText(Qt::yellow));
+        support->setFeatures(OlvFormSupport::AllFeatures); // is to be faded from now on
     }
     QVERIFY(!deleter.isArmed);
     QVERIFY(!deleter.victim);
