@@ -37,8 +37,8 @@ PortalShortcut portalShortcut(const ShortcutCombination &combination)
 void warn(const QStringList &ids, const QString &reason)
 {
     if (!ids.isEmpty()) {
-        qCWarning(lcShortcuts).noquote().nospace()
-            << "No shortcuts " << ids.join(QStringLiteral(", ")) << ": " << reason;
+        qCWarning(lcShortcuts, "No shortcuts %s: %s",
+                  qUtf8Printable(ids.join(QStringLiteral(", "))), qUtf8Printable(reason));
     }
 }
 
