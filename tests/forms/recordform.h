@@ -17,8 +17,8 @@
 
 /** A table with a column for each kind of widget and three records, the last one of nulls. */
 constexpr const char *recordStatements[] = {
-    "CREATE TABLE people (id INTEGER PRIMARY KEY, name TEXT, notify BOOLEAN, volume INTEGER, "
-    "tile INTEGER, rest)",
+    ("CREATE TABLE people (id INTEGER PRIMARY KEY, name TEXT, notify BOOLEAN, volume INTEGER, "
+     "tile INTEGER, rest)"),
     "INSERT INTO people VALUES (1, 'Ann', 1, 30, 0, 'first')",
     "INSERT INTO people VALUES (2, 'Bob', 0, 70, 1, 'second')",
     "INSERT INTO people VALUES (3, NULL, NULL, NULL, NULL, NULL)",

@@ -60,7 +60,8 @@ public:
     {
         resize(300, 260);
         int y = 10;
-        for (QWidget *field : fields()) {
+        const QVector<QWidget *> all = fields();
+        for (QWidget *field : all) {
             field->setGeometry(10, y, 260, 32);
             y += 40;
         }
@@ -239,7 +240,8 @@ void TestReadableText::isSeenWhenDisabled()
         QVERIFY(fields.showActive());
         const double enabled = fields.contrastOfText(fields.text);
         const double enabledShortcut = fields.contrastOfShortcut();
-        for (QWidget *field : fields.fields()) {
+        const QVector<QWidget *> all = fields.fields();
+        for (QWidget *field : all) {
             field->setEnabled(false);
         }
         const double text = fields.contrastOfText(fields.text);
@@ -251,7 +253,7 @@ void TestReadableText::isSeenWhenDisabled()
                  qPrintable(QString::number(shortcut)));
         const double glyph = fields.contrastOfGlyph();
         QVERIFY2(glyph >= 1.7 && glyph < readable, qPrintable(QString::number(glyph)));
-        for (QWidget *field : fields.fields()) {
+        for (QWidget *field : all) {
             field->setEnabled(true);
         }
         QCOMPARE(fields.contrastOfText(fields.text), enabled);

@@ -37,7 +37,10 @@ inline QVector<QRgb> colors(const QImage &image)
             ++counts[image.pixel(x, y)];
         }
     }
-    QVector<QRgb> all = counts.keys().toVector();
+    QVector<QRgb> all;
+    for (auto one = counts.cbegin(); one != counts.cend(); ++one) {
+        all.append(one.key());
+    }
     std::sort(all.begin(), all.end(), [&](QRgb a, QRgb b) {
         return counts.value(a) != counts.value(b) ? counts.value(a) > counts.value(b) : a < b;
     });
