@@ -12,7 +12,7 @@ class QEvent;
 /**
  * What a support gives its members.
  *
- * Giving and taking send events: what hears of one may delete the member, others, or the support
+ * Giving and taking send events: their receivers may delete the member, others, or the support
  * and this with it.
  */
 class FormFeatures

@@ -195,7 +195,7 @@ void fitText(FormMember &member, QLineEdit *text, bool fades)
 {
     const QPalette before = text->palette();
     if (!hasSheet(before) && !text->testAttribute(Qt::WA_WState_Polished)) {
-        return; // the style sheet has not taken hold yet
+        return; // Qt has not applied the style sheet yet
     }
     const QPalette own = ownOf(before, member.colors.get());
     // what Qt gives a widget that has a style sheet: nothing of the widgets around it
@@ -205,7 +205,7 @@ void fitText(FormMember &member, QLineEdit *text, bool fades)
     const QPalette after = readable(natural, fades);
     if (after != before) {
         member.colors = shared({ colorsOf(after), own });
-        text->setPalette(after); // what hears of it may delete the member
+        text->setPalette(after); // a receiver of its events may delete the member
     }
 }
 

@@ -32,21 +32,21 @@ struct TextColors
 /**
  * Texts that are seen well on the white ground of the fields, whatever the palette is.
  *
- * The text of a line edit is given colours in its palette. Qt's style sheets note the palette of a
- * widget when they take hold of it and restore that when they take hold anew. Nothing must be set
- * in between, or it is noted and comes back when the form support has gone.
+ * The text of a line edit is given colours in its palette. When Qt applies a style sheet, it stores
+ * the palette that the widget has; when it applies one again, it restores that first. A colour that
+ * is set in between would be stored, and would come back after the form support was deleted.
  */
 namespace ReadableText {
 
 /** Makes the texts of a member readable, which may be disabled, and is faded then or not. */
 void fit(FormMember &member, bool fades);
-/** Whether they may have to be made readable anew after @p event, which came to a member. */
+/** Whether they may have to be made readable again after @p event, which came to a member. */
 bool mayChange(const QEvent *event);
 /** Restores the colours. */
 void take(FormMember &member);
 /**
- * Whether the new palette of @p text is one that a style sheet has restored, perhaps to take hold
- * anew: the colours are to be given later.
+ * Whether the new palette of @p text is the one that Qt restores before it applies a style sheet
+ * again: the colours are to be given later.
  */
 bool isRestored(const FormMember &member, const QLineEdit *text);
 

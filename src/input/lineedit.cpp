@@ -263,7 +263,7 @@ void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)
     }
     mirror.isOn = isOn;
     const Mirror otherSide{ true, mirror.width };
-    // what hears of a new place may delete the line and its parts
+    // moving sends events, whose receivers may delete the line and its parts
     const QPointer<OlvLineEdit> self(edit);
     const QPointer<QWidget> parts[] = { edit->d->editor(), edit->d->pwdButton() };
     for (const QPointer<QWidget> &part : parts) {

@@ -49,7 +49,7 @@ void SliderRound::setMaxX(int maxX)
     if (d->slider) {
         d->mirror.width = d->slider->width();
     }
-    // a mirrored one would come away from the end that it counts from
+    // a mirrored knob is placed from the right end, which a resize moves
     if (d->mirror.isOn || (d->follows && !d->pressed)) {
         placeAt(qMax(0, d->progress));
     }

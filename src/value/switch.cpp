@@ -179,7 +179,7 @@ void OlvSwitch::fitKnob()
     }
     const bool isMirrored = self && round && round->d->mirror.isOn;
     if (isMirrored && isSliding(this)) {
-        // as far from its end, which has moved, as the steps so far have brought it
+        // the resize moves the end that a mirrored knob is placed from
         round->move(round->d->mirror.placed(placeOnTheWay(this), round->width()), 0);
     } else if (self && round && (round->d->staysAtEnd || isMirrored) && !isSliding(this)) {
         moveKnobToEnd(property(ValueProperties::switchIsOn).toBool());
