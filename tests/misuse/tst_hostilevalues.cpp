@@ -51,6 +51,8 @@ public:
     /** Has the widget and all that is in it read what they keep in their properties. */
     void use()
     {
+        // painted first, since a resize works out some of the properties anew
+        QVERIFY(!m_window.grab().isNull());
         m_widget->resize(m_widget->size() + QSize(7, 5));
         QVector<QPointer<QObject>> receivers;
         const QObjectList all = objects();
