@@ -36,7 +36,11 @@ volatile quint64 currentEvent = 0;
 quint64 warnings = 0;
 
 /** The types of the events that are being delivered, the outermost first. */
-QVector<QEvent::Type> deliveredTypes;
+QVector<QEvent::Type> &deliveredTypes()
+{
+    static QVector<QEvent::Type> types;
+    return types;
+}
 
 /** Takes down which events are being delivered. */
 class StormApplication : public QApplication
@@ -46,9 +50,9 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override
     {
-        deliveredTypes.append(event->type());
+        deliveredTypes().append(event->type());
         const bool isHandled = QApplication::notify(receiver, event);
-        deliveredTypes.removeLast();
+        deliveredTypes().removeLast();
         return isHandled;
     }
 };
@@ -180,7 +184,8 @@ void Storm::check(bool holds, const char *rule)
 
 bool Storm::isDelivering(const QSet<QEvent::Type> &types)
 {
-    return std::any_of(deliveredTypes.cbegin(), deliveredTypes.cend(),
+    const QVector<QEvent::Type> &delivered = deliveredTypes();
+    return std::any_of(delivered.cbegin(), delivered.cend(),
                        [&](QEvent::Type type) { return types.contains(type); });
 }
 
