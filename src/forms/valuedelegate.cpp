@@ -160,6 +160,9 @@ public:
 
 private:
     OlvValueDelegate *q;
+    /** Ends the connections to the editors with this, since the delegate's destroyed() comes after
+     * it, and a slot there may delete an editor. */
+    QObject context;
 };
 
 OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *widget)
@@ -168,14 +171,16 @@ OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *w
     if (found != editors.end()) {
         return *found;
     }
-    QObject::connect(widget, &QObject::destroyed, q, [this, widget] { editors.remove(widget); });
-    QObject::connect(widget, &OlvWidget::valueChanged, q, [this, widget] { commit(widget); });
+    QObject::connect(widget, &QObject::destroyed, &context,
+                     [this, widget] { editors.remove(widget); });
+    QObject::connect(widget, &OlvWidget::valueChanged, &context,
+                     [this, widget] { commit(widget); });
     // again, in case the mapper was told of the delegate after the widget: Qt takes it once
     widget->installEventFilter(q);
     if (const auto *line = qobject_cast<OlvLineEdit *>(widget)) {
         if (QLineEdit *text = line->lineEdit()) {
             text->installEventFilter(q);
-            QObject::connect(text, &QLineEdit::editingFinished, q,
+            QObject::connect(text, &QLineEdit::editingFinished, &context,
                              [this, widget] { commit(widget); });
         }
     }

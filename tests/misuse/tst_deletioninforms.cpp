@@ -118,6 +118,26 @@ void toClose(QWidget *sender, const Slot &slot)
     QObject::connect(mapper->itemDelegate(), &QAbstractItemDelegate::closeEditor, sender, slot);
 }
 
+/** A widget with a delegate that has no parent, so that no other victim deletes it, too. */
+template <typename Widget> QWidget *makeDelegated(QWidget *parent)
+{
+    QWidget *widget = makeMapped<Widget>(parent);
+    auto *mapper = amongChildrenOf<QDataWidgetMapper>(parent->window());
+    mapper->itemDelegate()->setParent(nullptr);
+    return widget;
+}
+
+void toEndOfDelegate(QWidget *sender, const Slot &slot)
+{
+    auto *mapper = amongChildrenOf<QDataWidgetMapper>(sender->window());
+    QObject::connect(mapper->itemDelegate(), &QObject::destroyed, sender, slot);
+}
+
+void deleteDelegate(QWidget *sender)
+{
+    delete amongChildrenOf<QDataWidgetMapper>(sender->window())->itemDelegate();
+}
+
 QVector<Emission> dataEmissions()
 {
     return {
@@ -141,6 +161,17 @@ QVector<Emission> dataEmissions()
           byKey(Qt::Key_Return), support() },
         { "OlvValueDelegate::commitData, Tab in OlvSwitch", makeMapped<OlvSwitch>, toCommit,
           byKey(Qt::Key_Tab), support() },
+        // no helper, after which the same would be done again: the delegate has gone
+        { "OlvValueDelegate::destroyed, with OlvSwitch",
+          makeDelegated<OlvSwitch>,
+          toEndOfDelegate,
+          deleteDelegate,
+          {} },
+        { "OlvValueDelegate::destroyed, with OlvLineEdit",
+          makeDelegated<OlvLineEdit>,
+          toEndOfDelegate,
+          deleteDelegate,
+          {} },
     };
 }
 
