@@ -243,7 +243,8 @@ void OlvValueDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     const QVariant value = index.data(Qt::EditRole);
     const auto *toggle = qobject_cast<OlvSwitch *>(widget);
     if (toggle && adopted.record == index && toggle->isChecked() == toBool(value)) {
-        return; // it slides there: the record has just been told of it
+        adopted.shown = toggle->isChecked();
+        return; // it may slide there, and is left to do so
     }
     adopted.record = index;
     const bool wasLoading = std::exchange(adopted.isLoading, true);
@@ -301,6 +302,11 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonRelease:
         if (isKnob) {
             d->editors[editor].isDragged = false;
+            d->commit(editor);
+        }
+        break;
+    case QEvent::Hide: // a hidden knob gets no release
+        if (isKnob && std::exchange(d->editors[editor].isDragged, false)) {
             d->commit(editor);
         }
         break;

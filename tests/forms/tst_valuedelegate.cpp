@@ -39,6 +39,7 @@ private Q_SLOTS:
     void showsTheRecordAnewOnEscape();
     void submitsWhatTheApplicationSets();
     void submitsASliderOnceItsDragHasEnded();
+    void submitsASliderThatIsHiddenDuringADrag();
     void standsADeletionWhileItStores_data();
     void standsADeletionWhileItStores();
 
@@ -284,6 +285,21 @@ void TestValueDelegate::submitsASliderOnceItsDragHasEnded()
     }
     Mouse::release(knob);
     QCOMPARE(RecordDatabase::stored(0, VolumeColumn), QVariant(100));
+}
+
+void TestValueDelegate::submitsASliderThatIsHiddenDuringADrag()
+{
+    RecordForm form;
+    form.show();
+    SliderRound *knob = knobOf(*form.volume);
+    Mouse::press(knob, { 10, 10 });
+    Mouse::move(knob, { 1000, 10 });
+    QCOMPARE(RecordDatabase::stored(0, VolumeColumn), QVariant(30));
+    form.volume->hide();
+    QCOMPARE(RecordDatabase::stored(0, VolumeColumn), QVariant(100));
+    form.volume->show();
+    form.volume->setSliderPosition(45); // as a key does
+    QCOMPARE(RecordDatabase::stored(0, VolumeColumn), QVariant(45));
 }
 
 void TestValueDelegate::standsADeletionWhileItStores_data()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void keepsTheTypeOfAColumn_data();
     void keepsTheTypeOfAColumn();
     void triesAgainWhatTheModelRefused();
+    void writesASwitchBackAfterTheModelCameToEqualIt();
     void showsAShortcutThatCannotBeHadAsNone();
     void editsCellsOfViews();
     void forgetsEditorsThatHaveGone();
@@ -134,6 +135,24 @@ void TestValueEditors::triesAgainWhatTheModelRefused()
     model.takes = true;
     QTest::keyClick(line.lineEdit(), Qt::Key_Return);
     QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("new")));
+}
+
+void TestValueEditors::writesASwitchBackAfterTheModelCameToEqualIt()
+{
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), false, Qt::EditRole);
+    OlvSwitch toggle;
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
+    mapper.addMapping(&toggle, 0);
+    mapper.toFirst();
+    toggle.setChecked(true);
+    model.setData(model.index(0, 0), true, Qt::EditRole);
+    toggle.setChecked(false);
+    QVERIFY(mapper.submit());
+    QCOMPARE(model.index(0, 0).data(Qt::EditRole), QVariant(false));
 }
 
 void TestValueEditors::showsAShortcutThatCannotBeHadAsNone()
