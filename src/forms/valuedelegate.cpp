@@ -5,6 +5,7 @@
 
 #include "value/valueproperties_p.h"
 
+#include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QHash>
 #include <QKeySequence>
@@ -132,6 +133,40 @@ bool isOfValue(const QByteArray &property)
 {
     return property == "value" || property == ValueProperties::sliderProgress
         || property == ValueProperties::switchIsOn || property == ValueProperties::switchTimerId;
+}
+
+/** The types of events that QStyledItemDelegate may consume, or close an editor at. */
+bool isHandledByQt(QEvent::Type type)
+{
+    return type == QEvent::KeyPress || type == QEvent::ShortcutOverride || type == QEvent::FocusOut
+        || type == QEvent::Hide;
+}
+
+/** Sent to an editor to see whether a delegate is still an event filter of it. */
+class FilterProbe : public QEvent
+{
+public:
+    const QObject *const filter;
+    bool isHeard = false;
+
+    explicit FilterProbe(const QObject *wanted)
+        : QEvent(probeType())
+        , filter(wanted)
+    { }
+
+    static Type probeType()
+    {
+        static const auto type = Type(registerEventType());
+        return type;
+    }
+};
+
+/** A mapper that no longer maps a widget takes the delegate from it, but from no part of it. */
+bool isFilterOf(const QObject *filter, QObject *widget)
+{
+    FilterProbe probe(filter);
+    QCoreApplication::sendEvent(widget, &probe);
+    return probe.isHeard;
 }
 
 } // namespace
@@ -283,6 +318,11 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
 
 bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == FilterProbe::probeType()) {
+        auto *probe = static_cast<FilterProbe *>(event);
+        probe->isHeard = probe->isHeard || probe->filter == this;
+        return probe->isHeard;
+    }
     const QPointer<QObject> receiver(watched);
     const auto handleAsQt = [&](QObject *widget) {
         const bool isConsumed = QStyledItemDelegate::eventFilter(widget, event);
@@ -325,8 +365,10 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
     default:
         break;
     }
-    if (!self || !guarded) {
+    if (!self || !guarded || isKnob) {
         return !receiver;
     }
-    return !isKnob && handleAsQt(editor);
+    const bool isServed =
+        watched == editor || (isHandledByQt(event->type()) && isFilterOf(this, editor));
+    return isServed && self && guarded ? handleAsQt(editor) : !receiver;
 }

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDataWidgetMapper>
+#include <QDialog>
 #include <QItemEditorFactory>
 #include <QLineEdit>
 #include <QPointer>
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void showsAShortcutThatCannotBeHadAsNone();
     void editsCellsOfViews();
     void forgetsEditorsThatHaveGone();
+    void leavesTheKeysToALineThatIsNoLongerMapped_data();
+    void leavesTheKeysToALineThatIsNoLongerMapped();
 };
 
 void TestValueEditors::writesNothingThatNobodyChanged_data()
@@ -243,6 +246,57 @@ void TestValueEditors::forgetsEditorsThatHaveGone()
     mapper.revert();
     QVERIFY(mapper.submit());
     QCOMPARE(model.index(0, 0).data(Qt::EditRole), QVariant(true));
+}
+
+void TestValueEditors::leavesTheKeysToALineThatIsNoLongerMapped_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::newRow("removeMapping") << false;
+    QTest::newRow("clearMapping") << true;
+}
+
+void TestValueEditors::leavesTheKeysToALineThatIsNoLongerMapped()
+{
+    QFETCH(bool, all);
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), QStringLiteral("stored"));
+    QDialog dialog;
+    OlvLineEdit line(&dialog);
+    QLineEdit next(&dialog);
+    QDataWidgetMapper mapper;
+    mapper.setModel(&model);
+    mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+    mapper.addMapping(&line, 0);
+    mapper.toFirst();
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    QLineEdit *text = line.lineEdit();
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("x"));
+    QTest::keyClick(text, Qt::Key_Escape);
+    QCOMPARE(text->text(), QStringLiteral("stored"));
+    QVERIFY(dialog.isVisible());
+
+    if (all) {
+        mapper.clearMapping();
+    } else {
+        mapper.removeMapping(&line);
+    }
+    QTest::keyClick(text, Qt::Key_Tab);
+    QVERIFY(!text->hasFocus());
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("x"));
+    QTest::keyClick(text, Qt::Key_Escape);
+    QCOMPARE(text->text(), QStringLiteral("storedx"));
+    QVERIFY(!dialog.isVisible());
+
+    mapper.addMapping(&line, 0);
+    mapper.toFirst();
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_Escape);
+    QVERIFY(dialog.isVisible());
 }
 
 QTEST_MAIN(TestValueEditors)
