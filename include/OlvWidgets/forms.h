@@ -181,6 +181,9 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  * | OlvShortcutEdit | the text of a shortcut that can be had   | no shortcut                      |
  * | others          | what their setValue() takes              | setValue() of an invalid value   |
  *
+ * A widget that does not show its record yet, since it was mapped after the mapper had moved there,
+ * writes nothing until its value changes, or in an OlvLineEdit until the user types.
+ *
  * In the cell of a view an editor gets the focus, fills its background, and is closed as others
  * are. Which widget edits which type is told to QItemEditorFactory, by QStandardItemEditorCreator.
  */

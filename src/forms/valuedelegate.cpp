@@ -3,130 +3,18 @@
 #include <OlvWidgets/input.h>
 #include <OlvWidgets/value.h>
 
+#include "forms/editorvalue_p.h"
 #include "value/valueproperties_p.h"
 
 #include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QHash>
-#include <QKeySequence>
 #include <QLineEdit>
 #include <QPointer>
-#include <QtMath>
 
 #include <utility>
 
 namespace {
-
-constexpr int fullProgress = 100;
-
-/** Whether a text says yes or no: QVariant takes every other one for yes, too. */
-bool isTruth(const QString &text)
-{
-    bool isNumber = false;
-    text.toDouble(&isNumber);
-    return isNumber || text == QLatin1String("true") || text == QLatin1String("false");
-}
-
-bool toBool(const QVariant &value)
-{
-    const bool isText =
-        value.userType() == QMetaType::QString || value.userType() == QMetaType::QByteArray;
-    return (!isText || isTruth(value.toString())) && value.toBool();
-}
-
-int toPercent(const QVariant &value)
-{
-    bool isNumber = false;
-    const double number = value.toDouble(&isNumber);
-    return isNumber && !qIsNaN(number) ? qRound(qBound(0.0, number, double(fullProgress))) : 0;
-}
-
-/** The shortcut that a text names; null where it names none, or more than one combination. */
-OlvShortcut *shortcutOf(const QString &text)
-{
-    const QKeySequence sequence = QKeySequence::fromString(text, QKeySequence::NativeText);
-    if (sequence.count() != 1 || sequence[0] == Qt::Key_unknown) {
-        return nullptr;
-    }
-    const auto has = [&](Qt::KeyboardModifier modifier) {
-        return (sequence[0] & modifier) != 0;
-    };
-    return new OlvShortcut(Qt::Key(sequence[0] & ~int(Qt::KeyboardModifierMask)),
-                           has(Qt::ControlModifier), has(Qt::ShiftModifier), has(Qt::AltModifier),
-                           has(Qt::MetaModifier));
-}
-
-/** What the user has chosen; invalid where there is nothing to store. */
-QVariant chosenValue(OlvWidget *editor)
-{
-    if (const auto *toggle = qobject_cast<OlvSwitch *>(editor)) {
-        return toggle->isChecked();
-    }
-    if (auto *shortcut = qobject_cast<OlvShortcutEdit *>(editor)) {
-        return shortcut->shortcut() ? shortcut->getValue() : QVariant();
-    }
-    return editor->getValue();
-}
-
-void show(OlvShortcutEdit *editor, const QVariant &value)
-{
-    const QString text = value.toString();
-    const OlvShortcut *held = editor->shortcut();
-    if (held && editor->getValue().toString() == text) {
-        return;
-    }
-    const QPointer<OlvShortcutEdit> guarded(editor);
-    editor->clear();
-    if (!guarded) {
-        return;
-    }
-    if (OlvShortcut *shortcut = shortcutOf(text)) {
-        editor->setShortcut(shortcut);
-    }
-    if (guarded) {
-        editor->update();
-    }
-}
-
-void show(OlvLineEdit *editor, const QVariant &value)
-{
-    const QString text = value.toString();
-    if (editor->getText() != text) { // setting it again would move the cursor
-        editor->setText(text);
-    }
-}
-
-/** Shows @p value at once, what is null or of another kind as off, 0 or empty. */
-void show(OlvWidget *editor, const QVariant &value)
-{
-    if (auto *toggle = qobject_cast<OlvSwitch *>(editor)) {
-        toggle->setChecked(toBool(value));
-    } else if (auto *slider = qobject_cast<OlvSlider *>(editor)) {
-        slider->setSliderPosition(toPercent(value));
-    } else if (auto *shortcut = qobject_cast<OlvShortcutEdit *>(editor)) {
-        show(shortcut, value);
-    } else if (auto *line = qobject_cast<OlvLineEdit *>(editor)) {
-        show(line, value);
-    } else {
-        editor->setValue(value.isNull() ? QVariant() : value);
-    }
-}
-
-/** @p value in the type of what it replaces, so that a column keeps its type. */
-QVariant converted(const QVariant &value, const QVariant &replaced)
-{
-    // A text that is neither yes nor no equals true to QVariant, and so to QSqlTableModel, which
-    // would leave it; a number in its place is written.
-    const bool isOtherText = replaced.userType() == QMetaType::QString
-        && value.userType() != QMetaType::QString && !isTruth(replaced.toString());
-    if (isOtherText) {
-        return value.userType() == QMetaType::Bool ? QVariant(value.toInt()) : value;
-    }
-    QVariant result = value;
-    const bool isConverted = !replaced.isNull() && result.canConvert(replaced.userType())
-        && result.convert(replaced.userType());
-    return isConverted ? result : value;
-}
 
 /** The properties that change with the value, or with the start of a slide towards it. */
 bool isOfValue(const QByteArray &property)
@@ -178,6 +66,8 @@ public:
     {
         QVariant shown; ///< the value as it was when the record was shown or stored last
         QPersistentModelIndex record;
+        bool isServed = false;  ///< what the user does in it is submitted
+        bool isChanged = false; ///< since its record was shown or stored, or since it is known
         bool isLoading = false;
         bool isDragged = false;
     };
@@ -186,6 +76,9 @@ public:
         : q(delegate)
     { }
 
+    /** Takes note of changes in @p widget from now on; submits none of them. */
+    Editor &know(OlvWidget *widget);
+    /** Submits what is done in @p widget from now on. */
     Editor &adopt(OlvWidget *widget);
     /** The editor that @p part is, or is a part of; null for every other object. */
     OlvWidget *editorOf(QObject *part) const;
@@ -200,7 +93,7 @@ private:
     QObject context;
 };
 
-OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *widget)
+OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::know(OlvWidget *widget)
 {
     const auto found = editors.find(widget);
     if (found != editors.end()) {
@@ -208,13 +101,27 @@ OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *w
     }
     QObject::connect(widget, &QObject::destroyed, &context,
                      [this, widget] { editors.remove(widget); });
-    QObject::connect(widget, &OlvWidget::valueChanged, &context,
-                     [this, widget] { commit(widget); });
+    QObject::connect(widget, &OlvWidget::valueChanged, &context, [this, widget] {
+        know(widget).isChanged = true;
+        commit(widget);
+    });
+    return editors[widget];
+}
+
+OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *widget)
+{
+    Editor &editor = know(widget);
+    if (std::exchange(editor.isServed, true)) {
+        return editor;
+    }
     // again, in case the mapper was told of the delegate after the widget: Qt takes it once
     widget->installEventFilter(q);
     if (const auto *line = qobject_cast<OlvLineEdit *>(widget)) {
         if (QLineEdit *text = line->lineEdit()) {
+            editor.isChanged = editor.isChanged || text->isModified();
             text->installEventFilter(q);
+            QObject::connect(text, &QLineEdit::textEdited, &context,
+                             [this, widget] { know(widget).isChanged = true; });
             QObject::connect(text, &QLineEdit::editingFinished, &context,
                              [this, widget] { commit(widget); });
         }
@@ -224,19 +131,19 @@ OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *w
             child->installEventFilter(q);
         }
     }
-    return editors[widget];
+    return editor;
 }
 
 OlvWidget *OlvValueDelegate::Private::editorOf(QObject *part) const
 {
     QObject *editor = editors.contains(part) ? part : part->parent();
-    return editors.contains(editor) ? qobject_cast<OlvWidget *>(editor) : nullptr;
+    return editors.value(editor).isServed ? qobject_cast<OlvWidget *>(editor) : nullptr;
 }
 
 void OlvValueDelegate::Private::commit(OlvWidget *widget)
 {
     const auto editor = editors.constFind(widget);
-    if (editor == editors.cend() || editor->isLoading || editor->isDragged) {
+    if (editor == editors.cend() || !editor->isServed || editor->isLoading || editor->isDragged) {
         return;
     }
     Q_EMIT q->commitData(widget);
@@ -277,19 +184,21 @@ void OlvValueDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     Private::Editor &adopted = d->adopt(widget);
     const QVariant value = index.data(Qt::EditRole);
     const auto *toggle = qobject_cast<OlvSwitch *>(widget);
-    if (toggle && adopted.record == index && toggle->isChecked() == toBool(value)) {
+    if (toggle && adopted.record == index && toggle->isChecked() == EditorValue::toBool(value)) {
         adopted.shown = toggle->isChecked();
+        adopted.isChanged = false;
         return; // it may slide there, and is left to do so
     }
     adopted.record = index;
     const bool wasLoading = std::exchange(adopted.isLoading, true);
-    show(widget, value);
+    EditorValue::show(widget, value);
     if (!self || !guarded) {
         return;
     }
-    const QVariant shown = chosenValue(widget);
+    const QVariant shown = EditorValue::chosenValue(widget);
     Private::Editor &loaded = d->editors[widget];
     loaded.shown = shown;
+    loaded.isChanged = false;
     loaded.isLoading = wasLoading;
 }
 
@@ -301,18 +210,27 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
-    const QVariant value = chosenValue(widget);
-    const QVariant before = d->editors.value(widget).shown;
-    if (!value.isValid() || value == before) {
+    const QVariant value = EditorValue::chosenValue(widget);
+    Private::Editor &adopted = d->adopt(widget);
+    const Private::Editor before = adopted;
+    const bool isShown = before.record == index;
+    const bool isToBeWritten = isShown ? value != before.shown : before.isChanged;
+    if (!value.isValid() || !isToBeWritten) {
         return;
     }
     const QPointer<QObject> self(const_cast<OlvValueDelegate *>(this));
     const QPointer<OlvWidget> guarded(widget);
     // noted first: the model tells of the change, which shows the record again
-    d->adopt(widget).shown = value;
-    if (!model->setData(index, converted(value, index.data(Qt::EditRole)), Qt::EditRole) && self
-        && guarded) {
-        d->editors[widget].shown = before; // the next time tries again
+    adopted.shown = value;
+    adopted.record = index;
+    adopted.isChanged = false;
+    if (!model->setData(index, EditorValue::converted(value, index.data(Qt::EditRole)),
+                        Qt::EditRole)
+        && self && guarded) {
+        Private::Editor &refused = d->editors[widget]; // the next time tries again
+        refused.shown = before.shown;
+        refused.record = before.record;
+        refused.isChanged = before.isChanged;
     }
 }
 
@@ -329,7 +247,13 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
         return isConsumed || !receiver; // what has gone must not get the event any more
     };
     OlvWidget *editor = d->editorOf(watched);
+    const bool isChange = event->type() == QEvent::DynamicPropertyChange
+        && isOfValue(static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName());
     if (!editor) {
+        if (auto *unserved = qobject_cast<OlvWidget *>(watched)) {
+            Private::Editor &known = d->know(unserved);
+            known.isChanged = known.isChanged || isChange;
+        }
         return handleAsQt(watched);
     }
     const bool isKnob = watched != editor && dynamic_cast<SliderRound *>(watched);
@@ -351,8 +275,8 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::DynamicPropertyChange:
-        if (watched == editor
-            && isOfValue(static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName())) {
+        if (watched == editor && isChange) {
+            d->editors[editor].isChanged = true;
             d->commit(editor);
         }
         break;

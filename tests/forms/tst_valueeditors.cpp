@@ -29,6 +29,9 @@ private Q_SLOTS:
     void keepsTheTypeOfAColumn();
     void triesAgainWhatTheModelRefused();
     void writesASwitchBackAfterTheModelCameToEqualIt();
+    void writesNothingOverARecordThatItDoesNotShow();
+    void writesWhatTheUserDoesWhereNoRecordIsShown();
+    void writesNothingOfAnotherRecordOverOneThatItDoesNotShow();
     void showsAShortcutThatCannotBeHadAsNone();
     void editsCellsOfViews();
     void forgetsEditorsThatHaveGone();
@@ -156,6 +159,77 @@ void TestValueEditors::writesASwitchBackAfterTheModelCameToEqualIt()
     toggle.setChecked(false);
     QVERIFY(mapper.submit());
     QCOMPARE(model.index(0, 0).data(Qt::EditRole), QVariant(false));
+}
+
+/** Two widgets that are mapped after the mapper has moved to the record. */
+struct LateForm
+{
+    QStandardItemModel model{ 1, 3 };
+    QWidget window;
+    OlvLineEdit line{ &window };
+    OlvSwitch toggle{ &window };
+    OlvSlider slider{ &window };
+    QDataWidgetMapper mapper;
+
+    LateForm()
+    {
+        model.setData(model.index(0, 0), QStringLiteral("kept"));
+        model.setData(model.index(0, 1), true, Qt::EditRole);
+        model.setData(model.index(0, 2), 30, Qt::EditRole);
+        mapper.setModel(&model);
+        mapper.setItemDelegate(new OlvValueDelegate(&mapper));
+        mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
+        mapper.toFirst();
+        mapper.addMapping(&line, 0);
+        mapper.addMapping(&toggle, 1);
+        mapper.addMapping(&slider, 2);
+        window.show();
+    }
+    QVariant stored(int column) const
+    {
+        return model.index(0, column).data(Qt::EditRole);
+    }
+};
+
+void TestValueEditors::writesNothingOverARecordThatItDoesNotShow()
+{
+    LateForm form;
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(form.mapper.submit());
+        QCOMPARE(form.stored(0), QVariant(QStringLiteral("kept")));
+        QCOMPARE(form.stored(1), QVariant(true));
+        QCOMPARE(form.stored(2), QVariant(30));
+    }
+}
+
+void TestValueEditors::writesWhatTheUserDoesWhereNoRecordIsShown()
+{
+    LateForm form;
+    QTest::keyClicks(form.line.lineEdit(), QStringLiteral("typed"));
+    dragKnobToTheEnd(form.slider);
+    QVERIFY(form.mapper.submit());
+    QCOMPARE(form.stored(0), QVariant(QStringLiteral("typed")));
+    QCOMPARE(form.stored(1), QVariant(true));
+    QCOMPARE(form.stored(2), QVariant(100));
+
+    releaseMouse(form.toggle);
+    releaseMouse(form.toggle); // back to where it stood, which the record is not
+    QTRY_VERIFY(!form.toggle.isChecked());
+    QVERIFY(form.mapper.submit());
+    QCOMPARE(form.stored(1), QVariant(false));
+}
+
+void TestValueEditors::writesNothingOfAnotherRecordOverOneThatItDoesNotShow()
+{
+    LateForm form;
+    form.mapper.revert();
+    QTest::keyClicks(form.line.lineEdit(), QStringLiteral("typed"));
+    QVERIFY(form.mapper.submit());
+    QCOMPARE(form.stored(0), QVariant(QStringLiteral("kepttyped")));
+    form.mapper.removeMapping(&form.slider);
+    form.mapper.addMapping(&form.line, 2);
+    QVERIFY(form.mapper.submit());
+    QCOMPARE(form.stored(2), QVariant(30));
 }
 
 void TestValueEditors::showsAShortcutThatCannotBeHadAsNone()

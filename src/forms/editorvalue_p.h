@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QVariant>
+
+class OlvWidget;
+
+/** The values that OlvValueDelegate reads from its editors, shows in them and writes. */
+namespace EditorValue {
+
+/** As a switch shows @p value: a text that says neither yes nor no is false. */
+bool toBool(const QVariant &value);
+/** What the user has chosen; invalid where there is nothing to store. */
+QVariant chosenValue(OlvWidget *editor);
+/** Shows @p value at once, what is null or of another kind as off, 0 or empty. */
+void show(OlvWidget *editor, const QVariant &value);
+/** @p value in the type of what it replaces, so that a column keeps its type. */
+QVariant converted(const QVariant &value, const QVariant &replaced);
+
+} // namespace EditorValue
