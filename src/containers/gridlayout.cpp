@@ -53,6 +53,9 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
+    if (parent) {
+        d->viewHeight = parent->height();
+    }
     d->emptyText = emptyText();
     auto *label = new QLabel(d->emptyText, this);
     label->setFont(QFont(QStringLiteral("楷体"), emptyPointSize));
@@ -61,7 +64,6 @@ OlvGridLayout::OlvGridLayout(QWidget *parent)
     label->setStyleSheet(QStringLiteral("color: rgb(33, 33, 33);"));
     d->emptyLabel = label;
     if (parent) {
-        d->viewHeight = parent->height();
         parent->installEventFilter(this);
     }
     setProperty(subWindowProperty, isInWindow(parent));
@@ -136,7 +138,6 @@ QWidget *OlvGridLayout::takeWidget(QWidget *widget)
     if (!d->tiles.removeAll(widget)) {
         return nullptr;
     }
-    disconnect(widget, &QObject::destroyed, this, nullptr);
     const QPointer<OlvGridLayout> self(this);
     const QPointer<QWidget> taken(widget);
     if (widget->parentWidget() == this) {
@@ -152,7 +153,7 @@ void OlvGridLayout::clear()
 {
     const QPointer<OlvGridLayout> self(this);
     delWidget(d->tiles.all());
-    if (QScrollBar *bar = self ? scrollBar() : nullptr) {
+    if (QScrollBar *bar = self && count() == 0 ? scrollBar() : nullptr) {
         GridScrollBar::reset(bar);
     }
 }
@@ -193,8 +194,12 @@ void OlvGridLayout::ensureVisible(QWidget *widget)
     // a reflow that is due may move the widget, and its receivers may delete it
     const QPointer<QWidget> shown(widget);
     const QPointer<OlvGridLayout> self(this);
-    QCoreApplication::sendPostedEvents(this, QEvent::LayoutRequest);
-    QScrollBar *bar = self && shown && isAncestorOf(shown) ? scrollBar() : nullptr;
+    if (!d->tiles.retainsHidden()) {
+        reUi();
+    }
+    const bool isThere = self && shown && isAncestorOf(shown)
+        && (d->tiles.retainsHidden() || shown->isVisibleTo(this));
+    QScrollBar *bar = isThere ? scrollBar() : nullptr;
     if (!bar || d->viewHeight >= height()) {
         return;
     }
@@ -313,10 +318,11 @@ QScrollBar *OlvGridLayout::scrollBar() const
 void OlvGridLayout::makeScrollBar()
 {
     // a sibling of the grid, since a child would scroll along
-    auto *bar = GridScrollBar::make(parentWidget());
+    auto *bar = new QScrollBar(Qt::Vertical, parentWidget());
     bar->setGeometry(d->placeOfBar(width()), 0, GridScrollBar::width, d->viewHeight);
     setProperty(scrollBarProperty, reinterpret_cast<qulonglong>(bar));
     d->scrollBar = bar;
+    GridScrollBar::setUp(bar);
     connect(bar, &QScrollBar::valueChanged, this, [self = static_cast<QObject *>(this)](int value) {
         if (auto *grid = whole(self)) {
             grid->move(0, toPixels(-qint64(value) * GridScrollBar::pixelsPerUnit));
@@ -364,14 +370,15 @@ void OlvGridLayout::fitScrollBar()
     if (!bar) {
         return;
     }
-    if (d->viewHeight < height() && !d->tiles.isEmpty()) {
-        bar->setMaximum((height() - d->viewHeight) / GridScrollBar::pixelsPerUnit);
+    const bool retains = d->tiles.retainsHidden();
+    if (d->viewHeight < height() && (retains || !d->tiles.isEmpty())) {
+        bar->setMaximum(GridScrollBar::maximum(height() - d->viewHeight, !retains));
         if (bar) { // a slot of its signals may have deleted it
             bar->show();
         }
         return;
     }
-    if (d->tiles.retainsHidden()) {
+    if (retains) {
         bar->hide();
     } else {
         GridScrollBar::reset(bar);

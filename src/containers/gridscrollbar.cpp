@@ -19,9 +19,8 @@ int deltaOf(const QWheelEvent *event)
 
 } // namespace
 
-QScrollBar *GridScrollBar::make(QWidget *viewport)
+void GridScrollBar::setUp(QScrollBar *bar)
 {
-    auto *bar = new QScrollBar(Qt::Vertical, viewport);
     bar->setStyleSheet(
         QStringLiteral("QScrollBar{width:10px;background:rgba(0,0,0,10%);border-radius:5px}"
                        "QScrollBar::handle{background:rgba(0,0,0,25%);border-radius:5px}"
@@ -29,7 +28,6 @@ QScrollBar *GridScrollBar::make(QWidget *viewport)
                        "QScrollBar::add-line,QScrollBar::sub-line{border:none}"
                        "QScrollBar::sub-page,QScrollBar::add-page{background:rgba(0,0,0,0)}"));
     bar->hide();
-    return bar;
 }
 
 void GridScrollBar::reset(const QPointer<QScrollBar> &bar)
@@ -45,6 +43,11 @@ int GridScrollBar::valueAfter(const QWheelEvent *event, const QScrollBar *bar)
     const int units = deltaOf(event) < 0 ? unitsPerNotch : -unitsPerNotch;
     // an application may have set any range
     return int(qBound<qint64>(0, qint64(bar->value()) + units, bar->maximum()));
+}
+
+int GridScrollBar::maximum(int hiddenHeight, bool isRoundedUp)
+{
+    return (hiddenHeight + (isRoundedUp ? pixelsPerUnit - 1 : 0)) / pixelsPerUnit;
 }
 
 int GridScrollBar::valueShowing(qint64 top, qint64 bottom, int height, int value)

@@ -12,14 +12,20 @@ namespace GridScrollBar {
 constexpr int width = 10;
 constexpr int pixelsPerUnit = 25;
 
-/** A hidden bar in @p viewport, which owns it. */
-QScrollBar *make(QWidget *viewport);
+/** Gives @p bar its look, and hides it. */
+void setUp(QScrollBar *bar);
 
 /** Scrolls back to the start and hides the bar; a slot of its signals may delete it meanwhile. */
 void reset(const QPointer<QScrollBar> &bar);
 
 /** The value after a turn of the wheel. */
 int valueAfter(const QWheelEvent *event, const QScrollBar *bar);
+
+/**
+ * The units that show @p hiddenHeight pixels more than the view has: as many as go into them, or,
+ * rounded up, as many as reach the last pixel.
+ */
+int maximum(int hiddenHeight, bool isRoundedUp);
 
 /**
  * The value at which the pixels from @p top to @p bottom of the content are in a view of @p height:

@@ -8,7 +8,7 @@ struct FormMember;
 /** The look of disabled members, which draw themselves as enabled ones do. */
 namespace DisabledLook {
 
-/** How much is seen of one. */
+/** The opacity of a disabled member. */
 constexpr qreal opacity = 0.4;
 
 /**

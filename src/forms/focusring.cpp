@@ -87,7 +87,7 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
     default:
         break;
     }
-    return false; // the base class follows a widget of its own, which there is none of
+    return false; // QFocusFrame's filter follows the widget of setWidget(), which is not used here
 }
 
 void FocusRing::paintEvent(QPaintEvent * /*event*/)

@@ -164,6 +164,13 @@ void FormFeatures::fitTextsLater(const QPointer<QWidget> &widget)
         m_support, [=] { fitTexts(widget); }, Qt::QueuedConnection);
 }
 
+void FormFeatures::handleInOther(QWidget *widget, const QEvent *event)
+{
+    if (m_features.testFlag(Feature::Keyboard)) {
+        FormGrid::follow(widget, event);
+    }
+}
+
 void FormFeatures::handleInText(QWidget *edit, const QLineEdit *text, QEvent *event)
 {
     const Guard self(m_support);

@@ -31,6 +31,8 @@ public:
 
     /** Does what @p event asks for that came to a member; returns whether it is done with. */
     bool handle(QWidget *widget, FormKind kind, QEvent *event);
+    /** Does what @p event asks for that came to another widget in the form. */
+    void handleInOther(QWidget *widget, const QEvent *event);
     /** Does what @p event asks for that came to @p text, the text of a line edit. */
     void handleInText(QWidget *edit, const QLineEdit *text, QEvent *event);
     /** Fits the sizes of the members that are laid out in @p container. */

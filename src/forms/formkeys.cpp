@@ -205,7 +205,7 @@ bool FormKeys::pressKey(QWidget *widget, FormKind kind, const QKeyEvent &key)
         return FormGrid::moveFocus(widget, key)
             || pressKeyOfGlyph(static_cast<QPushButton *>(widget), key);
     case FormKind::Switch:
-        return pressKeyOfSwitch(widget, key);
+        return FormGrid::moveFocus(widget, key) || pressKeyOfSwitch(widget, key);
     case FormKind::Slider:
         return pressKeyOfSlider(static_cast<OlvSlider *>(widget), key);
     case FormKind::ShortcutEdit:

@@ -38,8 +38,8 @@ QLineEdit *textOf(const QWidget *widget, FormKind kind);
 OlvSimpleIconButton *passwordButton(const OlvLineEdit *edit);
 
 /**
- * Whether @p widget, which was of @p kind, is so still. What is left of one that is being destroyed
- * is a plain widget, to which events come and which pointers do not know to be gone.
+ * Whether @p widget, which was of @p kind, still is: during ~QWidget() events still come to it, and
+ * guarded pointers are not null yet, but it is only a QWidget.
  */
 bool isStill(const QWidget *widget, FormKind kind);
 

@@ -72,7 +72,7 @@ void OlvFormSupport::Private::setFeatures(Features features)
 void OlvFormSupport::Private::leave()
 {
     supports().removeOne(m_support);
-    // a form that deletes its children has taken this from their list already
+    // when the form deletes its children, it has already removed this from their list
     const bool formIsDying =
         !m_form || (m_support->parent() == m_form && !m_form->children().contains(m_support));
     if (formIsDying) {
@@ -221,6 +221,9 @@ bool OlvFormSupport::Private::handle(QObject *watched, QEvent *event)
     if (member && handleInMember(widget, kind, event)) {
         event->accept(); // an ignored key goes on to the parent although it has been filtered out
         return true;
+    }
+    if (!member) {
+        m_given.handleInOther(widget, event);
     }
     if (self && alive && holdsOthers(kind)) {
         handleInContainer(widget, event);

@@ -198,7 +198,7 @@ void fitText(FormMember &member, QLineEdit *text, bool fades)
         return; // Qt has not applied the style sheet yet
     }
     const QPalette own = ownOf(before, member.colors.get());
-    // what Qt gives a widget that has a style sheet: nothing of the widgets around it
+    // a widget with a style sheet inherits the application's palette, not its parent's
     QPalette ofApplication = QApplication::palette(text);
     ofApplication.resolve(0);
     const QPalette natural = withoutGiven(before, own).resolve(ofApplication);
@@ -236,7 +236,7 @@ InputLook::Contrast contrastOf(const QWidget *field, bool fades)
     if (field->isEnabled()) {
         return InputLook::Readable;
     }
-    // what is pale anyway is paler than that of an enabled field
+    // disabled text is paler than enabled text, but stays above this contrast
     return fades ? InputLook::Strong : InputLook::Unchanged;
 }
 
@@ -296,7 +296,7 @@ void ReadableText::take(FormMember &member)
 bool ReadableText::isRestored(const FormMember &member, const QLineEdit *text)
 {
     const QPalette &palette = text->palette();
-    // some of its own roles may come from a style sheet that is no more
+    // some roles may come from a style sheet that has been removed
     return member.colors && !hasSheet(palette)
         && std::all_of(std::begin(TextColors::roles), std::end(TextColors::roles),
                        [&](QPalette::ColorRole role) {

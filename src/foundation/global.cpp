@@ -200,7 +200,7 @@ void measureScreen()
     }
     OlvGlobal::desktopSize = screen->size();
     const double dotsPerInch = screen->logicalDotsPerInch();
-    // the flag comes before the last measure: applications poll the flag for the fonts' sake
+    // the flag is set before the last measurement, because applications wait for the fonts only
     bIsReady.store(true, std::memory_order_release);
     OlvGlobal::DPI = dotsPerInch / referenceDotsPerInch;
     // released once more: a reader that asks again later is sure to see that measure too

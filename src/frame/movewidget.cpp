@@ -32,7 +32,7 @@ bool isOfNoWidth(const QRect &area)
     return qint64(area.right()) - area.left() + 1 == 0;
 }
 
-/** A listener hears of the mouse before Qt keeps that from a disabled widget. */
+/** Event filters see mouse events before Qt drops them for a disabled widget. */
 bool isMovable(const QWidget *target)
 {
     return target && target->isEnabled();

@@ -56,7 +56,7 @@ OlvResizeItem::OlvResizeItem(QWidget *target, QObject *filter, ResizeType type, 
     }
     place();
     OlvLastOnceFunction([handle = QPointer<QWidget>(this)] {
-        // not while the destructor of QWidget is at work, whose parent has forgotten it already
+        // not during ~QWidget(), when the parent no longer lists this child
         if (dynamic_cast<OlvResizeItem *>(handle.data())) {
             handle->raise();
         }

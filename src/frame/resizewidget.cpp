@@ -39,7 +39,7 @@ bool OlvResizeWidget::eventFilter(QObject *watched, QEvent *event)
     auto *target = qobject_cast<QWidget *>(parent());
     const bool isMove = event->type() == QEvent::MouseMove && target && !target->isMaximized();
     const QPointer<OlvResizeItem> handle(isMove ? dynamic_cast<OlvResizeItem *>(watched) : nullptr);
-    // a filter hears of the mouse before Qt keeps that from a disabled widget
+    // event filters see mouse events before Qt drops them for a disabled widget
     if (!handle || !handle->isEnabled()) {
         return QObject::eventFilter(watched, event);
     }
@@ -53,6 +53,6 @@ bool OlvResizeWidget::eventFilter(QObject *watched, QEvent *event)
     if (handle) {
         handle->placeAll();
     }
-    // the target's resize event may have led to the end of the handle: it gets no more events then
+    // the target's resize event may have deleted the handle, which must not get this event then
     return !handle;
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-/** What is seen at two fifths of this, as disabled fields are, has still a contrast of 1.9. */
+/** At an opacity of 40 percent, as in disabled fields, it still has a contrast of 1.9. */
 constexpr double strongContrast = 7.0;
 
 } // namespace

@@ -19,8 +19,8 @@ double ratio(const QColor &one, const QColor &other);
 /** What is seen of @p color, which may be translucent, on @p ground, which is opaque. */
 QColor seen(const QColor &color, const QColor &ground);
 /**
- * The colour with a contrast of @p least on @p ground that is the nearest to @p color, on the way
- * to black or white: the one of these that is seen better there, when it does not reach that.
+ * @p color, mixed with as little black or white as gives it a contrast of @p least on @p ground;
+ * black or white itself, whichever contrasts more, where no mixture does.
  */
 QColor atLeast(double least, const QColor &color, const QColor &ground);
 

@@ -3,8 +3,7 @@
 
 #include "support/pixels_p.h"
 
-/** Where the parts of a widget stand that may be mirrored: at the right what is else at the left.
- */
+/** The horizontal positions of a widget's parts, mirrored or not. */
 struct Mirror
 {
     bool isOn = false;

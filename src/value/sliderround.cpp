@@ -17,7 +17,7 @@ constexpr int ringWidth = 2;
 
 void tell(QWidget *parent, int progress)
 {
-    // asked each time, since the destructor of the slider may have run, which is a QWidget then
+    // cast at each use: once the slider's destructor has run, the parent is only a QWidget
     if (auto *slider = dynamic_cast<OlvSlider *>(parent)) {
         slider->setValue(progress);
     }

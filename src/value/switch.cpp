@@ -169,7 +169,7 @@ SwitchRound *OlvSwitch::knob() const
 
 void OlvSwitch::fitKnob()
 {
-    // what hears of the knob's new place may delete the knob and the switch
+    // a receiver of the move event may delete the knob and the switch
     const QPointer<OlvSwitch> self(this);
     const QPointer<SwitchRound> round(knob());
     if (round) {
@@ -191,7 +191,7 @@ void OlvSwitch::fitKnob()
 
 void OlvSwitch::toggle()
 {
-    // the listener hears of the release before Qt keeps the mouse from a disabled widget
+    // event filters see mouse events before Qt drops them for a disabled widget
     if (!isEnabled() || property(moveCountProperty).toInt() != 0) {
         return;
     }

@@ -54,6 +54,8 @@ private Q_SLOTS:
     void forgetsAWidgetThatWasTaken();
     void isCleared();
     void isClearedWhileItIsScrolled();
+    void keepsTheBarForWhatIsAddedWhileItIsCleared();
+    void leavesConnectionsOfTheApplication();
     void survivesDeletionsInAList();
     void survivesItsOwnDeletion();
 };
@@ -226,6 +228,31 @@ void TestGridLists::isClearedWhileItIsScrolled()
     scene.grid->clear();
     QCOMPARE(scene.grid->pos(), QPoint(0, 0));
     QVERIFY(barOf(*scene.grid)->isHidden());
+}
+
+void TestGridLists::keepsTheBarForWhatIsAddedWhileItIsCleared()
+{
+    GridScene scene(true);
+    QWidget *tile = makeTile(scene.grid, 50);
+    scene.grid->addWidget(tile);
+    connect(tile, &QObject::destroyed, scene.grid,
+            [&] { scene.grid->addWidget(makeTile(scene.grid, 50, 1170)); });
+    scene.grid->clear();
+    QCOMPARE(scene.grid->count(), 1);
+    QVERIFY(!barOf(*scene.grid)->isHidden());
+    QCOMPARE(barOf(*scene.grid)->maximum(), 40);
+}
+
+void TestGridLists::leavesConnectionsOfTheApplication()
+{
+    GridScene scene(true);
+    QWidget *tile = makeTile(scene.grid, 50);
+    scene.grid->addWidget(tile);
+    bool isTold = false;
+    connect(tile, &QObject::destroyed, scene.grid, [&] { isTold = true; });
+    delete scene.grid->takeWidget(tile);
+    QVERIFY(isTold);
+    QCOMPARE(scene.grid->count(), 0);
 }
 
 void TestGridLists::survivesDeletionsInAList()

@@ -24,6 +24,9 @@ private Q_SLOTS:
     void ensuresThatTheInsideOfATileIsVisible();
     void ensuresNothingElse();
     void ensuresWhatADueReflowMoves();
+    void ensuresNothingForWhatIsHidden();
+    void ensuresWhatIsNotYetShown();
+    void reachesTheLastPixelsOfWhatIsLeft();
 };
 
 void TestGridScrolling::scrollsByTheRestOfTheHeight_data()
@@ -294,6 +297,57 @@ void TestGridScrolling::ensuresWhatADueReflowMoves()
     scene.grid->ensureVisible(scene.grid->widgetAt(40));
     QCOMPARE(scene.grid->widgetAt(40)->y(), 15 + 10 * 35);
     QCOMPARE(barOf(*scene.grid)->value(), 8); // its margin ends at 400
+}
+
+void TestGridScrolling::ensuresNothingForWhatIsHidden()
+{
+    GridScene scene(true);
+    for (int i = 0; i < 60; ++i) {
+        scene.grid->addWidget(makeTile(scene.grid, 200));
+    }
+    QWidget *last = scene.grid->widgetAt(59);
+    auto *inside = makeTile(last, 10);
+    for (int i = 30; i < 60; ++i) {
+        scene.grid->widgetAt(i)->hide();
+    }
+    scene.grid->setRetainSizeWhenHidden(false);
+    const int maximum = barOf(*scene.grid)->maximum();
+    for (QWidget *hidden : { last, inside }) {
+        scene.grid->ensureVisible(hidden);
+        QCOMPARE(scene.grid->y(), 0);
+        QCOMPARE(barOf(*scene.grid)->maximum(), maximum);
+    }
+    // where it keeps its place, that can be seen
+    scene.grid->setRetainSizeWhenHidden(true);
+    scene.grid->ensureVisible(last);
+    QVERIFY(scene.grid->y() < 0);
+}
+
+void TestGridScrolling::ensuresWhatIsNotYetShown()
+{
+    GridScene scene(true);
+    scene.grid->setRetainSizeWhenHidden(false);
+    for (int i = 0; i < 60; ++i) {
+        scene.grid->addWidget(makeTile(scene.grid, 200));
+        scene.grid->widgetAt(i)->hide();
+    }
+    for (int i = 0; i < 60; ++i) {
+        scene.grid->widgetAt(i)->show();
+    }
+    QWidget *tile = scene.grid->widgetAt(50);
+    scene.grid->ensureVisible(tile);
+    scene.window.show();
+    const QRect shown(tile->mapTo(scene.viewport, QPoint(0, 0)), tile->size());
+    QVERIFY(scene.viewport->rect().contains(shown));
+}
+
+void TestGridScrolling::reachesTheLastPixelsOfWhatIsLeft()
+{
+    GridScene scene(true);
+    scene.grid->addWidget({ makeTile(scene.grid, 200, 100), makeTile(scene.grid, 200, 109) });
+    QCOMPARE(barOf(*scene.grid)->maximum(), 2); // 54 pixels more than fit
+    scene.grid->setRetainSizeWhenHidden(false);
+    QCOMPARE(barOf(*scene.grid)->maximum(), 3);
 }
 
 QTEST_MAIN(TestGridScrolling)

@@ -7,9 +7,11 @@
 #include <OlvIconButton>
 #include <OlvLineEdit>
 #include <OlvSimpleIconButton>
+#include <OlvSwitch>
 
 #include <QApplication>
 #include <QPointer>
+#include <QPushButton>
 #include <QTest>
 
 namespace {
@@ -60,6 +62,8 @@ private Q_SLOTS:
     void arrowsMoveBetweenTilesAndGlyphs();
     void scrollsAlong();
     void scrollsToALineEdit();
+    void scrollsToOtherWidgets();
+    void arrowsMoveOverSwitches();
     void staysWhereAClickIs();
     void staysWithoutTheFeature();
     void survivesDeletionByTheFocus();
@@ -192,6 +196,39 @@ void TestFormGrid::scrollsToALineEdit()
     edit->lineEdit()->setFocus(Qt::TabFocusReason);
     const QRect shown(edit->mapTo(scene.viewport, QPoint(0, 0)), edit->size());
     QVERIFY(scene.viewport->rect().contains(shown));
+}
+
+void TestFormGrid::scrollsToOtherWidgets()
+{
+    GridScene scene(true);
+    for (int i = 0; i < 40; ++i) {
+        auto *button = new QPushButton(QString::number(i), scene.grid);
+        button->resize(50, 20);
+        scene.grid->addWidget(button);
+    }
+    new OlvFormSupport(&scene.window);
+    scene.window.show();
+    QApplication::setActiveWindow(&scene.window);
+    QWidget *last = scene.grid->widgetAt(39);
+    last->setFocus(Qt::TabFocusReason);
+    const QRect shown(last->mapTo(scene.viewport, QPoint(0, 0)), last->size());
+    QVERIFY(scene.viewport->rect().contains(shown));
+}
+
+void TestFormGrid::arrowsMoveOverSwitches()
+{
+    GridScene scene(true);
+    auto *first = new OlvSwitch(scene.grid);
+    auto *second = new OlvSwitch(scene.grid);
+    first->resize(50, 20);
+    second->resize(50, 20);
+    scene.grid->addWidget({ first, second });
+    new OlvFormSupport(&scene.window);
+    scene.window.show();
+    QApplication::setActiveWindow(&scene.window);
+    first->setFocus();
+    QTest::keyClick(first, Qt::Key_Right);
+    QCOMPARE(QApplication::focusWidget(), second);
 }
 
 void TestFormGrid::staysWhereAClickIs()
