@@ -270,8 +270,14 @@ bool OlvGridLayout::event(QEvent *event)
     const QPointer<OlvGridLayout> self(this);
     const bool recognized = QWidget::event(event);
     // Qt asks a visible parent for a new layout when a child is shown or hidden
-    if (self && (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
-        && !d->tiles.retainsHidden()) {
+    const bool mayHideTiles =
+        event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show;
+    // places that are counted from the right edge move along with it
+    const auto *resize = static_cast<QResizeEvent *>(event);
+    const bool movesEdge =
+        event->type() == QEvent::Resize && resize->size().width() != resize->oldSize().width();
+    if (self
+        && ((mayHideTiles && !d->tiles.retainsHidden()) || (movesEdge && d->tiles.isMirrored()))) {
         reUi();
     }
     return recognized;

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QVector>
 
 #include <utility>
@@ -63,6 +64,7 @@ private Q_SLOTS:
     }
     void flowsFromTheRight_data();
     void flowsFromTheRight();
+    void keepsToTheEdgeInALayout();
     void scrollsAtTheLeft();
     void movesTheFocusToWhereTheKeyPoints();
     void followsTheDirectionAndLeavesNothingBehind();
@@ -93,6 +95,25 @@ void TestMirroredGrid::flowsFromTheRight()
     }
     QCOMPARE(rtl.places(), ltr.places());
     QCOMPARE(rtl.grid->size(), ltr.grid->size());
+}
+
+void TestMirroredGrid::keepsToTheEdgeInALayout()
+{
+    QWidget window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    auto *grid = new OlvGridLayout;
+    QVBoxLayout layout(&window);
+    layout.setSizeConstraint(QLayout::SetNoConstraint); // the platform warns of minimum sizes
+    layout.addWidget(grid);
+    auto *tile = new OlvButton(QStringLiteral("0"), grid);
+    tile->resize(60, 20);
+    grid->addWidget(tile);
+    new OlvFormSupport(&window);
+    for (const int width : { 400, 300, 500 }) {
+        window.resize(width, 200);
+        window.show();
+        QCOMPARE(tile->x(), grid->width() - 60 - 15);
+    }
 }
 
 void TestMirroredGrid::scrollsAtTheLeft()
