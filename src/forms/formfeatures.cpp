@@ -96,6 +96,7 @@ void FormFeatures::take(const QPointer<QWidget> &widget, Features features)
     if (member && features.testFlag(Feature::FocusRing)) {
         m_focus.leave(widget);
     }
+    member = self ? m_members.at(widget) : nullptr;
     if (member && features.testFlag(Feature::Keyboard)) {
         m_keys.take(*member);
     }

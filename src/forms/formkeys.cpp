@@ -44,7 +44,7 @@ Qt::FocusPolicy naturalPolicy(const QWidget *widget)
 
 void giveText(FormMember &member, OlvLineEdit *edit)
 {
-    QLineEdit *text = edit->lineEdit();
+    const QPointer<QLineEdit> text(edit->lineEdit()); // a slot of the focus may delete it
     if (!text || edit->focusProxy() || edit->focusPolicy() == Qt::NoFocus) {
         return;
     }
@@ -60,7 +60,7 @@ void giveText(FormMember &member, OlvLineEdit *edit)
     const bool hadFocus = window->focusWidget() == edit;
     member.hasFocusProxy = true;
     edit->setFocusProxy(text);
-    if (hadFocus) {
+    if (hadFocus && text) {
         text->setFocus(Qt::OtherFocusReason);
     }
 }

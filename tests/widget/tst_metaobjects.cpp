@@ -8,13 +8,15 @@
 namespace {
 
 template <class Class, class Base>
-void addClass(const char *name, std::initializer_list<const char *> methods)
+void addClass(const char *name, std::initializer_list<const char *> methods,
+              const QStringList &enumerators = QStringList())
 {
     QStringList lines;
     for (const char *method : methods) {
         lines.append(QLatin1String(method));
     }
-    QTest::newRow(name) << &Class::staticMetaObject << &Base::staticMetaObject << lines;
+    QTest::newRow(name) << &Class::staticMetaObject << &Base::staticMetaObject << lines
+                        << enumerators;
 }
 
 /** A method with its kind, what it returns, and the names of its parameters. */
@@ -50,6 +52,7 @@ void TestMetaObjects::hasTheMethodsOfItsClassInOrder_data()
     QTest::addColumn<const QMetaObject *>("meta");
     QTest::addColumn<const QMetaObject *>("base");
     QTest::addColumn<QStringList>("methods");
+    QTest::addColumn<QStringList>("enumerators");
     addClass<OlvWidget, QWidget>(
         "OlvWidget",
         { "signal void valueChanged(QVariant)", "signal void inputMethodCommit(QString)" });
@@ -73,7 +76,10 @@ void TestMetaObjects::hasTheMethodsOfItsClassInOrder_data()
     addClass<OlvDragWidget, QWidget>("OlvDragWidget", {});
     addClass<OlvGridLayout, QWidget>("OlvGridLayout", {});
     addClass<OlvFlexWidget, QWidget>("OlvFlexWidget", { "signal void clicked()" });
-    addClass<OlvShortcut, QObject>("OlvShortcut", { "signal void activated()" });
+    addClass<OlvShortcut, QObject>(
+        "OlvShortcut",
+        { "signal void activated()", "signal void stateChanged(OlvShortcut::State) state" },
+        { QStringLiteral("State") });
 }
 
 void TestMetaObjects::hasTheMethodsOfItsClassInOrder()
@@ -81,10 +87,15 @@ void TestMetaObjects::hasTheMethodsOfItsClassInOrder()
     QFETCH(const QMetaObject *, meta);
     QFETCH(const QMetaObject *, base);
     QFETCH(QStringList, methods);
+    QFETCH(QStringList, enumerators);
     QCOMPARE(meta->className(), QTest::currentDataTag());
     QCOMPARE(meta->superClass(), base);
     QCOMPARE(meta->propertyCount(), meta->propertyOffset());
-    QCOMPARE(meta->enumeratorCount(), meta->enumeratorOffset());
+    QStringList seenEnumerators;
+    for (int i = meta->enumeratorOffset(); i < meta->enumeratorCount(); ++i) {
+        seenEnumerators.append(QLatin1String(meta->enumerator(i).name()));
+    }
+    QCOMPARE(seenEnumerators, enumerators);
     QCOMPARE(meta->classInfoCount(), meta->classInfoOffset());
     QStringList seen;
     for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {

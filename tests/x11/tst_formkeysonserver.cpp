@@ -299,14 +299,16 @@ void TestFormKeysOnServer::keysMoveTheSlider()
     QCOMPARE(knobOf(*volume)->geometry(), place);
 }
 
-/** The tiles stand from the left to the right in either direction. */
+/** The rows of the grid begin at the right where the form does. */
 void TestFormKeysOnServer::arrowsMoveThroughAGrid()
 {
+    QFETCH_GLOBAL(Qt::LayoutDirection, direction);
+    const bool isMirrored = direction == Qt::RightToLeft;
     focus(m_dialog->news);
-    QVERIFY(m_dialog->news->x() < m_dialog->chat->x());
-    m_keys->click(Symbol::right);
+    QCOMPARE(m_dialog->chat->x() < m_dialog->news->x(), isMirrored);
+    m_keys->click(isMirrored ? Symbol::left : Symbol::right);
     QTRY_COMPARE(QApplication::focusWidget(), m_dialog->chat);
-    m_keys->click(Symbol::left);
+    m_keys->click(isMirrored ? Symbol::right : Symbol::left);
     QTRY_COMPARE(QApplication::focusWidget(), m_dialog->news);
     m_keys->click(Symbol::end);
     QTRY_COMPARE(QApplication::focusWidget(), m_dialog->chat);
