@@ -68,7 +68,6 @@ public:
         auto *viewport = new QWidget;
         auto *search = new OlvLineEdit;
         search->setFixedHeight(32);
-        search->setIcon(QChar(0xf002));
         search->setAccessibleName(tr("Search"));
         search->setPlaceholderText(tr("Search"));
         auto *layout = new QVBoxLayout(this);
