@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr char typeProperty[] = "type";
-
 constexpr int borderWidth = 2;
 constexpr int roundRadiusDivisor = 2;
 constexpr int radiusDivisor = 5;
@@ -67,7 +65,7 @@ OlvButton::OlvButton(QWidget *parent)
     setProperty(ButtonsProperties::checked, false);
     setProperty(ButtonsProperties::checkable, false);
     setProperty(ButtonsProperties::value, false);
-    setProperty(typeProperty, QString());
+    setProperty(ButtonsProperties::type, QString());
     setProperty(ButtonsProperties::color, QStringLiteral("primary"));
     ButtonState::reset(this);
 }
@@ -84,7 +82,7 @@ OlvButton::OlvButton(QString text, QWidget *parent)
 OlvButton *OlvButton::setOlvStyle(QString color, QString type)
 {
     const QPointer<OlvButton> self(this);
-    setProperty(typeProperty, type);
+    setProperty(ButtonsProperties::type, type);
     if (self) {
         update();
         setProperty(ButtonsProperties::color, color);
@@ -178,7 +176,7 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
     const Canvas canvas(painter);
     const ButtonPalette &palette = buttonPalette(property(ButtonsProperties::color).toString());
     const Look look{ property(ButtonsProperties::state).toString(),
-                     property(typeProperty).toString(),
+                     property(ButtonsProperties::type).toString(),
                      property(ButtonsProperties::checked).toBool() };
 
     const int radius =

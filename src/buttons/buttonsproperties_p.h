@@ -10,6 +10,10 @@ constexpr char value[] = "value";
 constexpr char color[] = "color";
 constexpr char checkable[] = "isCheckable";
 constexpr char checked[] = "isChecked";
+/** The shape of an OlvButton. */
+constexpr char type[] = "type";
+/** A quarter of the width of an OlvIconButton. */
+constexpr char partSize[] = "partSize";
 /** The caption of an OlvButton. */
 constexpr char content[] = "content";
 /** The caption of an OlvIconButton. */

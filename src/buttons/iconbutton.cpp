@@ -17,7 +17,6 @@ namespace {
 
 constexpr char clickNumberProperty[] = "clickNumber";
 constexpr char clickTimerProperty[] = "clickTimer";
-constexpr char partSizeProperty[] = "partSize";
 constexpr char iconSizeProperty[] = "iconSize";
 constexpr char textSizeProperty[] = "textSize";
 constexpr char familyProperty[] = "family";
@@ -64,7 +63,7 @@ OlvIconButton::OlvIconButton(const QChar &icon, const QString &text, const QStri
 {
     resize(width, height);
     const int partSize = width / partCount;
-    setProperty(partSizeProperty, partSize);
+    setProperty(ButtonsProperties::partSize, partSize);
     setProperty(iconSizeProperty, iconSizeOfPart * partSize);
     setProperty(textSizeProperty, partSize * textSizeOfPart);
     setFontFamily(family);
@@ -164,7 +163,7 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
     // read as integers: the sizes are kept as reals, and are rounded here; an application may have
     // written any number
     const int partSize =
-        qBound(-QWIDGETSIZE_MAX, property(partSizeProperty).toInt(), QWIDGETSIZE_MAX);
+        qBound(-QWIDGETSIZE_MAX, property(ButtonsProperties::partSize).toInt(), QWIDGETSIZE_MAX);
     const int glyphHeight = glyphParts * partSize;
     const QString family = property(familyProperty).toString();
     painter.setFont(QFont(family, property(iconSizeProperty).toInt()));

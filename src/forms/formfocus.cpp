@@ -19,8 +19,9 @@ int cornerRadius(const QWidget *widget, FormKind kind)
 {
     switch (kind) {
     case FormKind::Button:
-        return widget->property("type").toString() == QLatin1String("round") ? widget->height() / 2
-                                                                             : widget->height() / 5;
+        return widget->property(ButtonsProperties::type).toString() == QLatin1String("round")
+            ? widget->height() / 2
+            : widget->height() / 5;
     case FormKind::Tile:
         return cornerOfTile;
     case FormKind::Switch:

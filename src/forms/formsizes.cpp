@@ -5,6 +5,7 @@
 
 #include "buttons/buttonsproperties_p.h"
 #include "forms/formmember_p.h"
+#include "input/inputproperties_p.h"
 
 #include <QDynamicPropertyChangeEvent>
 #include <QLayout>
@@ -144,8 +145,10 @@ bool FormSizes::mayChange(const QEvent *event)
     case QEvent::StyleChange:
         return true;
     case QEvent::DynamicPropertyChange: {
-        static constexpr std::array<const char *, 4> names{ ButtonsProperties::content, "partSize",
-                                                            "Icon", "Pwd" };
+        static constexpr std::array<const char *, 4> names{ ButtonsProperties::content,
+                                                            ButtonsProperties::partSize,
+                                                            InputProperties::icon,
+                                                            InputProperties::password };
         const QByteArray name =
             static_cast<const QDynamicPropertyChangeEvent *>(event)->propertyName();
         return std::any_of(names.begin(), names.end(),

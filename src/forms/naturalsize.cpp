@@ -3,6 +3,7 @@
 
 #include "buttons/buttonsproperties_p.h"
 #include "forms/formmember_p.h"
+#include "input/inputproperties_p.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -58,7 +59,7 @@ QSize sizeOfButton(const QWidget *button)
 
 QSize sizeOfTile(const QWidget *tile)
 {
-    const int part = tile->property("partSize").toInt();
+    const int part = tile->property(ButtonsProperties::partSize).toInt();
     const int side =
         part > 0 ? qMax(smallestSide, partsOfTile * qMin(part, largestPart)) : tileSide;
     return QSize(side, side);
@@ -75,7 +76,7 @@ QSize sizeOfGlyph(const QPushButton *button)
 int widthOfColumn(const QWidget *edit, QFont font, int height)
 {
     font.setPointSize(height / 2);
-    const QString glyph = textToMeasure(edit, "Icon");
+    const QString glyph = textToMeasure(edit, InputProperties::icon);
     return qMax(QFontMetrics(font).boundingRect(glyph).width() + columnPadding, height);
 }
 
@@ -90,7 +91,7 @@ QSize sizeOfEdit(const QWidget *edit)
     const int height = qMax(qMax(smallestSide, 2 * qRound(QFontInfo(font).pointSizeF())),
                             metrics.height() + 2 * editPadding);
     const int text = charactersOfEdit * metrics.horizontalAdvance(QLatin1Char('x'));
-    const int passwordButton = edit->property("Pwd").toBool() ? height : 0;
+    const int passwordButton = edit->property(InputProperties::password).toBool() ? height : 0;
     return QSize(qMin(widthOfColumn(edit, font, height), text) + text + passwordButton, height);
 }
 

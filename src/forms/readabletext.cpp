@@ -8,6 +8,7 @@
 #include "forms/disabledlook_p.h"
 #include "forms/formmember_p.h"
 #include "input/inputlook_p.h"
+#include "input/inputproperties_p.h"
 #include "painting/contrast_p.h"
 
 #include <QApplication>
@@ -29,8 +30,6 @@ constexpr double strongText = 12.0;
 constexpr double strongPlaceholder = 7.0;
 
 constexpr int maxBrushes = 64;
-/** Whether a line edit shows its password button. */
-constexpr char passwordProperty[] = "Pwd";
 
 /** What the style sheet of the text sets in its palette. */
 constexpr uint sheetRoles = 1U << QPalette::Base | 1U << QPalette::Window | 1U << QPalette::Button;
@@ -255,7 +254,7 @@ void ReadableText::fit(FormMember &member, bool fades)
             fitText(member, text, fades);
         }
         // a style sheet takes time to parse, and most line edits never show the button
-        if (alive && alive->property(passwordProperty).toBool()) {
+        if (alive && alive->property(InputProperties::password).toBool()) {
             recolor(alive, QColor(restingToggle), readableToggle());
         }
     }
@@ -269,7 +268,7 @@ bool ReadableText::mayChange(const QEvent *event)
         return true;
     case QEvent::DynamicPropertyChange:
         return static_cast<const QDynamicPropertyChangeEvent *>(event)->propertyName()
-            == passwordProperty;
+            == InputProperties::password;
     default:
         return false;
     }

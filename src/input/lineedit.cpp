@@ -3,6 +3,7 @@
 #include <OlvWidgets/input.h>
 
 #include "input/inputlook_p.h"
+#include "input/inputproperties_p.h"
 #include "painting/colors_p.h"
 #include "painting/flipped_p.h"
 
@@ -14,9 +15,7 @@
 
 namespace {
 
-constexpr char iconProperty[] = "Icon";
 constexpr char iconWidthProperty[] = "IconWidth";
-constexpr char passwordProperty[] = "Pwd";
 constexpr char visibleProperty[] = "Visible";
 constexpr char invisibleProperty[] = "Invisible";
 constexpr char stateProperty[] = "state";
@@ -73,9 +72,9 @@ OlvLineEdit::OlvLineEdit(QWidget *parent)
 {
     const QString visible = QStringLiteral("✍");
     const QString invisible = QStringLiteral("※");
-    setProperty(iconProperty, QLatin1String(""));
+    setProperty(InputProperties::icon, QLatin1String(""));
     setProperty(iconWidthProperty, 0);
-    setProperty(passwordProperty, false);
+    setProperty(InputProperties::password, false);
     setProperty(visibleProperty, visible);
     setProperty(invisibleProperty, invisible);
     setProperty(stateProperty, normalState());
@@ -142,7 +141,7 @@ void OlvLineEdit::setPlaceholderText(const QString &text)
 void OlvLineEdit::setIcon(const QString &icon)
 {
     const QPointer<OlvLineEdit> self(this);
-    setProperty(iconProperty, icon);
+    setProperty(InputProperties::icon, icon);
     if (self) {
         setProperty(iconWidthProperty, iconWidth(icon));
     }
@@ -155,7 +154,7 @@ void OlvLineEdit::setIcon(const QString &icon)
 void OlvLineEdit::setPassWord(bool on)
 {
     const QPointer<OlvLineEdit> self(this);
-    setProperty(passwordProperty, on);
+    setProperty(InputProperties::password, on);
     if (OlvSimpleIconButton *pwdButton = self ? d->pwdButton() : nullptr) {
         pwdButton->setVisible(on);
     }
@@ -204,7 +203,7 @@ void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
     painter.setPen(d->look.textColor(QColor(isNormal ? iconColor : focusedIconColor)));
     const int column = bounded(property(iconWidthProperty).toInt());
     painter.drawText(QRect(mirror.placed(0, column), 0, column, height()), Qt::AlignCenter,
-                     property(iconProperty).toString());
+                     property(InputProperties::icon).toString());
 }
 
 void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
@@ -228,8 +227,8 @@ void OlvLineEdit::resizeEvent(QResizeEvent * /*event*/)
         return;
     }
 
-    const int column = iconWidth(property(iconProperty).toString());
-    const int pwdWidth = property(passwordProperty).toBool() ? height() : 0;
+    const int column = iconWidth(property(InputProperties::icon).toString());
+    const int pwdWidth = property(InputProperties::password).toBool() ? height() : 0;
     Mirror &mirror = d->look.mirror;
     mirror.width = width();
     setProperty(iconWidthProperty, column);
