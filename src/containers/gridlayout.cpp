@@ -273,9 +273,8 @@ bool OlvGridLayout::event(QEvent *event)
     const bool mayHideTiles =
         event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show;
     // places that are counted from the right edge move along with it
-    const auto *resize = static_cast<QResizeEvent *>(event);
-    const bool movesEdge =
-        event->type() == QEvent::Resize && resize->size().width() != resize->oldSize().width();
+    const bool movesEdge = self && event->type() == QEvent::Resize
+        && width() != static_cast<QResizeEvent *>(event)->oldSize().width();
     if (self
         && ((mayHideTiles && !d->tiles.retainsHidden()) || (movesEdge && d->tiles.isMirrored()))) {
         reUi();
