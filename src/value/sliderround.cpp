@@ -23,6 +23,14 @@ void tell(QWidget *parent, int progress)
     }
 }
 
+/** In more bits than QRect::width(), which overflows where an application has moved the knob far.
+ */
+int widthOf(const QWidget &knob)
+{
+    const QRect place = knob.geometry();
+    return toPixels(qint64(place.right()) - place.left() + 1);
+}
+
 } // namespace
 
 SliderRound::SliderRound(QWidget *slider)
@@ -77,7 +85,8 @@ void SliderRound::placeAt(int progress)
     const qint64 x =
         (qMax<qint64>(0, toPixels(d->maxX)) * progress + SliderMetrics::fullProgress - 1)
         / SliderMetrics::fullProgress;
-    move(d->mirror.placed(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), width()), y());
+    move(d->mirror.placed(int(x) + (d->pressed ? 0 : SliderMetrics::knobInset), widthOf(*this)),
+         y());
 }
 
 void SliderRound::paintEvent(QPaintEvent * /*event*/)
@@ -104,8 +113,9 @@ bool SliderRound::event(QEvent *event)
 void SliderRound::mousePressEvent(QMouseEvent *event)
 {
     const QPointer<SliderRound> self(this);
-    const int pressX = d->mirror.within(mousePosition(event).x(), width());
-    const int x = toPixels(qint64(d->mirror.placed(this->x(), width())) - SliderMetrics::knobInset);
+    const int pressX = d->mirror.within(mousePosition(event).x(), widthOf(*this));
+    const int x =
+        toPixels(qint64(d->mirror.placed(this->x(), widthOf(*this))) - SliderMetrics::knobInset);
     setGeometry(d->mirror.placed(x, SliderMetrics::pressedKnobSize), 0,
                 SliderMetrics::pressedKnobSize, SliderMetrics::pressedKnobSize);
     if (self) { // what hears of the geometry may have deleted the knob
@@ -119,8 +129,8 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
     if (!d->pressed) {
         return;
     }
-    const int mouseX = d->mirror.within(mousePosition(event).x(), width());
-    const qint64 newX = qint64(mouseX) - d->pressX + d->mirror.placed(x(), width());
+    const int mouseX = d->mirror.within(mousePosition(event).x(), widthOf(*this));
+    const qint64 newX = qint64(mouseX) - d->pressX + d->mirror.placed(x(), widthOf(*this));
     const int maxX = toPixels(d->maxX);
     int place = 0;
     int progress = 0;
@@ -134,7 +144,7 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
         progress = maxX > 0 ? int(newX * SliderMetrics::fullProgress / maxX) : 0;
     }
     const QPointer<SliderRound> self(this);
-    move(d->mirror.placed(place, width()), 0);
+    move(d->mirror.placed(place, widthOf(*this)), 0);
     if (!self || progress == d->progress) {
         return;
     }
@@ -145,7 +155,8 @@ void SliderRound::mouseMoveEvent(QMouseEvent *event)
 void SliderRound::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
     const QPointer<SliderRound> self(this);
-    const int x = toPixels(qint64(d->mirror.placed(this->x(), width())) + SliderMetrics::knobInset);
+    const int x =
+        toPixels(qint64(d->mirror.placed(this->x(), widthOf(*this))) + SliderMetrics::knobInset);
     setGeometry(d->mirror.placed(x, SliderMetrics::restingKnobSize), SliderMetrics::knobInset,
                 SliderMetrics::restingKnobSize, SliderMetrics::restingKnobSize);
     if (self) {
