@@ -56,7 +56,7 @@ PortalBackend::PortalBackend(QObject *parent)
                                             QDBusServiceWatcher::WatchForUnregistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
         m_isIntroduced = false;
-        lose(m_sessions, QStringLiteral("the portal has ended"));
+        loseAll(QStringLiteral("the portal has ended"));
     });
     m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                          QStringLiteral("org.freedesktop.DBus.Local"),
@@ -115,7 +115,7 @@ OlvShortcut::State PortalBackend::state(OlvShortcut *shortcut) const
 
 void PortalBackend::takeDisconnection()
 {
-    lose(m_sessions, QStringLiteral("the session bus has ended"));
+    loseAll(QStringLiteral("the session bus has ended"));
 }
 
 bool PortalBackend::isHeld(const QString &id) const
@@ -198,9 +198,9 @@ void PortalBackend::introduceProgram(PortalSession *session, const std::function
 void PortalBackend::settle(PortalSession *session, const QString &reason)
 {
     Emissions emissions;
+    QStringList refused;
     {
         const std::lock_guard<std::mutex> lock(mutex());
-        QStringList refused;
         for (auto it = m_registrations.begin(); it != m_registrations.end(); ++it) {
             if (it->session == session) {
                 const bool isBound = session->isBound(it->wanted.id);
@@ -209,8 +209,9 @@ void PortalBackend::settle(PortalSession *session, const QString &reason)
             }
         }
         endIfUnused(session);
-        warn(refused, reason.isEmpty() ? QStringLiteral("they have not been confirmed") : reason);
     }
+    // unlocked, since an application's message handler may call anything
+    warn(refused, reason.isEmpty() ? QStringLiteral("they have not been confirmed") : reason);
     for (const auto &emit : qAsConst(emissions)) {
         emit();
     }
@@ -236,9 +237,9 @@ void PortalBackend::activate(PortalSession *session, const QString &id)
 void PortalBackend::lose(Sessions sessions, const QString &reason)
 {
     Emissions emissions;
+    QStringList lost;
     {
         const std::lock_guard<std::mutex> lock(mutex());
-        QStringList lost;
         for (auto it = m_registrations.begin(); it != m_registrations.end(); ++it) {
             if (sessions.contains(it->session)) {
                 lost.append(it->wanted.id);
@@ -248,11 +249,22 @@ void PortalBackend::lose(Sessions sessions, const QString &reason)
         for (PortalSession *session : qAsConst(sessions)) {
             endIfUnused(session);
         }
-        warn(lost, reason);
     }
+    warn(lost, reason);
     for (const auto &emit : qAsConst(emissions)) {
         emit();
     }
+}
+
+void PortalBackend::loseAll(const QString &reason)
+{
+    Sessions all;
+    {
+        // another thread that releases a shortcut may end a session
+        const std::lock_guard<std::mutex> lock(mutex());
+        all = m_sessions;
+    }
+    lose(all, reason);
 }
 
 void PortalBackend::setState(Registrations::iterator registration, OlvShortcut::State state,

@@ -59,6 +59,7 @@ private:
     void settle(PortalSession *session, const QString &reason);
     void activate(PortalSession *session, const QString &id);
     void lose(Sessions sessions, const QString &reason);
+    void loseAll(const QString &reason);
     void setState(Registrations::iterator registration, OlvShortcut::State state,
                   Emissions *emissions);
     void addEmission(OlvShortcut *shortcut, const std::function<void(OlvShortcut *)> &emission,

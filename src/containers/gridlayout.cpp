@@ -267,16 +267,18 @@ void OlvGridLayout::resized()
 
 bool OlvGridLayout::event(QEvent *event)
 {
+    // Qt asks a visible parent for a new layout when a child is shown or hidden
+    const bool mayHideTiles = !d->tiles.retainsHidden()
+        && (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show);
+    // places that are counted from the right edge move along with it
+    const bool movesEdge = d->tiles.isMirrored() && event->type() == QEvent::Resize
+        && width() != static_cast<QResizeEvent *>(event)->oldSize().width();
+    if (!mayHideTiles && !movesEdge) {
+        return QWidget::event(event);
+    }
     const QPointer<OlvGridLayout> self(this);
     const bool recognized = QWidget::event(event);
-    // Qt asks a visible parent for a new layout when a child is shown or hidden
-    const bool mayHideTiles =
-        event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show;
-    // places that are counted from the right edge move along with it
-    const bool movesEdge = self && event->type() == QEvent::Resize
-        && width() != static_cast<QResizeEvent *>(event)->oldSize().width();
-    if (self
-        && ((mayHideTiles && !d->tiles.retainsHidden()) || (movesEdge && d->tiles.isMirrored()))) {
+    if (self) {
         reUi();
     }
     return recognized;

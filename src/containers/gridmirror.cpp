@@ -5,6 +5,7 @@
 #include "support/pixels_p.h"
 
 #include <QScrollBar>
+#include <QSet>
 #include <QVector>
 
 void GridMirror::set(OlvGridLayout *grid, bool isOn)
@@ -14,9 +15,11 @@ void GridMirror::set(OlvGridLayout *grid, bool isOn)
         return;
     }
     tiles.setMirrored(isOn);
-    QVector<QPointer<QWidget>> moved; // a widget may be in the list twice
+    QVector<QPointer<QWidget>> moved;
+    QSet<QWidget *> seen; // a widget may be in the list twice
     for (QWidget *tile : tiles.all()) {
-        if (!moved.contains(tile)) {
+        if (!seen.contains(tile)) {
+            seen.insert(tile);
             moved.append(tile);
         }
     }

@@ -38,12 +38,11 @@ QWidget *nextFrom(const OlvGridLayout *grid, int index, int step)
 }
 
 /** The tile of the next row in that direction which is nearest to the middle of @p tile. */
-QWidget *inNextRow(const OlvGridLayout *grid, const QWidget *tile, int step)
+QWidget *inNextRow(const OlvGridLayout *grid, QWidget *tile, int step)
 {
     QWidget *found = nullptr;
     int distance = 0;
-    for (int i = grid->indexOf(const_cast<QWidget *>(tile)); i >= 0 && i < grid->count();
-         i += step) {
+    for (int i = grid->indexOf(tile); i >= 0 && i < grid->count(); i += step) {
         QWidget *other = grid->widgetAt(i);
         if (other->y() == tile->y() || !takesFocus(other)) {
             continue;
