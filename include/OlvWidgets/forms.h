@@ -180,7 +180,13 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  * | OlvSlider       | a number, rounded, bounded to 0 to 100   | 0                                |
  * | OlvLineEdit     | what converts to a string                | an empty text                    |
  * | OlvShortcutEdit | the text of a shortcut that can be had   | no shortcut                      |
+ * | OlvButton       | a bool, as QVariant::toBool() has it     | false, or what toBool() says     |
+ * | OlvIconButton   | any value; a click makes it a bool       | themselves                       |
  * | others          | what their setValue() takes              | setValue() of an invalid value   |
+ *
+ * A click of an OlvButton does not change its value: it stores nothing, unless a slot of the
+ * application's calls setValue(), which is submitted then. An OlvShortcutEdit that holds no
+ * shortcut has no value, and writes nothing.
  *
  * A widget that does not show its record yet, since it was mapped after the mapper had moved there,
  * writes nothing until its value changes, or in an OlvLineEdit until the user types.

@@ -4,6 +4,7 @@
 #include "sliderknob.h"
 
 #include <OlvButton>
+#include <OlvIconButton>
 #include <OlvLineEdit>
 #include <OlvShortcutEdit>
 #include <OlvValueDelegate>
@@ -53,8 +54,9 @@ void TestValueEditors::writesNothingThatNobodyChanged_data()
 void TestValueEditors::writesNothingThatNobodyChanged()
 {
     QFETCH(QVariant, stored);
-    QStandardItemModel model(2, 5);
-    for (int column = 0; column < 5; ++column) {
+    constexpr int count = 6; // every OlvWidget of the library
+    QStandardItemModel model(2, count);
+    for (int column = 0; column < count; ++column) {
         model.setData(model.index(0, column), stored, Qt::EditRole);
         model.setData(model.index(1, column), 50, Qt::EditRole);
     }
@@ -63,23 +65,27 @@ void TestValueEditors::writesNothingThatNobodyChanged()
     OlvSlider slider;
     OlvButton button;
     OlvShortcutEdit shortcut(nullptr);
+    OlvIconButton tile(QLatin1Char('t'), QString(), QStringLiteral("Sans"), nullptr, 40, 40);
     QDataWidgetMapper mapper;
     mapper.setModel(&model);
     mapper.setItemDelegate(new OlvValueDelegate(&mapper));
     mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
-    OlvWidget *const widgets[] = { &line, &toggle, &slider, &button, &shortcut };
-    for (int column = 0; column < 5; ++column) {
+    OlvWidget *const widgets[count] = { &line, &toggle, &slider, &button, &shortcut, &tile };
+    for (int column = 0; column < count; ++column) {
         mapper.addMapping(widgets[column], column);
     }
     for (const int row : { 0, 1, 0 }) {
         mapper.setCurrentIndex(row);
         QVERIFY(mapper.submit());
     }
-    for (int column = 0; column < 5; ++column) {
+    for (int column = 0; column < count; ++column) {
         QCOMPARE(model.index(0, column).data(Qt::EditRole), stored);
         QCOMPARE(model.index(1, column).data(Qt::EditRole), QVariant(50));
     }
     QCOMPARE(toggle.isChecked(), stored.toInt() != 0);
+    QCOMPARE(button.getValue(), QVariant(stored.toBool()));
+    QVERIFY(!shortcut.shortcut());
+    QCOMPARE(tile.getValue(), stored);
     QCOMPARE(slider.getValue().toInt(), qBound(0, qRound(stored.toDouble()), 100));
 }
 

@@ -3,8 +3,11 @@
 
 #include "mouse.h"
 
+#include <OlvButton>
 #include <OlvIconButton>
 #include <OlvLineEdit>
+#include <OlvShortcutEdit>
+#include <OlvSlider>
 #include <OlvSwitch>
 #include <OlvValueDelegate>
 
@@ -18,10 +21,10 @@
 /** A table with a column for each kind of widget and three records, the last one of nulls. */
 constexpr const char *recordStatements[] = {
     ("CREATE TABLE people (id INTEGER PRIMARY KEY, name TEXT, notify BOOLEAN, volume INTEGER, "
-     "tile INTEGER, rest)"),
-    "INSERT INTO people VALUES (1, 'Ann', 1, 30, 0, 'first')",
-    "INSERT INTO people VALUES (2, 'Bob', 0, 70, 1, 'second')",
-    "INSERT INTO people VALUES (3, NULL, NULL, NULL, NULL, NULL)",
+     "tile INTEGER, starred BOOLEAN, keys TEXT, rest)"),
+    "INSERT INTO people VALUES (1, 'Ann', 1, 30, 0, 0, 'Ctrl+F5', 'first')",
+    "INSERT INTO people VALUES (2, 'Bob', 0, 70, 1, 1, 'no keys', 'second')",
+    "INSERT INTO people VALUES (3, NULL, NULL, NULL, NULL, NULL, NULL, NULL)",
 };
 
 enum Column {
@@ -29,7 +32,10 @@ enum Column {
     NotifyColumn,
     VolumeColumn,
     TileColumn,
+    StarredColumn,
+    KeysColumn,
     RestColumn,
+    ColumnCount,
 };
 
 class RecordDatabase
@@ -56,6 +62,20 @@ public:
         return m_isOpen;
     }
 
+    /** All that the table has. */
+    static QVector<QVariantList> stored()
+    {
+        QVector<QVariantList> rows;
+        QSqlQuery query(QStringLiteral("SELECT * FROM people ORDER BY id"));
+        while (query.next()) {
+            QVariantList row;
+            for (int column = 0; column < ColumnCount; ++column) {
+                row.append(query.value(column));
+            }
+            rows.append(row);
+        }
+        return rows;
+    }
     /** What the table has, whatever a model shows of it. */
     static QVariant stored(int row, int column)
     {
@@ -77,6 +97,8 @@ public:
     OlvSlider *volume = new OlvSlider(this);
     OlvIconButton *tile =
         new OlvIconButton(QChar(u'x'), QString(), QStringLiteral("FontAwesome"), this, 40, 40);
+    OlvButton *starred = new OlvButton(QStringLiteral("Star"), this);
+    OlvShortcutEdit *keys = new OlvShortcutEdit(this);
     QLineEdit *rest = new QLineEdit(this);
     QSqlTableModel model;
     QDataWidgetMapper mapper;
@@ -88,6 +110,11 @@ public:
         volume->move(0, 70);
         tile->move(0, 110);
         rest->setGeometry(0, 160, 200, 30);
+        starred->setGeometry(0, 200, 100, 30);
+        keys->setGeometry(0, 240, 200, 30);
+        // a button's clicks do not change its value: the application does
+        connect(starred, &OlvButton::clicked, this,
+                [this] { starred->setValue(!starred->getValue().toBool()); });
         model.setTable(QStringLiteral("people"));
         model.setEditStrategy(QSqlTableModel::OnFieldChange);
         model.select();
@@ -98,17 +125,19 @@ public:
         mapper.addMapping(notify, NotifyColumn);
         mapper.addMapping(volume, VolumeColumn);
         mapper.addMapping(tile, TileColumn);
+        mapper.addMapping(starred, StarredColumn);
+        mapper.addMapping(keys, KeysColumn);
         mapper.addMapping(rest, RestColumn);
         mapper.toFirst();
     }
 };
 
-inline void click(OlvIconButton &tile)
+inline void click(OlvWidget &button)
 {
     QEvent enter(QEvent::Enter);
-    QCoreApplication::sendEvent(&tile, &enter);
-    Mouse::press(&tile, { 5, 5 });
-    Mouse::release(&tile, { 5, 5 });
+    QCoreApplication::sendEvent(&button, &enter);
+    Mouse::press(&button, { 5, 5 });
+    Mouse::release(&button, { 5, 5 });
 }
 
 inline void type(OlvLineEdit &edit, const QString &text)
