@@ -5,8 +5,6 @@
 #include <QSplitter>
 #include <QTest>
 
-#include <limits>
-
 namespace {
 
 using Make = QWidget *(*)();
@@ -49,20 +47,15 @@ private Q_SLOTS:
     void areBoundedByTheMaximum();
     void showACaptionAtItsFullSize_data();
     void showACaptionAtItsFullSize();
-    void endWhereCaptionsGetSmaller();
     void followTheCaption();
     void followAGlyph();
     void followTheFontOfTheForm();
     void makeRoomForAPasswordButton();
-    void makeTheRoomThatAGlyphTakes();
     void haveTypedTextAboutAsLargeAsTheForm();
     void comeToAWidgetThatIsAddedLater();
     void areTakenBack();
     void areNotTakenBackFromTheApplication();
     void areSwitchedOnAndOff();
-    void areUnknownOfOtherWidgets();
-    void followThePartsOfATile_data();
-    void followThePartsOfATile();
 };
 
 void TestFormSizes::areLargeEnoughInABareForm_data()
@@ -187,15 +180,6 @@ void TestFormSizes::showACaptionAtItsFullSize()
              captionPointSize);
 }
 
-void TestFormSizes::endWhereCaptionsGetSmaller()
-{
-    OlvButton button(QString(100, QLatin1Char('W')), nullptr);
-    const QSize size = OlvFormSupport::naturalSize(&button);
-    QVERIFY(size.width() <= 400);
-    button.setText(QString(1000000, QLatin1Char('W')));
-    QCOMPARE(OlvFormSupport::naturalSize(&button), size);
-}
-
 void TestFormSizes::followTheCaption()
 {
     WidgetForm form;
@@ -258,19 +242,6 @@ void TestFormSizes::makeRoomForAPasswordButton()
     QCOMPARE(form.name->minimumWidth(), before + form.name->minimumHeight());
     form.name->setIcon(QStringLiteral("wide glyph"));
     QVERIFY(form.name->minimumWidth() > before + form.name->minimumHeight());
-}
-
-void TestFormSizes::makeTheRoomThatAGlyphTakes()
-{
-    OlvLineEdit edit;
-    const QSize before = OlvFormSupport::naturalSize(&edit);
-    edit.resize(before);
-    edit.show();
-    const int column = edit.lineEdit()->x();
-    edit.setIcon(QStringLiteral("mmm"));
-    QVERIFY(edit.lineEdit()->x() > column);
-    const QSize after = OlvFormSupport::naturalSize(&edit);
-    QCOMPARE(after.width() - before.width(), edit.lineEdit()->x() - column);
 }
 
 void TestFormSizes::haveTypedTextAboutAsLargeAsTheForm()
@@ -367,35 +338,6 @@ void TestFormSizes::areSwitchedOnAndOff()
     form.save->setText(QStringLiteral("Not measured"));
     form.setFont(QFont(QStringLiteral("Sans"), 20));
     QCOMPARE(form.save->minimumSize(), QSize(0, 0));
-}
-
-void TestFormSizes::areUnknownOfOtherWidgets()
-{
-    QVERIFY(!OlvFormSupport::naturalSize(nullptr).isValid());
-    const QLabel label(QStringLiteral("Label"));
-    QVERIFY(!OlvFormSupport::naturalSize(&label).isValid());
-    const OlvLineEdit edit;
-    QVERIFY(!OlvFormSupport::naturalSize(edit.lineEdit()).isValid());
-}
-
-void TestFormSizes::followThePartsOfATile_data()
-{
-    QTest::addColumn<int>("part");
-    QTest::addColumn<int>("side");
-    QTest::newRow("none") << 0 << 80;
-    QTest::newRow("negative") << -7 << 80;
-    QTest::newRow("tiny") << 2 << 20;
-    QTest::newRow("usual") << 20 << 80;
-    QTest::newRow("huge") << std::numeric_limits<int>::max() << 1000;
-}
-
-void TestFormSizes::followThePartsOfATile()
-{
-    QFETCH(int, part);
-    QFETCH(int, side);
-    OlvIconButton tile;
-    tile.setProperty("partSize", part);
-    QCOMPARE(OlvFormSupport::naturalSize(&tile), QSize(side, side));
 }
 
 QTEST_MAIN(TestFormSizes)
