@@ -3,6 +3,7 @@
 
 #include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
+#include "buttons/glyphcolors_p.h"
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
@@ -28,7 +29,6 @@ constexpr int glyphParts = 3;
 constexpr double iconSizeOfPart = 1.56;
 constexpr double textSizeOfPart = 0.52;
 constexpr QRgb initialAccent = qRgb(0, 255, 255);
-constexpr QRgb restingColor = qRgb(198, 198, 198);
 constexpr int halfRed = 127;
 constexpr int frameRadius = 10;
 constexpr int frameWidth = 1;
@@ -203,7 +203,7 @@ QColor OlvIconButton::penColor()
         color.setRed(color.red() <= halfRed ? halfRed : 0);
         return color;
     }
-    return QColor(restingColor);
+    return QColor(restingGlyph);
 }
 
 bool isChecked(OlvIconButton *button)

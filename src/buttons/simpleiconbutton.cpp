@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/glyphcolors_p.h"
 #include "buttons/togglesheet_p.h"
 #include "support/accessibility_p.h"
 

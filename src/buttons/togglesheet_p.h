@@ -4,9 +4,6 @@
 #include <QColor>
 #include <QString>
 
-/** The colour of a toggle's glyph at rest. */
-constexpr QRgb restingToggle = qRgb(184, 186, 188);
-
 /** The style sheet of an OlvSimpleIconButton that is a toggle, whose glyph is @p resting at rest.
  */
 inline QString toggleSheet(const QColor &resting)

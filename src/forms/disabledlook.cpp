@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "forms/disabledlook_p.h"
 
+#include "buttons/glyphcolors_p.h"
 #include "forms/formmember_p.h"
 
 #include <QGraphicsEffect>
 #include <QPainter>
 
 namespace {
-
-/** What a button of a glyph is drawn in at rest; its style sheet makes a disabled one darker. */
-constexpr QRgb restingGlyph = qRgb(198, 198, 198);
 
 /** Lets the ground shine through a widget. */
 class Fade : public QGraphicsEffect
@@ -25,6 +23,7 @@ protected:
         QPoint place;
         QPixmap pixels = sourcePixmap(Qt::DeviceCoordinates, &place, NoPad);
         if (m_isGlyph && !pixels.isNull()) {
+            // the style sheet of a button of a glyph makes a disabled one darker
             QPainter glyph(&pixels);
             glyph.setCompositionMode(QPainter::CompositionMode_SourceIn);
             glyph.fillRect(QRect(QPoint(), pixels.size()), QColor(restingGlyph));

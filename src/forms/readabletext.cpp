@@ -4,6 +4,7 @@
 #include <OlvWidgets/buttons.h>
 #include <OlvWidgets/input.h>
 
+#include "buttons/glyphcolors_p.h"
 #include "buttons/togglesheet_p.h"
 #include "forms/disabledlook_p.h"
 #include "forms/formmember_p.h"
