@@ -26,6 +26,8 @@ constexpr int rounds = 5;
 constexpr int maxBytes = 400;
 /** A line edit is two widgets to a support; both edits also keep the colours of their texts. */
 constexpr int maxBytesOfEdit = 500;
+/** What lists that have grown may keep of each widget that has gone. */
+constexpr int maxBytesLeft = 60;
 
 using Make = QWidget *(*)();
 
@@ -66,6 +68,27 @@ public:
 };
 
 #ifdef OLV_HAS_HEAP_FIGURES
+/** What is left of the heap of many widgets that were in a form for a while, in bytes. */
+double heapLeftBehind()
+{
+    QWidget form;
+    form.resize(100, 100);
+    new OlvFormSupport(&form);
+    form.show();
+    runDeferred();
+    const auto before = double(mallinfo2().uordblks);
+    QVector<QWidget *> buttons;
+    for (int i = 0; i < widgetCount; ++i) {
+        buttons.append(new OlvButton(&form));
+        buttons.last()->show();
+    }
+    runDeferred();
+    qDeleteAll(buttons);
+    buttons = {};
+    runDeferred();
+    return double(mallinfo2().uordblks) - before;
+}
+
 /** The heap in use while a window is shown, in bytes. */
 double heapOfShown(Make make, OlvFormSupport::Features features)
 {
@@ -111,6 +134,7 @@ private Q_SLOTS:
         addKinds();
     }
     void isNoTimer();
+    void goesWithTheWidgets();
 
 private:
     static void addKinds();
@@ -182,6 +206,20 @@ void TestFormCosts::isNoTimer()
     const Window without(make, {});
     const Window with(make, OlvFormSupport::AllFeatures);
     QCOMPARE(timerCount(with), timerCount(without));
+}
+
+/** A form that lives long may have had any number of widgets. */
+void TestFormCosts::goesWithTheWidgets()
+{
+#ifdef OLV_HAS_HEAP_FIGURES
+    double bytes = std::numeric_limits<double>::max();
+    for (int i = 0; i < rounds; ++i) { // the first ones fill caches of Qt's
+        bytes = qMin(bytes, heapLeftBehind());
+    }
+    QVERIFY2(bytes <= maxBytesLeft * widgetCount, qPrintable(QString::number(bytes)));
+#else
+    QSKIP("this C library does not say how much heap is in use");
+#endif
 }
 
 QTEST_MAIN(TestFormCosts)
