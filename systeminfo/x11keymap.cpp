@@ -134,13 +134,9 @@ void X11Keymap::readModifiers(xcb_connection_t *connection)
         return;
     }
     const xcb_keycode_t *codes = xcb_get_modifier_mapping_keycodes(reply);
-    for (int modifier = 0; modifier < modifierCount; ++modifier) {
-        for (int i = 0; i < reply->keycodes_per_modifier; ++i) {
-            const xcb_keycode_t code = codes[modifier * reply->keycodes_per_modifier + i];
-            if (code != 0) {
-                m_modifierCodes[modifier].append(code);
-            }
-        }
+    const int codesPerModifier = reply->keycodes_per_modifier;
+    for (int i = 0; i < modifierCount * codesPerModifier; ++i) {
+        m_modifierCodes[i / codesPerModifier].append(codes[i]); // 0, for no key, has no symbols
     }
     std::free(reply);
 }

@@ -17,10 +17,10 @@ namespace {
 constexpr int maxCacheBytes = 1024 * 1024;
 constexpr int smallestDiameter = 4;
 
-/** How far an outline reaches beyond the shape: its outer half, and a pixel that it may touch. */
+/** How many pixels an outline reaches beyond the shape: its outer half. */
 int marginOf(int lineWidth)
 {
-    return lineWidth > 0 ? (lineWidth + 1) / 2 + 1 : 0;
+    return (lineWidth + 1) / 2;
 }
 
 /**
