@@ -99,8 +99,8 @@ public:
          * luminances (https://www.w3.org/TR/WCAG21/). Disabled texts are paler than that, but not
          * faded twice where DisabledLook fades them. The colours are set in the palette of
          * OlvLineEdit::lineEdit() and follow it; those that the application sets there come back
-         * when the support goes. A colour that a style sheet gives the text is the sheet's business
-         * and stays.
+         * when the support goes. A colour that a style sheet gives the text is painted as the sheet
+         * has it, whatever its contrast.
          */
         ReadableText = 0x20,
         /** All of the above. */
