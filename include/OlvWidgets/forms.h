@@ -62,7 +62,9 @@ public:
          * the focus in between, takes the press back. In an OlvGridLayout the arrows, Home and End
          * move the focus from a button or tile to another one, and the grid scrolls to what the
          * keyboard has brought the focus to. All other keys go on to the form. A widget that the
-         * application has given a focus policy keeps it.
+         * application has given a focus policy keeps it. The text of an OlvLineEdit comes behind
+         * its frame in the order of the tabs. QWidget::setTabOrder() does nothing with buttons,
+         * tiles, switches and sliders before they take the focus: call it once the support is made.
          */
         Keyboard = 0x02,
         /**

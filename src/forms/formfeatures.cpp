@@ -38,6 +38,9 @@ void FormFeatures::set(Features features)
             fitTexts(widget); // whether they are faded may have changed
         }
     }
+    if (self) {
+        restoreTabOrder();
+    }
 }
 
 void FormFeatures::give(const QPointer<QWidget> &widget)
@@ -50,6 +53,11 @@ void FormFeatures::take(const QPointer<QWidget> &widget)
     take(widget, m_features);
 }
 
+void FormFeatures::restoreTabOrder()
+{
+    m_keys.restoreTabOrder();
+}
+
 void FormFeatures::give(const QPointer<QWidget> &widget, Features features)
 {
     const Guard self(m_support);
@@ -59,7 +67,7 @@ void FormFeatures::give(const QPointer<QWidget> &widget, Features features)
     }
     member = self ? m_members.at(widget) : nullptr;
     if (member && features.testFlag(Feature::Keyboard)) {
-        FormKeys::give(*member);
+        m_keys.give(*member);
     }
     member = self ? m_members.at(widget) : nullptr;
     if (member && features.testFlag(Feature::DisabledLook)) {

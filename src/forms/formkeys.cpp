@@ -42,29 +42,6 @@ Qt::FocusPolicy naturalPolicy(const QWidget *widget)
     return Qt::FocusPolicy(widget->style()->styleHint(QStyle::SH_Button_FocusPolicy));
 }
 
-void giveText(FormMember &member, OlvLineEdit *edit)
-{
-    const QPointer<QLineEdit> text(edit->lineEdit()); // a slot of the focus may delete it
-    if (!text || edit->focusProxy() || edit->focusPolicy() == Qt::NoFocus) {
-        return;
-    }
-    // An order of tabs that was set while the frame was a tab stop has put the widgets that follow
-    // between the frame and its text.
-    if (edit->nextInFocusChain() != text) {
-        QWidget::setTabOrder(edit, text);
-    }
-    if (OlvSimpleIconButton *button = passwordButton(edit)) {
-        button->setFocusPolicy(Qt::NoFocus);
-    }
-    const QWidget *window = edit->window();
-    const bool hadFocus = window->focusWidget() == edit;
-    member.hasFocusProxy = true;
-    edit->setFocusProxy(text);
-    if (hadFocus && text) {
-        text->setFocus(Qt::OtherFocusReason);
-    }
-}
-
 void takeText(OlvLineEdit *edit)
 {
     if (edit->focusProxy() && edit->focusProxy() == edit->lineEdit()) {
@@ -164,6 +141,32 @@ void FormKeys::take(FormMember &member)
     }
     if (m_pressed == widget) {
         cancelPress();
+    }
+}
+
+void FormKeys::restoreTabOrder()
+{
+    m_tabOrder.restore();
+}
+
+void FormKeys::giveText(FormMember &member, OlvLineEdit *edit)
+{
+    const QPointer<QLineEdit> text(edit->lineEdit()); // a slot of the focus may delete it
+    if (!text || edit->focusProxy() || edit->focusPolicy() == Qt::NoFocus) {
+        return;
+    }
+    // An order of tabs that was set while the frame was a tab stop has put the widgets that follow
+    // between the frame and its text.
+    m_tabOrder.bring(text, edit);
+    if (OlvSimpleIconButton *button = passwordButton(edit)) {
+        button->setFocusPolicy(Qt::NoFocus);
+    }
+    const QWidget *window = edit->window();
+    const bool hadFocus = window->focusWidget() == edit;
+    member.hasFocusProxy = true;
+    edit->setFocusProxy(text);
+    if (hadFocus && text) {
+        text->setFocus(Qt::OtherFocusReason);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/formmember_p.h"
+#include "forms/taborder_p.h"
 
 class QEvent;
 class QFocusEvent;
@@ -12,9 +13,11 @@ class FormKeys
 {
 public:
     /** Lets a member take the focus, unless the application has decided on that. */
-    static void give(FormMember &member);
+    void give(FormMember &member);
     /** Takes that back, unless the application has changed it. */
     void take(FormMember &member);
+    /** Restores the order of the tabs, once it has been taken from those that are to lose it. */
+    void restoreTabOrder();
 
     /**
      * Does what @p event, which came to @p widget, asks for; returns whether it is done with. The
@@ -23,12 +26,14 @@ public:
     bool handle(QWidget *widget, FormKind kind, QEvent *event);
 
 private:
+    void giveText(FormMember &member, OlvLineEdit *edit);
     bool pressKey(QWidget *widget, FormKind kind, const QKeyEvent &key);
     bool pressKeyOfButton(QWidget *button, const QKeyEvent &key);
     bool pressKeyOfSwitch(QWidget *widget, const QKeyEvent &key);
     bool releaseKey(QWidget *widget, FormKind kind, const QKeyEvent &key);
     void cancelPress();
 
+    TabOrder m_tabOrder;
     QPointer<QWidget> m_pressed;
     bool m_hasComeIn = false;    // the pointer that the press stands for
     bool m_capturesKeys = false; // a shortcut edit has seen a key go down

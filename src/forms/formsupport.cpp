@@ -84,6 +84,7 @@ void OlvFormSupport::Private::leave()
     for (const QPointer<QWidget> &widget : all) {
         release(widget);
     }
+    m_given.restoreTabOrder();
     if (m_form) {
         settle(m_form);
     }
@@ -151,6 +152,9 @@ void OlvFormSupport::Private::settleOne(QWidget *widget)
     for (const Guard &other : qAsConst(others)) {
         if (alive && other && other->d->m_members.at(alive)) {
             other->d->release(alive);
+            if (other) {
+                other->d->m_given.restoreTabOrder();
+            }
         }
         if (alive && other) {
             alive->removeEventFilter(other);

@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRandomGenerator>
 #include <QTest>
 
 namespace {
@@ -34,6 +35,16 @@ public:
     }
 };
 
+/** The widgets of a window in the order of the tabs, those that take no focus as well. */
+QWidgetList focusChain(const QWidget &window)
+{
+    QWidgetList chain;
+    for (QWidget *one = window.nextInFocusChain(); one != &window; one = one->nextInFocusChain()) {
+        chain.append(one);
+    }
+    return chain;
+}
+
 } // namespace
 
 class TestFormFocus : public QObject
@@ -45,6 +56,9 @@ private Q_SLOTS:
     void goesBackwards();
     void followsAnOrderSetBefore();
     void followsAnOrderSetAfterwards();
+    void restoresTheOrder_data();
+    void restoresTheOrder();
+    void leavesAnOrderSetAfterwards();
     void isInTheTextOfALineEdit();
     void goesOnToTheTextOfTheLineEditThatHasIt();
     void leavesAPolicyOfTheApplication();
@@ -111,6 +125,56 @@ void TestFormFocus::followsAnOrderSetAfterwards()
     form.password->setFocus();
     const QWidgetList expected{ form.password->lineEdit(), form.save, form.name->lineEdit() };
     QCOMPARE(tabStops(form, expected.size()), expected);
+}
+
+void TestFormFocus::restoresTheOrder_data()
+{
+    QTest::addColumn<uint>("seed");
+    for (uint seed = 1; seed <= 20; ++seed) {
+        QTest::addRow("order %u", seed) << seed;
+    }
+}
+
+void TestFormFocus::restoresTheOrder()
+{
+    QFETCH(uint, seed);
+    WidgetForm form;
+    new OlvLineEdit(&form);
+    new OlvLineEdit(&form);
+    const auto all = form.findChildren<QWidget *>();
+    QRandomGenerator random(seed);
+    for (int i = 0; i < 2 * all.size(); ++i) {
+        QWidget::setTabOrder(all.at(random.bounded(all.size())),
+                             all.at(random.bounded(all.size())));
+    }
+    const QWidgetList before = focusChain(form);
+    const auto isBehindItsFrame = [](const OlvLineEdit *edit) {
+        return edit->nextInFocusChain() == edit->lineEdit();
+    };
+    const bool isMoved = !isBehindItsFrame(form.name) || !isBehindItsFrame(form.password);
+
+    auto *support = new OlvFormSupport(&form);
+    QVERIFY(isBehindItsFrame(form.name) && isBehindItsFrame(form.password));
+    QVERIFY(!isMoved || focusChain(form) != before);
+    support->setFeatures({});
+    QCOMPARE(focusChain(form), before);
+    support->setFeatures(OlvFormSupport::AllFeatures);
+    delete support;
+    QCOMPARE(focusChain(form), before);
+}
+
+void TestFormFocus::leavesAnOrderSetAfterwards()
+{
+    WidgetForm form;
+    QWidget::setTabOrder(form.password, form.name); // has taken the frame from its text
+    auto *support = new OlvFormSupport(&form);
+    QWidget::setTabOrder(form.name->lineEdit(), form.save);
+    QWidget::setTabOrder(form.save, form.password->lineEdit());
+    const QWidgetList set = focusChain(form);
+    delete form.name;
+    delete support;
+    QCOMPARE(form.save->nextInFocusChain(), form.password->lineEdit());
+    QCOMPARE(set.indexOf(form.password->lineEdit()), set.indexOf(form.save) + 1);
 }
 
 void TestFormFocus::isInTheTextOfALineEdit()
