@@ -7,9 +7,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/** How long, in milliseconds, a busy machine may take. */
-constexpr int patience = 30000;
-
 /**
  * An example as its user runs it: a separate program, with its own settings, that is operated
  * through the X server. Questions about a window refer to the one that was found last.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "patience.h"
+
 #include <OlvShortcut>
 
 #include <QCoreApplication>

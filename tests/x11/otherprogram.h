@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "patience.h"
+
 #include <QProcess>
 #include <QStringList>
 #include <QTest>

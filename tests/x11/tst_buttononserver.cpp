@@ -49,7 +49,7 @@ void TestButtonOnServer::init()
     m_button->setGeometry(50, 30, 120, 40);
     m_clicked = std::make_unique<QSignalSpy>(m_button, &OlvButton::clicked);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     m_input.moveTo(*m_button, m_outside);
     QTRY_COMPARE(QCursor::pos(), m_button->mapToGlobal(m_outside));
     QTRY_COMPARE(state(), QStringLiteral("init"));

@@ -77,7 +77,7 @@ void TestDisabledOnServer::switchIgnoresClicks()
     auto *toggle = new OlvSwitch(m_panel);
     toggle->resize(100, 40);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     toggle->setEnabled(false);
     aim(*toggle, place);
     m_input->click();
@@ -97,7 +97,7 @@ void TestDisabledOnServer::sliderDragEnds()
     auto *slider = new OlvSlider(m_panel);
     SliderRound *knob = knobOf(*slider);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     aim(*slider, { 15, 15 });
     m_input->press();
     m_input->moveTo(*slider, { 95, 15 });
@@ -121,7 +121,7 @@ void TestDisabledOnServer::moveEnds()
     OlvMoveWidget mover(m_panel);
     mover.setMoveArea(QRect());
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     aim(*m_window, { 60, 60 });
     m_input->press();
     m_input->moveTo(*m_window, { 80, 90 });
@@ -139,7 +139,7 @@ void TestDisabledOnServer::panelIsNeitherMovedNorResized()
     mover.setMoveArea(QRect());
     const OlvResizeWidget resizer(m_panel, 8);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     m_panel->setEnabled(false);
     for (const QPoint &from :
          { QPoint(60, 60), QPoint(236, 80), QPoint(80, 136), QPoint(234, 134) }) {
@@ -157,7 +157,7 @@ void TestDisabledOnServer::resizeStops()
 {
     const OlvResizeWidget resizer(m_panel, 8);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     aim(*m_window, { 234, 134 });
     m_input->press();
     m_input->moveTo(*m_window, { 254, 164 });

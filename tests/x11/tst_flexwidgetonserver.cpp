@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "patience.h"
+
 #include <OlvFlexWidget>
 
 #include <QProcess>
@@ -50,7 +52,7 @@ void TestFlexWidgetOnServer::windowManagerSeesATool()
 {
     OlvFlexWidget panel(200, 150);
     panel.show();
-    QVERIFY(QTest::qWaitForWindowActive(&panel));
+    QVERIFY(QTest::qWaitForWindowActive(&panel, patience));
     const auto type = [&] {
         return propertyOf(panel, "_NET_WM_WINDOW_TYPE");
     };

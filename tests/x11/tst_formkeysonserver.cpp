@@ -90,7 +90,7 @@ void TestFormKeysOnServer::init()
     QVERIFY(m_keys->isValid());
     m_dialog = std::make_unique<ServerForm>();
     m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get(), patience));
     // the labels are at the side that a line begins at
     const QWidget *label = m_dialog->form->rows()->labelForField(m_dialog->form->name);
     QCOMPARE(label->x() < m_dialog->form->name->x(), direction == Qt::LeftToRight);

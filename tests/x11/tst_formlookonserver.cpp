@@ -145,7 +145,7 @@ void TestFormLookOnServer::init()
     RealInput().moveTo({ 0, 0 }); // nothing is hovered
     m_dialog = std::make_unique<ServerForm>();
     m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get(), patience));
     QTRY_VERIFY(isStill(*m_dialog));
 }
 

@@ -21,7 +21,7 @@ void TestFramelessGalleryOnServer::isMovedResizedAndControlled()
     FramelessWindow window(QStringLiteral("Gallery"), new GalleryWindow);
     window.resize(800, 600);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     window.move(100, 50);
     RealInput input;
     const auto onServer = [&] {
@@ -70,7 +70,7 @@ void TestFramelessGalleryOnServer::isMovedResizedAndControlled()
     QTest::qWait(50);
     click(OlvControlBar::Top);
     QTRY_VERIFY(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && window.isVisible());
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     QTest::qWait(100);
     click(OlvControlBar::Close);
     QTRY_VERIFY(!window.isVisible());

@@ -68,7 +68,7 @@ void TestFrameOnServer::init()
     mover->setMoveArea(QRect(0, 0, 390, 40));
     m_resizer = new OlvResizeWidget(m_window.get(), 8);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), patience));
     m_window->move(100, 100);
     QTRY_VERIFY(isAt(QRect(100, 100, 400, 300)));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "colors.h"
 #include "gallerywindow.h"
+#include "patience.h"
 #include "pixels.h"
 
 #include <OlvWidgets/OlvWidgets>
@@ -153,7 +154,7 @@ void TestGalleryOnServer::overviewShowsEveryWidget()
 {
     GalleryWindow gallery;
     gallery.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&gallery));
+    QVERIFY(QTest::qWaitForWindowExposed(&gallery, patience));
     QCOMPARE(gallery.pageNames().constFirst(), QStringLiteral("Overview"));
     const QWidget &page = *gallery.findChild<QStackedWidget *>()->currentWidget();
     QVERIFY(shows<OlvButton>(page));

@@ -27,7 +27,7 @@ void TestIconButtonOnServer::tellsAClickFromADoubleClick()
                                    QStringLiteral("FontAwesome"), &window, 100, 100);
     tile->move(40, 40);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     QSignalSpy clicked(tile, &OlvIconButton::clicked);
     QSignalSpy dClicked(tile, &OlvIconButton::dClicked);
 

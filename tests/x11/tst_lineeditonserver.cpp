@@ -34,7 +34,7 @@ void TestLineEditOnServer::aClickPutsTheCaretIntoTheText()
     edit->setGeometry(40, 80, 240, 32);
     window.show();
     other.setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     QTRY_VERIFY(other.hasFocus());
     QCOMPARE(edit->property("state").toString(), QStringLiteral("normal"));
 

@@ -83,7 +83,7 @@ void TestShortcutEditOnServer::typedCombinationWorksInAnotherWindow()
     OlvShortcutEdit edit;
     edit.resize(200, 30);
     edit.show();
-    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    QVERIFY(QTest::qWaitForWindowActive(&edit, patience));
     edit.setFocus();
     QTRY_VERIFY(edit.hasFocus());
     QSignalSpy changed(&edit, &OlvShortcutEdit::shortcutChanged);
@@ -144,7 +144,7 @@ void TestShortcutEditOnServer::combinationThatIsTakenLeavesTheOneBefore()
         { QStringLiteral("hold"), QString::number(symbolF5), QString::number(maskControl) });
     QTRY_COMPARE(other.lines().value(0), QStringLiteral("held"));
     edit.show();
-    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    QVERIFY(QTest::qWaitForWindowActive(&edit, patience));
     QSignalSpy changed(&edit, &OlvShortcutEdit::shortcutChanged);
     QTest::keyPress(&edit, Qt::Key_Control);
     QTest::keyClick(&edit, Qt::Key_F5);

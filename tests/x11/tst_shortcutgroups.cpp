@@ -120,7 +120,7 @@ bool TestShortcutGroups::fires(quint32 symbol, OlvShortcut &shortcut)
 {
     QSignalSpy activated(&shortcut, &OlvShortcut::activated);
     pressWithControl(*m_input, symbol);
-    return !activated.isEmpty() || activated.wait();
+    return !activated.isEmpty() || activated.wait(patience);
 }
 
 bool TestShortcutGroups::isSilent(quint32 symbol, OlvShortcut &shortcut)

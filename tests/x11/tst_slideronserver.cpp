@@ -19,7 +19,7 @@ void TestSliderOnServer::dragsFromEndToEndWithTheRealPointer()
     GalleryWindow gallery;
     QVERIFY(gallery.showPage(QStringLiteral("Sliders")));
     gallery.show();
-    QVERIFY(QTest::qWaitForWindowActive(&gallery));
+    QVERIFY(QTest::qWaitForWindowActive(&gallery, patience));
     auto *slider = static_cast<OlvSlider *>(gallery.findChild<QWidget *>(QStringLiteral("slider")));
     QVERIFY(slider);
     QVERIFY(slider->isVisible());

@@ -31,7 +31,7 @@ void TestSwitchOnServer::aClickSwitchesAQuarterOfASecondLater()
     auto *toggle = new OlvSwitch(&window);
     toggle->setGeometry(40, 40, 100, 40);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, patience));
     auto *knob = reinterpret_cast<QWidget *>(toggle->property("round").toULongLong());
 
     RealInput input;
