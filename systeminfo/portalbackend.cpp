@@ -56,7 +56,7 @@ PortalBackend::PortalBackend(QObject *parent)
                                             QDBusServiceWatcher::WatchForUnregistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
         m_isIntroduced = false;
-        loseAll(QStringLiteral("the portal has ended"));
+        lose(nullptr, QStringLiteral("the portal has ended"));
     });
     m_connection.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                          QStringLiteral("org.freedesktop.DBus.Local"),
@@ -115,7 +115,7 @@ OlvShortcut::State PortalBackend::state(OlvShortcut *shortcut) const
 
 void PortalBackend::takeDisconnection()
 {
-    loseAll(QStringLiteral("the session bus has ended"));
+    lose(nullptr, QStringLiteral("the session bus has ended"));
 }
 
 bool PortalBackend::isHeld(const QString &id) const
@@ -167,7 +167,7 @@ PortalSession *PortalBackend::newSession()
     connect(session, &PortalSession::activated, this,
             [=](const QString &id) { activate(session, id); });
     connect(session, &PortalSession::closed, this,
-            [=] { lose({ session }, QStringLiteral("the desktop has taken them back")); });
+            [=] { lose(session, QStringLiteral("the desktop has taken them back")); });
     m_sessions.append(session);
     return session;
 }
@@ -233,20 +233,22 @@ void PortalBackend::activate(PortalSession *session, const QString &id)
     }
 }
 
-/** What was bound or pending in these sessions is so no longer. */
-void PortalBackend::lose(Sessions sessions, const QString &reason)
+/** What was bound or pending in a session, or in all of them for null, is so no longer. */
+void PortalBackend::lose(PortalSession *ended, const QString &reason)
 {
     Emissions emissions;
     QStringList lost;
     {
+        // before the list is read, too: another thread that releases a shortcut may end a session
         const std::lock_guard<std::mutex> lock(mutex());
+        const Sessions sessions = ended ? Sessions{ ended } : m_sessions;
         for (auto it = m_registrations.begin(); it != m_registrations.end(); ++it) {
             if (sessions.contains(it->session)) {
                 lost.append(it->wanted.id);
                 setState(it, OlvShortcut::Inactive, &emissions);
             }
         }
-        for (PortalSession *session : qAsConst(sessions)) {
+        for (PortalSession *session : sessions) {
             endIfUnused(session);
         }
     }
@@ -254,17 +256,6 @@ void PortalBackend::lose(Sessions sessions, const QString &reason)
     for (const auto &emit : qAsConst(emissions)) {
         emit();
     }
-}
-
-void PortalBackend::loseAll(const QString &reason)
-{
-    Sessions all;
-    {
-        // another thread that releases a shortcut may end a session
-        const std::lock_guard<std::mutex> lock(mutex());
-        all = m_sessions;
-    }
-    lose(all, reason);
 }
 
 void PortalBackend::setState(Registrations::iterator registration, OlvShortcut::State state,

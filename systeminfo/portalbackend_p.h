@@ -58,8 +58,7 @@ private:
     void introduceProgram(PortalSession *session, const std::function<void()> &next);
     void settle(PortalSession *session, const QString &reason);
     void activate(PortalSession *session, const QString &id);
-    void lose(Sessions sessions, const QString &reason);
-    void loseAll(const QString &reason);
+    void lose(PortalSession *ended, const QString &reason);
     void setState(Registrations::iterator registration, OlvShortcut::State state,
                   Emissions *emissions);
     void addEmission(OlvShortcut *shortcut, const std::function<void(OlvShortcut *)> &emission,

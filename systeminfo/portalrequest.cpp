@@ -3,7 +3,6 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QTimer>
 
 QDBusMessage Portal::call(const char *interface, const char *method)
 {
@@ -32,7 +31,13 @@ QString Portal::objectPath(const QDBusConnection &connection, const char *kind,
 PortalRequest::PortalRequest(const QDBusConnection &connection, QObject *parent)
     : QObject(parent)
     , m_connection(connection)
-{ }
+    , m_limit(this)
+{
+    m_limit.setSingleShot(true);
+    m_limit.setInterval(patience);
+    connect(&m_limit, &QTimer::timeout, this,
+            [this] { fail(QStringLiteral("it does not answer")); });
+}
 
 PortalRequest::~PortalRequest()
 {
@@ -64,7 +69,7 @@ void PortalRequest::send(QDBusMessage call, QVariantMap options)
 
 void PortalRequest::limitTime()
 {
-    QTimer::singleShot(patience, this, [this] { fail(QStringLiteral("it does not answer")); });
+    m_limit.start();
 }
 
 void PortalRequest::takeResponse(uint code, const QVariantMap &results)
@@ -86,6 +91,7 @@ void PortalRequest::fail(const QString &reason)
 void PortalRequest::stopListening()
 {
     m_isOpen = false;
+    m_limit.stop();
     m_connection.disconnect(QLatin1String(Portal::service), m_path, QLatin1String(Portal::request),
                             QStringLiteral("Response"), this,
                             SLOT(takeResponse(uint, QVariantMap)));

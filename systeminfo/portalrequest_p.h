@@ -4,6 +4,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QObject>
+#include <QTimer>
 #include <QVariantMap>
 
 /** The portal's name, object and interfaces on the session bus. */
@@ -64,5 +65,7 @@ private:
 
     QDBusConnection m_connection;
     QString m_path;
+    /** A child of this object, so that the tests find it, and let it end sooner. */
+    QTimer m_limit;
     bool m_isOpen = false;
 };

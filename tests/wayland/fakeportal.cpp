@@ -10,7 +10,6 @@ namespace {
 
 const char serviceName[] = "org.freedesktop.portal.Desktop";
 const char portalPath[] = "/org/freedesktop/portal/desktop";
-const char connectionName[] = "fake portal";
 
 QString pathOf(const char *kind, const QString &sender, const QVariant &token)
 {
@@ -201,6 +200,9 @@ void FakePortal::answer(const QDBusMessage &call, const QVariantMap &options, ui
 {
     const QString path =
         pathOf("request", call.service(), options.value(QStringLiteral("handle_token")));
+    if (isFrozen) {
+        return;
+    }
     m_connection.send(call.createReply(QVariant::fromValue(QDBusObjectPath(path))));
     if (isMute) {
         return;

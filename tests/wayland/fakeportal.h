@@ -17,6 +17,9 @@ class FakePortal : public QDBusVirtualObject
     Q_OBJECT
 
 public:
+    /** The name of its connection to the session bus. */
+    static constexpr char connectionName[] = "fake portal";
+
     FakePortal();
     ~FakePortal() override;
 
@@ -32,6 +35,8 @@ public:
      */
     bool isMuteForSessions = false;
     bool isMuteForShortcuts = false;
+    /** Whether it does not even reply to calls. */
+    bool isFrozen = false;
     /** Whether it answers with values of other types than it should. */
     bool isConfused = false;
     /** Whether it takes calls only from programs that have told their name. */

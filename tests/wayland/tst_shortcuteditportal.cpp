@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "fakeportal.h"
 #include "keyplay.h"
-#include "notingshortcut.h"
+#include "portalscene.h"
 
 #include <OlvShortcutEdit>
 
@@ -36,14 +35,14 @@ private:
         return m_edit->getValue().toString();
     }
 
-    std::unique_ptr<FakePortal> m_portal;
+    PortalScene m_scene;
     std::unique_ptr<OlvShortcutEdit> m_edit;
     QStringList m_signals;
 };
 
 void TestShortcutEditPortal::init()
 {
-    m_portal = std::make_unique<FakePortal>();
+    m_scene.begin();
     m_edit = std::make_unique<OlvShortcutEdit>();
     m_signals.clear();
     connect(m_edit.get(), &OlvShortcutEdit::shortcutChanged, this, [this](OlvShortcut *shortcut) {
@@ -57,9 +56,7 @@ void TestShortcutEditPortal::init()
 void TestShortcutEditPortal::cleanup()
 {
     m_edit.reset();
-    QTRY_COMPARE(m_portal->bound(), QStringList());
-    m_portal.reset();
-    QTest::qWait(50);
+    m_scene.end();
 }
 
 void TestShortcutEditPortal::takesItOverOnceItIsGranted()
@@ -74,9 +71,9 @@ void TestShortcutEditPortal::takesItOverOnceItIsGranted()
         m_signals,
         QStringList({ QStringLiteral("shortcut Ctrl+F5"), QStringLiteral("value Ctrl+F5") }));
     QCOMPARE(m_edit->shortcut(), shortcut);
-    m_portal->press(portalId("F5"));
+    m_scene.portal->press(portalId("F5"));
     QTRY_COMPARE(shortcut->presses, 1);
-    QCOMPARE(m_portal->calls().count(), 2);
+    QCOMPARE(m_scene.portal->calls().count(), 2);
 }
 
 void TestShortcutEditPortal::keepsTheOneBeforeWhenItIsRefused()
@@ -84,7 +81,7 @@ void TestShortcutEditPortal::keepsTheOneBeforeWhenItIsRefused()
     type("+ctrl +f5 -f5 -ctrl");
     QTRY_COMPARE(value(), QStringLiteral("Ctrl+F5"));
     m_signals.clear();
-    m_portal->refusesAll = true;
+    m_scene.portal->refusesAll = true;
     const QPointer<OlvShortcut> refused(new NotingShortcut(Qt::Key_A));
     expectWarning("they have not been confirmed");
     QVERIFY(!m_edit->setShortcut(refused));
@@ -92,7 +89,7 @@ void TestShortcutEditPortal::keepsTheOneBeforeWhenItIsRefused()
     QTRY_VERIFY(!refused);
     QCOMPARE(value(), QStringLiteral("Ctrl+F5"));
     QCOMPARE(m_signals, QStringList());
-    QCOMPARE(m_portal->bound(), QStringList{ portalId("F5") });
+    QCOMPARE(m_scene.portal->bound(), QStringList{ portalId("F5") });
 }
 
 void TestShortcutEditPortal::lastOneCounts()
@@ -102,12 +99,12 @@ void TestShortcutEditPortal::lastOneCounts()
     type("+ctrl +a -a -ctrl");
     QVERIFY(!first);
     QTRY_COMPARE(value(), QStringLiteral("Ctrl+A"));
-    QCOMPARE(m_portal->bound(), QStringList{ portalId("a") });
+    QCOMPARE(m_scene.portal->bound(), QStringList{ portalId("a") });
     // in place of the one that is held, which is released
     type("+ctrl +b -b -ctrl");
     QCOMPARE(value(), QStringLiteral("Ctrl+A"));
     QTRY_COMPARE(value(), QStringLiteral("Ctrl+B"));
-    QTRY_COMPARE(m_portal->bound(), QStringList{ portalId("b") });
+    QTRY_COMPARE(m_scene.portal->bound(), QStringList{ portalId("b") });
 }
 
 void TestShortcutEditPortal::clearGivesUpWhatIsPending()
@@ -116,9 +113,9 @@ void TestShortcutEditPortal::clearGivesUpWhatIsPending()
     QVERIFY(!m_edit->setShortcut(shortcut));
     m_edit->clear();
     QVERIFY(!shortcut);
-    QTest::qWait(300);
+    QTest::qWait(settlingTime);
     QCOMPARE(m_signals, QStringList());
-    QCOMPARE(m_portal->bound(), QStringList());
+    QCOMPARE(m_scene.portal->bound(), QStringList());
 }
 
 void TestShortcutEditPortal::goesWithWhatIsPending()
@@ -128,8 +125,8 @@ void TestShortcutEditPortal::goesWithWhatIsPending()
     QTest::qWait(60);
     m_edit.reset();
     QVERIFY(!shortcut);
-    QTest::qWait(300);
-    QCOMPARE(m_portal->bound(), QStringList());
+    QTest::qWait(settlingTime);
+    QCOMPARE(m_scene.portal->bound(), QStringList());
 }
 
 void TestShortcutEditPortal::mayBeDeletedWhenItIsGranted()
@@ -148,11 +145,10 @@ void TestShortcutEditPortal::keepsWhatTheDesktopTakesBack()
     QTRY_COMPARE(m_edit->shortcut(), shortcut);
     m_signals.clear();
     expectWarning("the portal has ended");
-    m_portal.reset();
+    m_scene.portal.reset();
     QTRY_COMPARE(shortcut->state(), OlvShortcut::Inactive);
     QCOMPARE(value(), QStringLiteral("Ctrl+F5"));
     QCOMPARE(m_signals, QStringList());
-    m_portal = std::make_unique<FakePortal>();
 }
 
 QTEST_MAIN(TestShortcutEditPortal)
