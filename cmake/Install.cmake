@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 include(CMakePackageConfigHelpers)
 
-set(olv_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OlvWidgets)
-set(olv_qmake_dir ${CMAKE_INSTALL_LIBDIR}/qt5/mkspecs/modules)
+set(olv_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/OlvWidgets${OLV_SUFFIX})
+set(olv_qmake_dir ${CMAKE_INSTALL_LIBDIR}/qt${OLVWIDGETS_QT_MAJOR}/mkspecs/modules)
 
 # The components match the packages of a distribution: one for each library, one for developers, and one
 # for the Designer plugin, which its own folder installs.
@@ -22,13 +22,13 @@ foreach(library OlvSystemInfo OlvWidgets)
 endforeach()
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/OlvWidgetsConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake
+    ${PROJECT_BINARY_DIR}/OlvWidgets${OLV_SUFFIX}Config.cmake
     INSTALL_DESTINATION ${olv_cmake_dir})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/OlvWidgetsConfigVersion.cmake
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/OlvWidgets${OLV_SUFFIX}ConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
 install(FILES
-    ${PROJECT_BINARY_DIR}/OlvWidgetsConfig.cmake
-    ${PROJECT_BINARY_DIR}/OlvWidgetsConfigVersion.cmake
+    ${PROJECT_BINARY_DIR}/OlvWidgets${OLV_SUFFIX}Config.cmake
+    ${PROJECT_BINARY_DIR}/OlvWidgets${OLV_SUFFIX}ConfigVersion.cmake
     DESTINATION ${olv_cmake_dir}
     COMPONENT development)
 
@@ -39,8 +39,8 @@ file(RELATIVE_PATH olv_prefix_from_pkgconfig
 file(RELATIVE_PATH olv_prefix_from_qmake /prefix/${olv_qmake_dir} /prefix)
 foreach(module OlvWidgets OlvSystemInfo)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${module}.pc.in
-        ${PROJECT_BINARY_DIR}/${module}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/${module}.pc
+        ${PROJECT_BINARY_DIR}/${module}${OLV_SUFFIX}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${module}${OLV_SUFFIX}.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
         COMPONENT development)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/qt_${module}.pri.in

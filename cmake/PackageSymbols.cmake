@@ -2,14 +2,16 @@
 # Run by CPack after the installation and before the packages are made: compares each library with its
 # symbols file, makes the control files of its package, and tells dpkg-shlibdeps which of the new packages
 # contains which library.
+#
+# CPACK_OLV_LIBRARIES: for each library its component, its name and its package.
 set(version ${CPACK_PACKAGE_VERSION})
 string(REGEX MATCH "^[0-9]+" major ${version})
 
-foreach(pair "widgets libOlvWidgets" "systeminfo libOlvSystemInfo")
-    separate_arguments(pair)
-    list(GET pair 0 component)
-    list(GET pair 1 library)
-    string(TOLOWER ${library}${major} package)
+foreach(library_of_component IN LISTS CPACK_OLV_LIBRARIES)
+    separate_arguments(library_of_component)
+    list(GET library_of_component 0 component)
+    list(GET library_of_component 1 library)
+    list(GET library_of_component 2 package)
     file(GLOB file
         ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr/${CPACK_OLV_LIBDIR}/${library}.so.${version})
     set(control_dir ${CPACK_OLV_GENERATED_DIR}/${package})

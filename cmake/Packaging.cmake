@@ -58,43 +58,54 @@ olv_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog)
 
 set(olv_about
     "OlvWidgets is a library of buttons, icon buttons, text fields, switches,
-sliders, containers and what a window without a frame needs, for Qt 5 programs.")
-olv_package(widgets libolvwidgets${PROJECT_VERSION_MAJOR} libs
-    "ready-made Qt 5 widgets for desktop applications"
+sliders, containers and what a window without a frame needs, for Qt ${OLVWIDGETS_QT_MAJOR} programs.")
+olv_debian_library(OlvWidgets olv_widgets_package)
+olv_debian_library(OlvSystemInfo olv_systeminfo_package)
+set(olv_development_package libolvwidgets${OLV_SUFFIX}-dev)
+set(olv_documentation_package libolvwidgets${OLV_SUFFIX}-doc)
+if(OLVWIDGETS_QT_MAJOR EQUAL 5)
+    set(olv_qt_package qtbase5-dev)
+    set(olv_qt_designer_package qttools5-dev-tools)
+else()
+    set(olv_qt_package qt6-base-dev)
+    set(olv_qt_designer_package designer-qt6)
+endif()
+olv_package(widgets ${olv_widgets_package} libs
+    "ready-made Qt ${OLVWIDGETS_QT_MAJOR} widgets for desktop applications"
     "${olv_about}
 .
 This package contains the library itself."
     LIBRARY
     # has the glyphs of control bars and password buttons
     RECOMMENDS fonts-font-awesome)
-olv_package(systeminfo libolvsysteminfo${PROJECT_VERSION_MAJOR} libs
-    "shortcuts on the whole desktop for Qt 5 programs"
-    "OlvSystemInfo lets a Qt 5 program register keyboard shortcuts that work on the
+olv_package(systeminfo ${olv_systeminfo_package} libs
+    "shortcuts on the whole desktop for Qt ${OLVWIDGETS_QT_MAJOR} programs"
+    "OlvSystemInfo lets a Qt ${OLVWIDGETS_QT_MAJOR} program register keyboard shortcuts that work on the
 whole desktop, whichever window has the focus. It belongs to OlvWidgets.
 .
 This package contains the library itself."
     LIBRARY)
-olv_package(development libolvwidgets-dev libdevel
-    "ready-made Qt 5 widgets (development files)"
+olv_package(development ${olv_development_package} libdevel
+    "ready-made Qt ${OLVWIDGETS_QT_MAJOR} widgets (development files)"
     "${olv_about}
 .
 This package contains the headers, and what CMake, pkg-config and qmake need
 to build programs with it and with the library OlvSystemInfo."
     DEPENDS
-    "libolvwidgets${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
-    "libolvsysteminfo${PROJECT_VERSION_MAJOR} (= ${olv_debian_version})"
-    "qtbase5-dev (>= ${OLVWIDGETS_QT_VERSION})"
-    SUGGESTS libolvwidgets-doc)
-olv_package(designer olvwidgets-designer libdevel
-    "ready-made Qt 5 widgets (Qt Designer plugin)"
+    "${olv_widgets_package} (= ${olv_debian_version})"
+    "${olv_systeminfo_package} (= ${olv_debian_version})"
+    "${olv_qt_package} (>= ${OLVWIDGETS_QT_VERSION})"
+    SUGGESTS ${olv_documentation_package})
+olv_package(designer olvwidgets${OLV_SUFFIX}-designer libdevel
+    "ready-made Qt ${OLVWIDGETS_QT_MAJOR} widgets (Qt Designer plugin)"
     "${olv_about}
 .
 This package contains the plugin that offers the widgets in Qt Designer, and
 lets programs load forms that use them."
-    ENHANCES qttools5-dev-tools)
+    ENHANCES ${olv_qt_designer_package})
 if(OLVWIDGETS_BUILD_DOCS)
-    olv_package(documentation libolvwidgets-doc doc
-        "ready-made Qt 5 widgets (documentation)"
+    olv_package(documentation ${olv_documentation_package} doc
+        "ready-made Qt ${OLVWIDGETS_QT_MAJOR} widgets (documentation)"
         "${olv_about}
 .
 This package contains the documentation of the classes and the guides, as a
@@ -122,6 +133,9 @@ set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/PackageScripts.cmake)
 set(CPACK_OLV_PACKAGING_DIR ${olv_packaging_dir})
 set(CPACK_OLV_GENERATED_DIR ${PROJECT_BINARY_DIR}/packaging)
 set(CPACK_OLV_LIBDIR ${CMAKE_INSTALL_LIBDIR})
+set(CPACK_OLV_LIBRARIES
+    "widgets libOlvWidgets${OLV_SUFFIX} ${olv_widgets_package}"
+    "systeminfo libOlvSystemInfo${OLV_SUFFIX} ${olv_systeminfo_package}")
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE ${olv_debian_revision})

@@ -52,11 +52,11 @@ function(olv_public_headers target)
         $<BUILD_INTERFACE:${source_dir}>
         $<BUILD_INTERFACE:${generated_dir}>
         $<BUILD_INTERFACE:${generated_dir}/${target}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${target}>)
+        $<INSTALL_INTERFACE:${OLV_INCLUDEDIR}>
+        $<INSTALL_INTERFACE:${OLV_INCLUDEDIR}/${target}>)
     if(OLVWIDGETS_INSTALL)
         install(FILES ${installed}
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${target}
+            DESTINATION ${OLV_INCLUDEDIR}/${target}
             COMPONENT development)
     endif()
 endfunction()

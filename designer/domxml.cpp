@@ -39,7 +39,12 @@ void writeFont(QXmlStreamWriter &xml, const QFont &font)
 {
     xml.writeStartElement(QStringLiteral("font"));
     xml.writeTextElement(QStringLiteral("family"), font.family());
-    if (font.resolve() & QFont::SizeResolved) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const uint resolved = font.resolveMask();
+#else
+    const uint resolved = font.resolve();
+#endif
+    if (resolved & QFont::SizeResolved) {
         writeNumber(xml, "pointsize", font.pointSize());
     }
     xml.writeEndElement();

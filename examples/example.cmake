@@ -1,7 +1,12 @@
 # SPDX-License-Identifier: MIT
 # Shared by the examples. Each of them can also be configured alone, with an installed library.
+set(OLVWIDGETS_QT_MAJOR 5 CACHE STRING "The major version of Qt to build with: 5 or 6")
 if(NOT TARGET OlvWidgets::OlvWidgets)
-    find_package(OlvWidgets 1.0 REQUIRED)
+    if(OLVWIDGETS_QT_MAJOR EQUAL 5)
+        find_package(OlvWidgets 1.0 REQUIRED)
+    else()
+        find_package(OlvWidgets-qt6 1.0 REQUIRED)
+    endif()
 endif()
 
 find_file(OLVWIDGETS_ICON_FONT FontAwesome.otf

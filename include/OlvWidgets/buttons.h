@@ -2,6 +2,7 @@
 #pragma once
 
 #include <OlvWidgets/olvwidgets_export.h>
+#include <OlvWidgets/support.h>
 #include <OlvWidgets/widget.h>
 
 #include <QChar>
@@ -113,7 +114,7 @@ protected:
     /** Any mouse button: inside, emits clicked(), then toggles a checkable button. */
     void mouseReleaseEvent(QMouseEvent *event) override;
     /** Shows the hover look, also while a mouse button is held. */
-    void enterEvent(QEvent *event) override;
+    void enterEvent(OlvEnterEvent *event) override;
     /** Goes back to rest unless a mouse button is held. */
     void leaveEvent(QEvent *event) override;
     /** Draws the button from its properties. */
@@ -212,7 +213,7 @@ protected:
     /** Any mouse button: inside, counts the release and flips value and checked flag. */
     void mouseReleaseEvent(QMouseEvent *event) override;
     /** Shows the hover look. */
-    void enterEvent(QEvent *event) override;
+    void enterEvent(OlvEnterEvent *event) override;
     /** Goes back to rest unless a mouse button is held. */
     void leaveEvent(QEvent *event) override;
     /** Draws the glyph, the caption and the frame over them. */

@@ -55,8 +55,9 @@ void AccessibleShortcutEdit::setCursorPosition(int /*position*/) { }
 QString AccessibleShortcutEdit::text(int start, int end) const
 {
     const QString all = value().toString();
-    const int first = qBound(0, start, all.size());
-    return all.mid(first, qBound(first, end, all.size()) - first);
+    const int length = int(all.size());
+    const int first = qBound(0, start, length);
+    return all.mid(first, qBound(first, end, length) - first);
 }
 
 QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBoundaryType boundary,
@@ -67,9 +68,10 @@ QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBounda
     }
     // as Qt does it, whose own function does not return at the end of the text
     const QString whole = value().toString();
-    const int place = offset == -1 ? whole.size() : offset;
+    const int length = int(whole.size());
+    const int place = offset == -1 ? length : offset;
     *start = *end = -1;
-    if (whole.isEmpty() || place < 0 || place > whole.size()) {
+    if (whole.isEmpty() || place < 0 || place > length) {
         return QString();
     }
     QTextBoundaryFinder finder(boundary == QAccessible::WordBoundary
@@ -80,11 +82,11 @@ QString AccessibleShortcutEdit::textAtOffset(int offset, QAccessible::TextBounda
     while (finder.position() > 0 && !isEdge(finder)) {
         finder.toPreviousBoundary();
     }
-    *start = finder.position();
+    *start = int(finder.position());
     do {
         finder.toNextBoundary();
     } while (finder.position() >= 0 && !isEdge(finder));
-    *end = finder.position() < 0 ? whole.size() : finder.position();
+    *end = finder.position() < 0 ? length : int(finder.position());
     return whole.mid(*start, *end - *start);
 }
 
@@ -97,7 +99,7 @@ QAccessible::State AccessibleShortcutEdit::state() const
 
 int AccessibleShortcutEdit::characterCount() const
 {
-    return value().toString().size();
+    return int(value().toString().size());
 }
 
 QRect AccessibleShortcutEdit::characterRect(int /*offset*/) const

@@ -42,7 +42,7 @@ void AccessibleSlider::setCurrentValue(const QVariant &value)
     if (!slider || !slider->isEnabled() || !isNumber || qIsNaN(wanted)) {
         return;
     }
-    const int progress = qRound(qBound<double>(lowest, wanted, highest));
+    const int progress = qRound(qBound(double(lowest), wanted, double(highest)));
     if (auto *knob = childAtAddress<SliderRound>(slider, property(ValueProperties::sliderKnob))) {
         knob->dragTo(progress);
     } else {

@@ -123,12 +123,12 @@ QAccessibleInterface *AccessibleWidget::child(int index) const
 
 int AccessibleWidget::childCount() const
 {
-    return children().size();
+    return int(children().size());
 }
 
 int AccessibleWidget::indexOfChild(const QAccessibleInterface *child) const
 {
-    return child ? children().indexOf(qobject_cast<QWidget *>(child->object())) : -1;
+    return child ? int(children().indexOf(qobject_cast<QWidget *>(child->object()))) : -1;
 }
 
 QString AccessibleWidget::text(QAccessible::Text kind) const

@@ -159,7 +159,7 @@ void OlvButton::mouseReleaseEvent(QMouseEvent * /*event*/)
     }
 }
 
-void OlvButton::enterEvent(QEvent * /*event*/)
+void OlvButton::enterEvent(OlvEnterEvent * /*event*/)
 {
     ButtonState::enter(this);
 }

@@ -143,7 +143,7 @@ void OlvIconButton::mouseReleaseEvent(QMouseEvent * /*event*/)
     }
 }
 
-void OlvIconButton::enterEvent(QEvent * /*event*/)
+void OlvIconButton::enterEvent(OlvEnterEvent * /*event*/)
 {
     ButtonState::enter(this);
 }

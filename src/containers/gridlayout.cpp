@@ -160,7 +160,7 @@ void OlvGridLayout::clear()
 
 int OlvGridLayout::count() const
 {
-    return d->tiles.all().size();
+    return int(d->tiles.all().size());
 }
 
 QWidget *OlvGridLayout::widgetAt(int index) const
@@ -170,7 +170,7 @@ QWidget *OlvGridLayout::widgetAt(int index) const
 
 int OlvGridLayout::indexOf(QWidget *widget) const
 {
-    return d->tiles.all().indexOf(widget);
+    return int(d->tiles.all().indexOf(widget));
 }
 
 bool OlvGridLayout::retainSizeWhenHidden() const

@@ -42,7 +42,7 @@ int GridScrollBar::valueAfter(const QWheelEvent *event, const QScrollBar *bar)
 {
     const int units = deltaOf(event) < 0 ? unitsPerNotch : -unitsPerNotch;
     // an application may have set any range
-    return int(qBound<qint64>(0, qint64(bar->value()) + units, bar->maximum()));
+    return int(qBound(qint64(0), bar->value() + qint64(units), qint64(bar->maximum())));
 }
 
 int GridScrollBar::maximum(int hiddenHeight, bool isRoundedUp)
@@ -57,5 +57,5 @@ int GridScrollBar::valueShowing(qint64 top, qint64 bottom, int height, int value
     };
     const qint64 last = top / pixelsPerUnit;
     const qint64 first = qMin(unitsUpTo(bottom - height), last);
-    return toPixels(qBound<qint64>(qMax<qint64>(first, 0), value, qMax<qint64>(last, 0)));
+    return toPixels(qBound(qMax<qint64>(first, 0), qint64(value), qMax<qint64>(last, 0)));
 }

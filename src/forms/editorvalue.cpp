@@ -4,6 +4,8 @@
 #include <OlvWidgets/input.h>
 #include <OlvWidgets/value.h>
 
+#include "support/qtversion_p.h"
+
 #include <QKeySequence>
 #include <QPointer>
 #include <QtMath>
@@ -31,15 +33,15 @@ int toPercent(const QVariant &value)
 OlvShortcut *shortcutOf(const QString &text)
 {
     const QKeySequence sequence = QKeySequence::fromString(text, QKeySequence::NativeText);
-    if (sequence.count() != 1 || sequence[0] == Qt::Key_unknown) {
+    const int keys = sequence.isEmpty() ? 0 : QtVersion::combined(sequence[0]);
+    if (sequence.count() != 1 || keys == Qt::Key_unknown) {
         return nullptr;
     }
     const auto has = [&](Qt::KeyboardModifier modifier) {
-        return (sequence[0] & modifier) != 0;
+        return (keys & int(modifier)) != 0;
     };
-    return new OlvShortcut(Qt::Key(sequence[0] & ~int(Qt::KeyboardModifierMask)),
-                           has(Qt::ControlModifier), has(Qt::ShiftModifier), has(Qt::AltModifier),
-                           has(Qt::MetaModifier));
+    return new OlvShortcut(Qt::Key(keys & ~int(Qt::KeyboardModifierMask)), has(Qt::ControlModifier),
+                           has(Qt::ShiftModifier), has(Qt::AltModifier), has(Qt::MetaModifier));
 }
 
 void show(OlvShortcutEdit *editor, const QVariant &value)
@@ -115,7 +117,8 @@ QVariant EditorValue::converted(const QVariant &value, const QVariant &replaced)
         return value.userType() == QMetaType::Bool ? QVariant(value.toInt()) : value;
     }
     QVariant result = value;
-    const bool isConverted = !replaced.isNull() && result.canConvert(replaced.userType())
-        && result.convert(replaced.userType());
+    const bool isConverted = !replaced.isNull()
+        && QtVersion::canConvert(result, replaced.userType())
+        && QtVersion::convert(&result, replaced.userType());
     return isConverted ? result : value;
 }

@@ -11,6 +11,7 @@
 #include "input/inputlook_p.h"
 #include "input/inputproperties_p.h"
 #include "painting/contrast_p.h"
+#include "support/qtversion_p.h"
 
 #include <QApplication>
 #include <QCache>
@@ -33,16 +34,19 @@ constexpr double strongPlaceholder = 7.0;
 constexpr int maxBrushes = 64;
 
 /** What the style sheet of the text sets in its palette. */
-constexpr uint sheetRoles = 1U << QPalette::Base | 1U << QPalette::Window | 1U << QPalette::Button;
+constexpr QPalette::ColorRole sheetRoles[] = { QPalette::Base, QPalette::Window, QPalette::Button };
 
-uint bitOf(QPalette::ColorRole role)
-{
-    return 1U << role;
-}
-
+/** Whether a palette has a role of its own in some group; in Qt 5 it has it in all of them then. */
 bool hasOwn(const QPalette &palette, QPalette::ColorRole role)
 {
-    return (palette.resolve() & bitOf(role)) != 0;
+    return std::any_of(std::begin(groups), std::end(groups),
+                       [&](QPalette::ColorGroup group) { return palette.isBrushSet(group, role); });
+}
+
+void unset(QPalette *palette, QPalette::ColorGroup group, QPalette::ColorRole role)
+{
+    const quint64 mask = QtVersion::resolveMask(*palette) & ~QtVersion::maskOf(group, role);
+    QtVersion::setResolveMask(palette, mask);
 }
 
 std::array<QRgb, 3> colorsOf(const QPalette &palette, QPalette::ColorRole role)
@@ -60,15 +64,16 @@ TextColors::Colors colorsOf(const QPalette &palette)
     return colors;
 }
 
-/** The brushes of a role, in all groups, of another palette; none if that has none of its own. */
+/** The brushes of a role, in all groups, of another palette; none where that has none of its own.
+ */
 void copyRole(QPalette *to, const QPalette &from, QPalette::ColorRole role)
 {
-    if (hasOwn(from, role)) {
-        for (const QPalette::ColorGroup group : groups) {
+    for (const QPalette::ColorGroup group : groups) {
+        if (from.isBrushSet(group, role)) {
             to->setBrush(group, role, from.brush(group, role));
+        } else if (to->isBrushSet(group, role)) {
+            unset(to, group, role);
         }
-    } else {
-        to->resolve(to->resolve() & ~bitOf(role));
     }
 }
 
@@ -93,7 +98,7 @@ std::shared_ptr<const TextColors> shared(const TextColors &colors)
     static std::weak_ptr<const TextColors> latest;
     std::shared_ptr<const TextColors> same = latest.lock();
     if (same && same->given == colors.given && same->own == colors.own
-        && same->own.resolve() == colors.own.resolve()) {
+        && QtVersion::resolveMask(same->own) == QtVersion::resolveMask(colors.own)) {
         return same;
     }
     same = std::make_shared<const TextColors>(colors);
@@ -121,7 +126,7 @@ QColor disabled(const QColor &color, double strong, bool fades)
 {
     QColor result = Contrast::atLeast(strong, color, ground);
     if (!fades) {
-        result.setAlphaF(DisabledLook::opacity);
+        result.setAlphaF(float(DisabledLook::opacity));
         result = Contrast::seen(result, ground);
     }
     return result;
@@ -188,7 +193,8 @@ QPalette withoutGiven(QPalette palette, const QPalette &own)
 
 bool hasSheet(const QPalette &palette)
 {
-    return (palette.resolve() & sheetRoles) == sheetRoles;
+    return std::all_of(std::begin(sheetRoles), std::end(sheetRoles),
+                       [&](QPalette::ColorRole role) { return hasOwn(palette, role); });
 }
 
 void fitText(FormMember &member, QLineEdit *text, bool fades)
@@ -200,7 +206,7 @@ void fitText(FormMember &member, QLineEdit *text, bool fades)
     const QPalette own = ownOf(before, member.colors.get());
     // a widget with a style sheet inherits the application's palette, not its parent's
     QPalette ofApplication = QApplication::palette(text);
-    ofApplication.resolve(0);
+    QtVersion::setResolveMask(&ofApplication, 0);
     const QPalette natural = withoutGiven(before, own).resolve(ofApplication);
     const QPalette after = readable(natural, fades);
     if (after != before) {

@@ -119,7 +119,7 @@ int wrappedLines(const QString &text, int width, Advances &advances,
     const QChar *position = begin;
     int lines = 0;
     while (position != end) {
-        const int found = text.indexOf(newline, int(position - begin));
+        const auto found = text.indexOf(newline, int(position - begin));
         const QChar *const paragraphEnd = found < 0 ? end : begin + found;
         while (position != paragraphEnd) {
             if (lines == most) {

@@ -120,7 +120,7 @@ OlvControlBar::~OlvControlBar() = default;
 
 QList<QChar> OlvControlBar::formIcons()
 {
-    return { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2 };
+    return { u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1', u'\uf2d0', u'\uf00d', u'\uf2d2' };
 }
 
 QPushButton *OlvControlBar::addButton(const QList<QChar> &icons, int icon, int index,

@@ -2,6 +2,7 @@
 #include "frame/systemmove_p.h"
 
 #include "support/platform_p.h"
+#include "support/qtversion_p.h"
 
 #include <QMouseEvent>
 #include <QPointer>
@@ -15,13 +16,14 @@ namespace {
 /** Tells @p window that the buttons that are held during @p move are released. */
 void releaseButtons(const QPointer<QWindow> &window, const QMouseEvent *move)
 {
+    const QPointF place = QtVersion::windowPosition(move);
     Qt::MouseButtons held = move->buttons();
     for (uint bit = Qt::LeftButton; held != Qt::NoButton && window; bit <<= 1) {
         const auto button = Qt::MouseButton(bit);
         if (held.testFlag(button)) {
             held.setFlag(button, false);
-            QMouseEvent release(QEvent::MouseButtonRelease, move->windowPos(), move->windowPos(),
-                                move->screenPos(), button, held, move->modifiers());
+            QMouseEvent release(QEvent::MouseButtonRelease, place, place,
+                                QtVersion::globalPosition(move), button, held, move->modifiers());
             QCoreApplication::sendEvent(window, &release);
         }
     }

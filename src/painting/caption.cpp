@@ -98,9 +98,9 @@ struct Key
             && a.ground == b.ground && a.family == b.family && a.substitutes == b.substitutes
             && a.widgetFont == b.widgetFont;
     }
-    friend uint qHash(const Key &key, uint seed)
+    friend QtVersion::Hash qHash(const Key &key, QtVersion::Hash seed)
     {
-        const uint hash =
+        const QtVersion::Hash hash =
             qHashRange(key.colors.cbegin(), key.colors.cend(), ::qHash(key.text, seed));
         return qHashRange(key.numbers.cbegin(), key.numbers.cend(), hash);
     }

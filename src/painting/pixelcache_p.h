@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/qtversion_p.h"
+
 #include <QCache>
 #include <QSize>
 
@@ -37,8 +39,8 @@ public:
      */
     bool admits(const Key &key)
     {
-        const uint hash = qHash(key, 0);
-        uint &missed = m_missed[hash % m_missed.size()];
+        const QtVersion::Hash hash = qHash(key, 0);
+        QtVersion::Hash &missed = m_missed[hash % m_missed.size()];
         const bool isSecondMiss = missed == hash;
         missed = isSecondMiss ? 0 : hash; // once evicted, it has to miss twice again
         return isSecondMiss;
@@ -61,5 +63,5 @@ private:
 
     QCache<Key, Pixels> m_entries;
     /** The hashes of keys that have missed once, at a place of each hash's own. */
-    std::array<uint, 256> m_missed{};
+    std::array<QtVersion::Hash, 256> m_missed{};
 };

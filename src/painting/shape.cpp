@@ -53,7 +53,7 @@ struct Shape::Key
             && a.lineWidth == b.lineWidth;
     }
 
-    friend uint qHash(const Key &key, uint seed)
+    friend QtVersion::Hash qHash(const Key &key, QtVersion::Hash seed)
     {
         const std::array<int, 5> numbers{ key.kind, key.size.width(), key.size.height(), key.radius,
                                           key.lineWidth };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/qtversion_p.h"
+
 #include <QMouseEvent>
 #include <QtMath>
 
@@ -17,6 +19,6 @@ inline QPoint mousePosition(const QMouseEvent *event)
     const auto rounded = [=](qreal place) {
         return qIsNaN(place) ? 0 : qRound(qBound(-farthest, place, farthest));
     };
-    const QPointF place = event->localPos();
+    const QPointF place = QtVersion::localPosition(event);
     return QPoint(rounded(place.x()), rounded(place.y()));
 }

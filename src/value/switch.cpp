@@ -32,7 +32,7 @@ constexpr int lastMovingStep = 3; // counted from 0; the step after it is the en
 /** Cut off towards zero, and bounded to the coordinates that a widget can have. */
 int truncated(double x)
 {
-    return int(qBound<double>(-QWIDGETSIZE_MAX, qIsNaN(x) ? 0.0 : x, QWIDGETSIZE_MAX));
+    return int(qBound(double(-QWIDGETSIZE_MAX), qIsNaN(x) ? 0.0 : x, double(QWIDGETSIZE_MAX)));
 }
 
 QList<QAbstractEventDispatcher::TimerInfo> timersOf(const OlvSwitch *widget)
