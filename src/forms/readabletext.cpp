@@ -223,18 +223,27 @@ void takeText(FormMember &member, QLineEdit *text)
     }
 }
 
-/** Changes the colour of a password button's glyph, unless the application has restyled it. */
-void recolor(OlvLineEdit *edit, const QColor &from, const QColor &to)
+/** The style sheets of password buttons, shared by all buttons: a text of its own is 288 bytes. */
+const QString &restingSheet()
 {
-    OlvSimpleIconButton *button = passwordButton(edit);
-    if (button && button->styleSheet() == toggleSheet(from)) {
-        button->setStyleSheet(toggleSheet(to));
-    }
+    static const QString sheet = toggleSheet(restingToggle);
+    return sheet;
 }
 
-QColor readableToggle()
+const QString &readableSheet()
 {
-    return Contrast::atLeast(Contrast::readable, QColor(restingToggle), ground);
+    static const QString sheet =
+        toggleSheet(Contrast::atLeast(Contrast::readable, QColor(restingToggle), ground));
+    return sheet;
+}
+
+/** Changes the colour of a password button's glyph, unless the application has restyled it. */
+void restyle(OlvLineEdit *edit, const QString &from, const QString &to)
+{
+    OlvSimpleIconButton *button = passwordButton(edit);
+    if (button && button->styleSheet() == from) {
+        button->setStyleSheet(to);
+    }
 }
 
 InputLook::Contrast contrastOf(const QWidget *field, bool fades)
@@ -262,7 +271,7 @@ void ReadableText::fit(FormMember &member, bool fades)
         }
         // a style sheet takes time to parse, and most line edits never show the button
         if (alive && alive->property(InputProperties::password).toBool()) {
-            recolor(alive, QColor(restingToggle), readableToggle());
+            restyle(alive, restingSheet(), readableSheet());
         }
     }
 }
@@ -294,7 +303,7 @@ void ReadableText::take(FormMember &member)
             takeText(member, text);
         }
         if (alive) {
-            recolor(alive, readableToggle(), QColor(restingToggle));
+            restyle(alive, readableSheet(), restingSheet());
         }
     }
 }
