@@ -107,7 +107,7 @@ void FocusRing::paintEvent(QPaintEvent * /*event*/)
     ring.addRoundedRect(outer, radius, radius);
     ring.addRoundedRect(inner, radius - width, radius - width);
     // in pixels of the screen, so that the edges are sharp on every scale
-    painter.setWorldTransform(toDevice.inverted(), true);
+    painter.setWorldTransform(toDevice.inverted());
     painter.fillPath(ring, m_widget->palette().color(QPalette::Highlight));
 }
 
@@ -164,7 +164,7 @@ QRect FocusRing::visibleArea() const
     const QWidget *host = m_watched.last();
     QRect area = host->rect();
     for (const QPointer<QWidget> &around : m_watched) {
-        if (around && around != m_widget && around != host) {
+        if (around && around != m_widget) {
             area &= QRect(around->mapTo(host, QPoint()), around->size())
                         .adjusted(-margin, -margin, margin, margin);
         }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "paintwatch.h"
 #include "pixels.h"
 #include "ringaround.h"
 #include "widgetform.h"
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void isTheSameAsADrawing_data();
     void isTheSameAsADrawing();
     void isSharpOnAFractionalScale();
+    void hasTheColorOfItsWidget();
+    void isLeftAloneByWidgetsThatItHasLeft();
 };
 
 void TestFocusRingPainting::isTheSameAsADrawing_data()
@@ -111,6 +114,57 @@ void TestFocusRingPainting::isSharpOnAFractionalScale()
         QCOMPARE(colored, 2 * qRound(thickness * ratio));
         QCOMPARE(others, 0);
     }
+}
+
+void TestFocusRingPainting::hasTheColorOfItsWidget()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    tabTo(form.save);
+    QVERIFY(hasRing(form));
+    QFocusFrame *ring = ringIn(form);
+    PaintWatch watch(*ring);
+    ring->repaint();
+    QVERIFY(!watch.take().isEmpty());
+    QVERIFY(watch.take().isEmpty());
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, Qt::magenta);
+    form.save->setPalette(palette);
+    QVERIFY(!watch.take().isEmpty());
+    const QPoint top(form.save->width() / 2 + margin, 1);
+    const QPoint place = form.save->pos() - QPoint(margin, margin) + top;
+    QCOMPARE(pictureAt(form, 1.0).pixelColor(place), QColor(Qt::magenta));
+}
+
+/** The ring is neither painted again nor raised when one of them moves. */
+void TestFocusRingPainting::isLeftAloneByWidgetsThatItHasLeft()
+{
+    QWidget window;
+    window.resize(300, 200);
+    OlvButton first(QStringLiteral("First"), &window);
+    first.setGeometry(10, 10, 80, 30);
+    OlvButton second(QStringLiteral("Second"), &window);
+    second.setGeometry(10, 100, 80, 30);
+    new OlvFormSupport(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    tabTo(&first);
+    tabTo(&second);
+    QVERIFY(hasRing(window));
+    QWidget above(&window);
+    above.setGeometry(second.geometry().adjusted(-20, -20, 20, 20));
+    above.show();
+    const auto isRaised = [&] {
+        const QObjectList &all = window.children();
+        return all.indexOf(ringIn(window)) > all.indexOf(&above);
+    };
+    QVERIFY(!isRaised());
+    first.move(200, 10);
+    QVERIFY(!isRaised());
+    second.move(12, 102);
+    QVERIFY(isRaised());
 }
 
 QTEST_MAIN(TestFocusRingPainting)

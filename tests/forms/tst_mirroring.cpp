@@ -190,6 +190,7 @@ void TestMirroring::slidesASwitchAsTheOtherDirectionDoes()
         const QWidget *knob = knobOf(*stage.widget);
         const auto note = [&] {
             places[direction].append(stage.placeOf(knob));
+            QCOMPARE(knob->y(), 0);
         };
         note();
         for (const bool on : { true, false }) {
@@ -222,6 +223,7 @@ void TestMirroring::keepsASwitchAtItsEndWhenResized()
             stage.widget->resize(size);
             QCOMPARE(knob->width(), size.height());
             QCOMPARE(stage.placeOf(knob), on ? size.width() - size.height() : 0);
+            QCOMPARE(knob->y(), 0);
         }
     }
 }
@@ -236,6 +238,7 @@ void TestMirroring::keepsASwitchOnItsWayWhenResized()
         QCOMPARE(stage.placeOf(knob), on ? 20 : 80);
         stage.widget->resize(220, 20);
         QCOMPARE(stage.placeOf(knob), on ? 40 : 160);
+        QCOMPARE(knob->y(), 0);
         tick(*stage.widget);
         QCOMPARE(stage.placeOf(knob), on ? 80 : 120);
         for (int step = 2; step < 5; ++step) {
