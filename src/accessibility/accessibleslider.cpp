@@ -4,16 +4,13 @@
 #include <OlvWidgets/value.h>
 
 #include "support/childaddress_p.h"
+#include "value/slidermetrics_p.h"
 #include "value/valueproperties_p.h"
 
 #include <QtMath>
 
-namespace {
-
-constexpr int lowest = 0;
-constexpr int highest = 100;
-
-} // namespace
+using SliderMetrics::fullProgress;
+using SliderMetrics::noProgress;
 
 AccessibleSlider::AccessibleSlider(QWidget *slider)
     : AccessibleWidget(slider, QAccessible::Slider)
@@ -31,7 +28,7 @@ QVariant AccessibleSlider::currentValue() const
 {
     auto *slider = qobject_cast<OlvSlider *>(object());
     // an application may have written any number
-    return slider ? qBound(lowest, slider->getValue().toInt(), highest) : lowest;
+    return slider ? SliderMetrics::inRange(slider->getValue().toInt()) : noProgress;
 }
 
 void AccessibleSlider::setCurrentValue(const QVariant &value)
@@ -42,7 +39,7 @@ void AccessibleSlider::setCurrentValue(const QVariant &value)
     if (!slider || !slider->isEnabled() || !isNumber || qIsNaN(wanted)) {
         return;
     }
-    const int progress = qRound(qBound(double(lowest), wanted, double(highest)));
+    const int progress = qRound(SliderMetrics::inRange(wanted));
     if (auto *knob = childAtAddress<SliderRound>(slider, property(ValueProperties::sliderKnob))) {
         knob->dragTo(progress);
     } else {
@@ -52,12 +49,12 @@ void AccessibleSlider::setCurrentValue(const QVariant &value)
 
 QVariant AccessibleSlider::maximumValue() const
 {
-    return highest;
+    return fullProgress;
 }
 
 QVariant AccessibleSlider::minimumValue() const
 {
-    return lowest;
+    return noProgress;
 }
 
 QVariant AccessibleSlider::minimumStepSize() const

@@ -3,6 +3,7 @@
 
 #include <OlvWidgets/value.h>
 
+#include "value/switchflip_p.h"
 #include "value/valueproperties_p.h"
 
 AccessibleSwitch::AccessibleSwitch(QWidget *widget)
@@ -19,11 +20,7 @@ QAccessible::State AccessibleSwitch::ownState() const
 
 void AccessibleSwitch::click()
 {
-    auto *widget = qobject_cast<OlvSwitch *>(object());
-    // A click within the animation, before its first step too, would start a second timer, which
-    // has the switch flip back and forth.
-    const bool on = property(ValueProperties::switchIsOn).toBool();
-    if (widget && widget->isChecked() == on) {
-        widget->setValue(!on);
+    if (auto *toggle = qobject_cast<OlvSwitch *>(object())) {
+        flipUnlessSliding(*toggle);
     }
 }

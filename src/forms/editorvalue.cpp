@@ -5,14 +5,13 @@
 #include <OlvWidgets/value.h>
 
 #include "support/qtversion_p.h"
+#include "value/slidermetrics_p.h"
 
 #include <QKeySequence>
 #include <QPointer>
 #include <QtMath>
 
 namespace {
-
-constexpr int fullProgress = 100;
 
 /** Whether a text says yes or no: QVariant takes every other one for yes, too. */
 bool isTruth(const QString &text)
@@ -26,7 +25,8 @@ int toPercent(const QVariant &value)
 {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    return isNumber && !qIsNaN(number) ? qRound(qBound(0.0, number, double(fullProgress))) : 0;
+    return isNumber && !qIsNaN(number) ? qRound(SliderMetrics::inRange(number))
+                                       : SliderMetrics::noProgress;
 }
 
 /** The shortcut that a text names; null where it names none, or more than one combination. */

@@ -10,6 +10,8 @@
 #include "buttons/mouseclick_p.h"
 #include "forms/formgrid_p.h"
 #include "value/knobmirror_p.h"
+#include "value/slidermetrics_p.h"
+#include "value/switchflip_p.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -23,8 +25,6 @@ namespace {
 
 constexpr int singleStep = 1;
 constexpr int pageStep = 10;
-constexpr int lowest = 0;
-constexpr int highest = 100;
 
 bool isPressKey(const QKeyEvent &key)
 {
@@ -56,7 +56,7 @@ void takeText(OlvLineEdit *edit)
 /** The value that a key moves a slider to; its own for a key that does not move it. */
 int movedValue(OlvSlider *slider, int key)
 {
-    const int value = qBound(lowest, slider->getValue().toInt(), highest);
+    const int value = SliderMetrics::inRange(slider->getValue().toInt());
     const int stepToTheRight = KnobMirror::isOn(slider) ? -singleStep : singleStep;
     switch (key) {
     case Qt::Key_Right:
@@ -72,9 +72,9 @@ int movedValue(OlvSlider *slider, int key)
     case Qt::Key_PageDown:
         return value - pageStep;
     case Qt::Key_Home:
-        return lowest;
+        return SliderMetrics::noProgress;
     case Qt::Key_End:
-        return highest;
+        return SliderMetrics::fullProgress;
     default:
         return value;
     }
@@ -87,7 +87,7 @@ bool pressKeyOfSlider(OlvSlider *slider, const QKeyEvent &key)
     if (std::find(std::begin(keys), std::end(keys), key.key()) == std::end(keys)) {
         return false;
     }
-    const int wanted = qBound(lowest, movedValue(slider, key.key()), highest);
+    const int wanted = SliderMetrics::inRange(movedValue(slider, key.key()));
     if (wanted != slider->getValue().toInt()) {
         slider->setSliderPosition(wanted);
     }
@@ -271,13 +271,8 @@ bool FormKeys::releaseKey(QWidget *widget, FormKind kind, const QKeyEvent &key)
         return true;
     }
     m_pressed.clear();
-    if (auto *one = qobject_cast<OlvSwitch *>(widget)) {
-        // As a click does it. One within the animation, before its first step too, would start a
-        // second timer, which has the switch flip back and forth.
-        const bool on = one->getValue().toBool();
-        if (one->isChecked() == on) {
-            one->setValue(!on);
-        }
+    if (auto *toggle = qobject_cast<OlvSwitch *>(widget)) {
+        flipUnlessSliding(*toggle);
     } else {
         MouseClick::release(QPointer<QWidget>(widget), m_hasComeIn);
     }

@@ -4,6 +4,7 @@
 #include "buttons/buttonsproperties_p.h"
 #include "forms/formmember_p.h"
 #include "input/inputproperties_p.h"
+#include "value/slidermetrics_p.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -28,7 +29,6 @@ constexpr int editPadding = 3;
 constexpr int columnPadding = 5;
 constexpr int charactersOfEdit = 12;
 constexpr int switchPadding = 9;
-constexpr int sliderHeight = 30;
 constexpr int shortestSlider = 100;
 constexpr int linesOfSlider = 7;
 constexpr QSize gridSize(240, 160);
@@ -104,7 +104,7 @@ QSize sizeOfSwitch(const QWidget *widget)
 QSize sizeOfSlider(const QWidget *slider)
 {
     const int line = QFontMetrics(formFont(slider)).height();
-    return QSize(qMax(shortestSlider, linesOfSlider * line), sliderHeight);
+    return QSize(qMax(shortestSlider, linesOfSlider * line), SliderMetrics::height);
 }
 
 } // namespace

@@ -45,7 +45,7 @@ void OlvSlider::setValue(const QVariant &value)
 
 void OlvSlider::setSliderPosition(int percent)
 {
-    percent = qBound(0, percent, SliderMetrics::fullProgress);
+    percent = SliderMetrics::inRange(percent);
     if (auto *knob = childAtAddress<SliderRound>(this, property(ValueProperties::sliderKnob))) {
         knob->follow(percent);
     } else {

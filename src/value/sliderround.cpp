@@ -65,7 +65,7 @@ void SliderRound::setMaxX(int maxX)
 
 void SliderRound::dragTo(int progress)
 {
-    progress = qBound(0, progress, SliderMetrics::fullProgress);
+    progress = SliderMetrics::inRange(progress);
     const QPointer<QWidget> slider(d->slider);
     d->progress = progress;
     placeAt(progress); // what hears of the move may delete the knob

@@ -11,13 +11,13 @@
 class SliderRound::Private
 {
 public:
-    static constexpr int noProgress = -1;
+    static constexpr int unknownProgress = -1;
 
     QPointer<QWidget> slider;
     Mirror mirror;
     int maxX = 0;
     bool pressed = false;
-    bool follows = false;      // keeps to its percentage when the slider is resized
-    int pressX = 0;            // in the knob as it was before the press
-    int progress = noProgress; // handed over last
+    bool follows = false;           // keeps to its percentage when the slider is resized
+    int pressX = 0;                 // in the knob as it was before the press
+    int progress = unknownProgress; // handed over last
 };
