@@ -43,9 +43,12 @@ private Q_SLOTS:
     void leavesASplitterAlone();
     void liesInsideAWindow();
     void waitsForItsWindow();
+    void comesBackWithTheFocus_data();
+    void comesBackWithTheFocus();
     void goesWithItsSupport_data();
     void goesWithItsSupport();
     void outlivesTheWindowThatItWasIn();
+    void movesToAnotherWindowWithItsWidget();
 };
 
 void TestFocusRing::comesWithTheKeyboard_data()
@@ -254,6 +257,51 @@ void TestFocusRing::waitsForItsWindow()
     QVERIFY(hasRing(form));
 }
 
+void TestFocusRing::comesBackWithTheFocus_data()
+{
+    QTest::addColumn<bool>("wasThere");
+    QTest::addColumn<Qt::FocusReason>("out");
+    QTest::addColumn<Qt::FocusReason>("in");
+    QTest::addColumn<bool>("comes");
+    QTest::newRow("window") << true << Qt::ActiveWindowFocusReason << Qt::ActiveWindowFocusReason
+                            << true;
+    QTest::newRow("popup") << true << Qt::PopupFocusReason << Qt::PopupFocusReason << true;
+    QTest::newRow("menu bar") << true << Qt::MenuBarFocusReason << Qt::MenuBarFocusReason << true;
+    QTest::newRow("menu bar, to another window")
+        << true << Qt::MenuBarFocusReason << Qt::ActiveWindowFocusReason << true;
+    QTest::newRow("window, by a click")
+        << true << Qt::ActiveWindowFocusReason << Qt::MouseFocusReason << false;
+    QTest::newRow("Tab, then window")
+        << true << Qt::TabFocusReason << Qt::ActiveWindowFocusReason << false;
+    QTest::newRow("mouse, then popup")
+        << true << Qt::MouseFocusReason << Qt::PopupFocusReason << false;
+    QTest::newRow("window without a ring")
+        << false << Qt::ActiveWindowFocusReason << Qt::ActiveWindowFocusReason << false;
+}
+
+void TestFocusRing::comesBackWithTheFocus()
+{
+    QFETCH(bool, wasThere);
+    QFETCH(Qt::FocusReason, out);
+    QFETCH(Qt::FocusReason, in);
+    QFETCH(bool, comes);
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.save->clearFocus();
+    form.save->setFocus(wasThere ? Qt::TabFocusReason : Qt::MouseFocusReason);
+    QCOMPARE(hasRing(form), wasThere);
+    QFocusEvent leaving(QEvent::FocusOut, out);
+    QApplication::sendEvent(form.save, &leaving);
+    QVERIFY(!hasRing(form));
+    for (const bool isFirst : { true, false }) { // what comes back does so once
+        QFocusEvent coming(QEvent::FocusIn, in);
+        QApplication::sendEvent(form.save, &coming);
+        QCOMPARE(hasRing(form), comes && isFirst);
+    }
+}
+
 void TestFocusRing::goesWithItsSupport_data()
 {
     QTest::addColumn<QString>("way");
@@ -306,6 +354,38 @@ void TestFocusRing::outlivesTheWindowThatItWasIn()
     page->setFocus();
     tabTo(button);
     QVERIFY(hasRing(other));
+}
+
+/** Also where the application keeps from the support that the focus has gone. */
+void TestFocusRing::movesToAnotherWindowWithItsWidget()
+{
+    class Filter : public QObject
+    {
+    public:
+        bool eventFilter(QObject * /*watched*/, QEvent *event) override
+        {
+            return event->type() == QEvent::FocusOut;
+        }
+    } filter;
+    QWidget window;
+    QWidget other;
+    auto *page = new QWidget(&window);
+    page->setGeometry(10, 10, 200, 100);
+    auto *button = new OlvButton(QStringLiteral("Save"), page);
+    button->setGeometry(20, 20, 90, 30);
+    new OlvFormSupport(page);
+    window.show();
+    other.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    tabTo(button);
+    QVERIFY(hasRing(window));
+    button->installEventFilter(&filter);
+    page->setParent(&other);
+    page->show();
+    QVERIFY(!ringIn(window));
+    QVERIFY(hasRing(other));
+    QCOMPARE(placeOf(*ringIn(other)), placeAround(*button));
 }
 
 QTEST_MAIN(TestFocusRing)

@@ -4,6 +4,7 @@
 #include "ringaround.h"
 #include "widgetform.h"
 
+#include <QApplication>
 #include <QHash>
 #include <QPainter>
 #include <QPainterPath>
@@ -43,9 +44,14 @@ class TestFocusRingPainting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QApplication::setCursorFlashTime(0); // the caret of a text stays
+    }
     void isTheSameAsADrawing_data();
     void isTheSameAsADrawing();
     void isSharpOnAFractionalScale();
+    void isSeenInARotatedForm();
     void hasTheColorOfItsWidget();
     void isLeftAloneByWidgetsThatItHasLeft();
 };
@@ -54,10 +60,13 @@ void TestFocusRingPainting::isTheSameAsADrawing_data()
 {
     QTest::addColumn<qreal>("ratio");
     QTest::addColumn<QString>("widget");
-    for (const qreal ratio : { 1.0, 2.0 }) {
-        for (const char *widget : { "save", "wifi", "volume", "mail" }) {
-            QTest::addRow("%s at %g", widget, ratio) << ratio << QString::fromLatin1(widget);
-        }
+    for (const char *widget :
+         { "save", "round save", "wifi", "volume", "mail", "star", "name", "shortcut" }) {
+        QTest::addRow("%s at 1", widget) << 1.0 << QString::fromLatin1(widget);
+    }
+    // the narrow corners of edits are flattened otherwise within a scaled drawing
+    for (const char *widget : { "save", "round save", "wifi", "volume", "mail", "star" }) {
+        QTest::addRow("%s at 2", widget) << 2.0 << QString::fromLatin1(widget);
     }
 }
 
@@ -74,8 +83,15 @@ void TestFocusRingPainting::isTheSameAsADrawing()
         { QStringLiteral("wifi"), { form.wifi, form.wifi->height() / 2 } },
         { QStringLiteral("volume"), { form.volume, form.volume->height() / 2 } },
         { QStringLiteral("mail"), { form.mail, 10 } },
+        { QStringLiteral("round save"), { form.save, form.save->height() / 2 } },
+        { QStringLiteral("star"), { form.star, 4 } },
+        { QStringLiteral("name"), { form.name, 3 } },
+        { QStringLiteral("shortcut"), { form.shortcut, 3 } },
     };
     const auto [framed, radius] = all.value(widget);
+    if (widget == QLatin1String("round save")) {
+        form.save->setOlvStyle(QStringLiteral("primary"), QStringLiteral("round"));
+    }
     tabTo(framed);
     QVERIFY(hasRing(form));
     const QImage actual = pictureAt(form, ratio);
@@ -114,6 +130,29 @@ void TestFocusRingPainting::isSharpOnAFractionalScale()
         QCOMPARE(colored, 2 * qRound(thickness * ratio));
         QCOMPARE(others, 0);
     }
+}
+
+/** There the ring has no scale to go by, and each edge is one pixel thick. */
+void TestFocusRingPainting::isSeenInARotatedForm()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    tabTo(form.save);
+    QImage picture(form.height(), form.width(), QImage::Format_RGB32);
+    QPainter painter(&picture);
+    painter.translate(form.height(), 0);
+    painter.rotate(90);
+    form.render(&painter);
+    painter.end();
+    const QRgb color = form.palette().color(QPalette::Highlight).rgb();
+    const int middle = form.save->geometry().center().x();
+    int colored = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+        colored += picture.pixel(x, middle) == color ? 1 : 0;
+    }
+    QCOMPARE(colored, 2);
 }
 
 void TestFocusRingPainting::hasTheColorOfItsWidget()
