@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Supports, forms and widgets that are deleted while a support is at work.
+#include "ringaround.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -34,6 +35,16 @@ protected:
     }
 };
 
+/** Keeps from those that watch a widget that it dies. */
+class SilentDeath : public QObject
+{
+public:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        return event->type() == QEvent::Destroy;
+    }
+};
+
 OlvButton *addButton(QWidget *parent)
 {
     return new OlvButton(QStringLiteral("Save"), parent);
@@ -51,6 +62,7 @@ private Q_SLOTS:
     void isStoodWhileWidgetsAreServed();
     void isStoodWhileTheSupportLeaves_data();
     void isStoodWhileTheSupportLeaves();
+    void isStoodWhereTheSupportDoesNotHearOfIt();
 };
 
 void TestFormDeletion::isStoodInEitherOrder()
@@ -145,6 +157,30 @@ void TestFormDeletion::isStoodWhileTheSupportLeaves()
         QVERIFY(!isServed(*next));
     }
     delete window;
+}
+
+/** The ring is around the widget that dies. */
+void TestFormDeletion::isStoodWhereTheSupportDoesNotHearOfIt()
+{
+    QWidget window;
+    auto *page = new QWidget(&window);
+    OlvButton *button = addButton(page);
+    new OlvFormSupport(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    tabTo(button);
+    QVERIFY(hasRing(window));
+    SilentDeath silence;
+    button->installEventFilter(&silence);
+    delete button;
+    QVERIFY(!hasRing(window));
+    page->move(20, 20);
+    QVERIFY(!hasRing(window));
+    OlvButton *next = addButton(page);
+    next->show();
+    QApplication::processEvents();
+    tabTo(next);
+    QVERIFY(hasRing(window));
 }
 
 QTEST_MAIN(TestFormDeletion)
