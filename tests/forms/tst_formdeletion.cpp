@@ -173,7 +173,6 @@ void TestFormDeletion::isStoodWhereTheSupportDoesNotHearOfIt()
     SilentDeath silence;
     button->installEventFilter(&silence);
     delete button;
-    QVERIFY(!hasRing(window));
     page->move(20, 20);
     QVERIFY(!hasRing(window));
     OlvButton *next = addButton(page);
