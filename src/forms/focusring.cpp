@@ -40,9 +40,9 @@ FocusRing::FocusRing()
 
 void FocusRing::surround(QWidget *widget, int radius)
 {
-    unwatch();
     m_widget = widget;
     m_radius = radius;
+    unwatch();
     watch();
     place();
 }
@@ -50,9 +50,7 @@ void FocusRing::surround(QWidget *widget, int radius)
 void FocusRing::leave(const QWidget *widget)
 {
     if (widget == m_widget) {
-        unwatch();
-        m_widget.clear();
-        hide();
+        surround(nullptr, m_radius);
     }
 }
 

@@ -292,10 +292,7 @@ void FormKeys::cancelPress()
         if (pressed && hasComeIn) {
             pressed->setProperty(ButtonsProperties::hovered, false);
         }
-        if (pressed) {
-            pressed->update();
-        }
-        return;
+        return; // Qt repaints a widget that is disabled
     }
     MouseClick::cancel(pressed, hasComeIn);
 }

@@ -95,6 +95,12 @@ void TestFocusRing::comesOnceTheKeyboardIsUsed()
     QVERIFY(!hasRing(form));
     QTest::keyClick(form.wifi, Qt::Key_Space);
     QVERIFY(hasRing(form));
+    QTest::mouseClick(form.save, Qt::LeftButton);
+    QTest::mouseClick(form.wifi, Qt::LeftButton);
+    QVERIFY(form.wifi->hasFocus());
+    QVERIFY(!hasRing(form));
+    QTest::keyClick(form.wifi, Qt::Key_Space);
+    QVERIFY(hasRing(form));
 }
 
 void TestFocusRing::comesWithCodeOnceTheKeyboardIsUsed()

@@ -38,11 +38,18 @@ void TestFormKeys::flipASwitch()
     new OlvFormSupport(&form);
     QSignalSpy changed(form.wifi, &OlvSwitch::changed);
     QVERIFY(sendKey(form.wifi, QEvent::KeyPress, Qt::Key_Space));
+    QVERIFY(sendKey(form.wifi, QEvent::KeyRelease, Qt::Key_Space, true));
+    QVERIFY(sendKey(form.wifi, QEvent::KeyPress, Qt::Key_Space, true));
     QVERIFY(!form.wifi->isChecked());
     sendKey(form.wifi, QEvent::KeyRelease, Qt::Key_Space);
     QVERIFY(form.wifi->isChecked());
     QVERIFY(changed.wait(animationTime));
     QCOMPARE(form.wifi->getValue(), QVariant(true));
+
+    // held before it came here
+    QVERIFY(sendKey(form.wifi, QEvent::KeyPress, Qt::Key_Space, true));
+    sendKey(form.wifi, QEvent::KeyRelease, Qt::Key_Space);
+    QVERIFY(form.wifi->isChecked());
 
     sendKey(form.wifi, QEvent::KeyPress, Qt::Key_Space);
     QVERIFY(sendKey(form.wifi, QEvent::KeyPress, Qt::Key_Escape));

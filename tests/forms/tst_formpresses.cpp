@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What Space and Enter do to buttons and tiles.
 #include "notingform.h"
+#include "paintwatch.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void areTakenBack_data();
     void areTakenBack();
     void areTakenBackFromADisabledButton();
+    void areLeftByWhatIsNotTheirEnd();
     void leaveThePointerWhereItIs();
     void toggleACheckableButton();
     void standADeletion_data();
@@ -156,12 +158,31 @@ void TestFormPresses::areTakenBackFromADisabledButton()
     new OlvFormSupport(&form);
     const QSignalSpy clicked(form.save, &OlvButton::clicked);
     sendKey(form.save, QEvent::KeyPress, Qt::Key_Space);
+    PaintWatch watch(*form.save);
+    QVERIFY(watch.showWindow());
     form.save->setEnabled(false);
+    QVERIFY(watch.takeWhole() > 0);
     QCOMPARE(stateOf(form.save), QStringLiteral("init"));
     QCOMPARE(form.save->property("hovered"), QVariant(false));
     form.save->setEnabled(true);
     sendKey(form.save, QEvent::KeyRelease, Qt::Key_Space);
     QCOMPARE(clicked.count(), 0);
+}
+
+void TestFormPresses::areLeftByWhatIsNotTheirEnd()
+{
+    WidgetForm form;
+    new OlvFormSupport(&form);
+    const QSignalSpy clicked(form.save, &OlvButton::clicked);
+    sendKey(form.save, QEvent::KeyPress, Qt::Key_Space);
+    QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(form.save, &toMenu);
+    QFocusEvent ofAnother(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(form.mail, &ofAnother);
+    form.mail->setEnabled(false);
+    QCOMPARE(stateOf(form.save), QStringLiteral("click"));
+    sendKey(form.save, QEvent::KeyRelease, Qt::Key_Space);
+    QCOMPARE(clicked.count(), 1);
 }
 
 void TestFormPresses::leaveThePointerWhereItIs()
