@@ -9,7 +9,6 @@
 
 #include <memory>
 
-class GridMirror;
 class QScrollBar;
 
 /**
@@ -63,6 +62,9 @@ class OLVWIDGETS_EXPORT OlvGridLayout : public QWidget
     Q_OBJECT
 
 public:
+    /** What the library alone knows of a grid; not defined in any installed header. */
+    class Private;
+
     /**
      * An empty grid in @p parent, which owns it, and the scroll bar as well. Without a parent it is
      * a window of its own that reflows and does nothing else.
@@ -149,7 +151,6 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    friend class GridMirror;
     bool isSubWindow() const;
     QScrollBar *scrollBar() const;
     void makeScrollBar();
@@ -157,7 +158,6 @@ private:
     void fitParent();
     void fitScrollBar();
 
-    class Private;
     const std::unique_ptr<Private> d;
 };
 

@@ -17,7 +17,6 @@
 
 class OlvSimpleIconButton;
 class QLineEdit;
-struct InputLook;
 
 /**
  * A framed line of text with an optional glyph at its left and an optional button at its right that
@@ -65,6 +64,9 @@ class OLVWIDGETS_EXPORT OlvLineEdit : public OlvWidget
     Q_OBJECT
 
 public:
+    /** What the library alone knows of a line edit; not defined in any installed header. */
+    class Private;
+
     /**
      * An empty line in @p parent, which owns it. The text and the button get their places at the
      * first resize.
@@ -116,10 +118,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    friend struct InputLook;
     int iconWidth(const QString &icon) const;
 
-    class Private;
     const std::unique_ptr<Private> d;
 };
 
@@ -158,6 +158,9 @@ class OLVWIDGETS_EXPORT OlvShortcutEdit : public OlvWidget
     Q_OBJECT
 
 public:
+    /** What the library alone knows of a shortcut edit; not defined in any installed header. */
+    class Private;
+
     /** An empty field in @p parent, which owns it. */
     explicit OlvShortcutEdit(QWidget *parent = nullptr);
     /** An empty field without a parent, where a bare nullptr could mean either of the others. */
@@ -216,8 +219,5 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    friend struct InputLook;
-
-    class Private;
     const std::unique_ptr<Private> d;
 };

@@ -13,7 +13,6 @@
  * Switches and sliders.
  */
 
-class KnobMirror;
 class OlvSlider;
 
 /**
@@ -36,6 +35,9 @@ class OlvSlider;
 class OLVWIDGETS_EXPORT SliderRound : public QWidget
 {
 public:
+    /** What the library alone knows of a knob; not defined in any installed header. */
+    class Private;
+
     /**
      * The knob of @p slider, which owns it. In a parent that is no OlvSlider it can be dragged all
      * the same, and sets no value.
@@ -71,12 +73,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    friend class KnobMirror;
     friend class OlvSlider;
     void follow(int progress);
     void placeAt(int progress);
 
-    class Private;
     const std::unique_ptr<Private> d;
 };
 
@@ -161,6 +161,9 @@ protected:
 class OLVWIDGETS_EXPORT SwitchRound : public QWidget
 {
 public:
+    /** What the library alone knows of a knob; not defined in any installed header. */
+    class Private;
+
     /** A white knob in @p parent, which owns it, with an inset of a tenth of its own height. */
     explicit SwitchRound(QWidget *parent = nullptr);
     /** Leaves the switch without a knob. */
@@ -180,10 +183,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    friend class KnobMirror;
     friend class OlvSwitch;
 
-    class Private;
     const std::unique_ptr<Private> d;
 };
 

@@ -14,6 +14,15 @@
 class OlvGridLayout::Private
 {
 public:
+    static Private *of(const OlvGridLayout *grid)
+    {
+        return grid->d.get();
+    }
+    static QScrollBar *scrollBarOf(const OlvGridLayout *grid)
+    {
+        return grid->scrollBar();
+    }
+
     /** Null once an application has deleted it. */
     QLabel *label() const
     {

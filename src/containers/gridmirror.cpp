@@ -10,7 +10,7 @@
 
 void GridMirror::set(OlvGridLayout *grid, bool isOn)
 {
-    TileList &tiles = grid->d->tiles;
+    TileList &tiles = OlvGridLayout::Private::of(grid)->tiles;
     if (tiles.isMirrored() == isOn) {
         return;
     }
@@ -23,7 +23,7 @@ void GridMirror::set(OlvGridLayout *grid, bool isOn)
             moved.append(tile);
         }
     }
-    if (QScrollBar *bar = grid->scrollBar()) {
+    if (QScrollBar *bar = OlvGridLayout::Private::scrollBarOf(grid)) {
         moved.append(bar);
     }
     const int width = grid->width();
@@ -37,5 +37,5 @@ void GridMirror::set(OlvGridLayout *grid, bool isOn)
 
 bool GridMirror::isOn(const OlvGridLayout *grid)
 {
-    return grid->d->tiles.isMirrored();
+    return OlvGridLayout::Private::of(grid)->tiles.isMirrored();
 }

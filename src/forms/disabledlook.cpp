@@ -28,11 +28,10 @@ protected:
             glyph.setCompositionMode(QPainter::CompositionMode_SourceIn);
             glyph.fillRect(QRect(QPoint(), pixels.size()), QColor(restingGlyph));
         }
-        painter->save();
+        // Qt restores the painter afterwards
         painter->setWorldTransform(QTransform());
         painter->setOpacity(painter->opacity() * DisabledLook::opacity);
         painter->drawPixmap(place, pixels);
-        painter->restore();
     }
 
 private:

@@ -52,6 +52,11 @@ void drawFrame(QPainter &painter, QSize size)
 class OlvLineEdit::Private
 {
 public:
+    static Private *of(const OlvLineEdit *edit)
+    {
+        return edit->d.get();
+    }
+
     QLineEdit *editor() const
     {
         return qobject_cast<QLineEdit *>(editorObject);
@@ -256,7 +261,8 @@ int OlvLineEdit::iconWidth(const QString &icon) const
 
 void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)
 {
-    Mirror &mirror = edit->d->look.mirror;
+    OlvLineEdit::Private *state = OlvLineEdit::Private::of(edit);
+    Mirror &mirror = state->look.mirror;
     if (mirror.isOn == isOn) {
         return;
     }
@@ -264,7 +270,7 @@ void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)
     const Mirror otherSide{ true, mirror.width };
     // moving sends events, whose receivers may delete the line and its parts
     const QPointer<OlvLineEdit> self(edit);
-    const QPointer<QWidget> parts[] = { edit->d->editor(), edit->d->pwdButton() };
+    const QPointer<QWidget> parts[] = { state->editor(), state->pwdButton() };
     for (const QPointer<QWidget> &part : parts) {
         if (part) {
             part->move(otherSide.placed(part->x(), part->width()), part->y());
@@ -277,8 +283,9 @@ void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)
 
 void InputLook::setContrast(OlvLineEdit *edit, Contrast contrast)
 {
-    if (edit->d->look.contrast != contrast) {
-        edit->d->look.contrast = contrast;
+    InputLook &look = OlvLineEdit::Private::of(edit)->look;
+    if (look.contrast != contrast) {
+        look.contrast = contrast;
         edit->update();
     }
 }

@@ -40,6 +40,11 @@ void drawFrame(QPainter &painter, QSize size, const QColor &color)
 class Q_DECL_HIDDEN OlvShortcutEdit::Private
 {
 public:
+    static Private *of(const OlvShortcutEdit *edit)
+    {
+        return edit->d.get();
+    }
+
     void await(OlvShortcutEdit *edit, OlvShortcut *candidate);
 
     ShortcutCapture capture;
@@ -251,7 +256,7 @@ void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
 
 void InputLook::setMirrored(OlvShortcutEdit *edit, bool isOn)
 {
-    Mirror &mirror = edit->d->look.mirror;
+    Mirror &mirror = OlvShortcutEdit::Private::of(edit)->look.mirror;
     if (mirror.isOn != isOn) {
         mirror.isOn = isOn;
         edit->update();
@@ -260,8 +265,9 @@ void InputLook::setMirrored(OlvShortcutEdit *edit, bool isOn)
 
 void InputLook::setContrast(OlvShortcutEdit *edit, Contrast contrast)
 {
-    if (edit->d->look.contrast != contrast) {
-        edit->d->look.contrast = contrast;
+    InputLook &look = OlvShortcutEdit::Private::of(edit)->look;
+    if (look.contrast != contrast) {
+        look.contrast = contrast;
         edit->update();
     }
 }

@@ -26,23 +26,25 @@ SliderRound *knobOf(const OlvSlider *slider)
 void KnobMirror::set(OlvSlider *slider, bool isOn)
 {
     SliderRound *knob = knobOf(slider);
-    if (knob && knob->d->mirror.isOn != isOn) {
+    SliderRound::Private *state = knob ? SliderRound::Private::of(knob) : nullptr;
+    if (state && state->mirror.isOn != isOn) {
         // during a drag, which goes on
-        knob->d->pressX = SliderMetrics::restingKnobSize - knob->d->pressX;
-        mirror(knob, knob->d->mirror, isOn);
+        state->pressX = SliderMetrics::restingKnobSize - state->pressX;
+        mirror(knob, state->mirror, isOn);
     }
 }
 
 void KnobMirror::set(OlvSwitch *toggle, bool isOn)
 {
     auto *knob = childAtAddress<SwitchRound>(toggle, toggle->property(ValueProperties::switchKnob));
-    if (knob && knob->d->mirror.isOn != isOn) {
-        mirror(knob, knob->d->mirror, isOn);
+    SwitchRound::Private *state = knob ? SwitchRound::Private::of(knob) : nullptr;
+    if (state && state->mirror.isOn != isOn) {
+        mirror(knob, state->mirror, isOn);
     }
 }
 
 bool KnobMirror::isOn(const OlvSlider *slider)
 {
     const SliderRound *knob = knobOf(slider);
-    return knob && knob->d->mirror.isOn;
+    return knob && SliderRound::Private::of(knob)->mirror.isOn;
 }

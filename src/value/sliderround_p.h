@@ -11,6 +11,11 @@
 class SliderRound::Private
 {
 public:
+    static Private *of(const SliderRound *knob)
+    {
+        return knob->d.get();
+    }
+
     static constexpr int unknownProgress = -1;
 
     QPointer<QWidget> slider;

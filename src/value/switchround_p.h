@@ -9,6 +9,11 @@
 class SwitchRound::Private
 {
 public:
+    static Private *of(const SwitchRound *knob)
+    {
+        return knob->d.get();
+    }
+
     /** The margin between the edge of a knob of @p height and its disc, in pixels. */
     static int insetAt(int height)
     {
