@@ -58,6 +58,7 @@ private Q_SLOTS:
     void arrowsMoveTheFocus();
     void arrowsLeaveOutWhatTakesNoFocus();
     void arrowsFindTheNearestOfARow();
+    void arrowsFindTheFirstOfTwoThatAreAsNear();
     void arrowsGoOnToTheForm();
     void arrowsMoveBetweenTilesAndGlyphs();
     void scrollsAlong();
@@ -134,6 +135,22 @@ void TestFormGrid::arrowsFindTheNearestOfARow()
     QTest::keyClick(scene.tiles.at(4), Qt::Key_Down);
     // both middle ones are as near, but for half a pixel
     QVERIFY(scene.focused() == 6 || scene.focused() == 7);
+}
+
+void TestFormGrid::arrowsFindTheFirstOfTwoThatAreAsNear()
+{
+    ButtonScene scene;
+    const QVector<QPoint> places{ { 50, 0 },  { 110, 0 },  { 80, 30 },
+                                  { 50, 60 }, { 110, 60 }, { 80, 90 } };
+    for (int i = 0; i < scene.tiles.size(); ++i) {
+        scene.tiles.at(i)->move(places.value(i, { 80, 120 }));
+    }
+    scene.tiles.at(2)->setFocus();
+    QTest::keyClick(scene.tiles.at(2), Qt::Key_Down);
+    QCOMPARE(scene.focused(), 3);
+    scene.tiles.at(2)->setFocus();
+    QTest::keyClick(scene.tiles.at(2), Qt::Key_Up);
+    QCOMPARE(scene.focused(), 1);
 }
 
 void TestFormGrid::arrowsGoOnToTheForm()
