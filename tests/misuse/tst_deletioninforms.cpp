@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "deletion.h"
+#include "fakeshortcut.h"
 
 #include <OlvWidgets>
 
@@ -58,9 +59,52 @@ std::function<void(QWidget *)> byKey(Qt::Key key)
     };
 }
 
+QWidget *makeCheckable(QWidget *parent)
+{
+    auto *button = static_cast<OlvButton *>(makeInForm<OlvButton>(parent));
+    button->setCheckable(true);
+    return button;
+}
+
+QLineEdit *textOf(QWidget *line)
+{
+    return static_cast<OlvLineEdit *>(line)->lineEdit();
+}
+
+template <typename Signal> std::function<void(QWidget *, const Slot &)> toText(Signal signal)
+{
+    return [=](QWidget *sender, const Slot &slot) {
+        QObject::connect(textOf(sender), signal, sender, slot);
+    };
+}
+
+/** As the user types it: the text may go at any key. */
+void typeText(QWidget *sender)
+{
+    const QPointer<QWidget> text(textOf(sender));
+    for (const Qt::Key key : { Qt::Key_A, Qt::Key_Return }) {
+        if (text) {
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier,
+                            key == Qt::Key_A ? QStringLiteral("a") : QString());
+            QCoreApplication::sendEvent(text, &event);
+        }
+    }
+}
+
+void press(QWidget *sender)
+{
+    static_cast<OlvShortcutEdit *>(sender)->setShortcut(new FakeShortcut(QStringLiteral("F5")));
+}
+
 QVector<Emission> keyEmissions()
 {
     return {
+        { "OlvButton::toggled, Space", makeCheckable, toSignal<OlvButton>(&OlvButton::toggled),
+          byKey(Qt::Key_Space), support() },
+        { "QLineEdit::editingFinished in OlvLineEdit", makeInForm<OlvLineEdit>,
+          toText(&QLineEdit::editingFinished), typeText, support() },
+        { "OlvShortcutEdit::shortcutChanged", makeInForm<OlvShortcutEdit>,
+          toSignal<OlvShortcutEdit>(&OlvShortcutEdit::shortcutChanged), press, support() },
         { "OlvButton::clicked, Space", makeInForm<OlvButton>,
           toSignal<OlvButton>(&OlvButton::clicked), byKey(Qt::Key_Space), support() },
         { "OlvButton::clicked, Enter", makeInForm<OlvButton>,
@@ -138,11 +182,35 @@ void deleteDelegate(QWidget *sender)
     delete amongChildrenOf<QDataWidgetMapper>(sender->window())->itemDelegate();
 }
 
+/** As a slot of the application's does it for a button. */
+void flipValue(QWidget *sender)
+{
+    auto *button = static_cast<OlvButton *>(sender);
+    button->setValue(!button->getValue().toBool());
+}
+
 QVector<Emission> dataEmissions()
 {
     return {
         { "model of OlvSwitch", makeMapped<OlvSwitch>, toModel, byKey(Qt::Key_Space), support() },
         { "model of OlvSlider", makeMapped<OlvSlider>, toModel, byKey(Qt::Key_End), support() },
+        { "model of OlvLineEdit", makeMapped<OlvLineEdit>, toModel, typeText, support() },
+        { "model of OlvShortcutEdit", makeMapped<OlvShortcutEdit>, toModel, press, support() },
+        { "model of OlvIconButton", makeMapped<OlvIconButton>, toModel, byKey(Qt::Key_Space),
+          support() },
+        { "model of OlvButton", makeMapped<OlvButton>, toModel, flipValue, support() },
+        { "OlvSwitch::valueChanged, mapped", makeMapped<OlvSwitch>,
+          toSignal<OlvWidget>(&OlvWidget::valueChanged), byKey(Qt::Key_Space), supportAndMapper() },
+        { "OlvShortcutEdit::valueChanged, mapped", makeMapped<OlvShortcutEdit>,
+          toSignal<OlvWidget>(&OlvWidget::valueChanged), press, supportAndMapper() },
+        { "OlvValueDelegate::commitData of OlvLineEdit", makeMapped<OlvLineEdit>, toCommit,
+          typeText, supportAndMapper() },
+        { "OlvValueDelegate::commitData of OlvShortcutEdit", makeMapped<OlvShortcutEdit>, toCommit,
+          press, supportAndMapper() },
+        { "OlvValueDelegate::commitData of OlvIconButton", makeMapped<OlvIconButton>, toCommit,
+          byKey(Qt::Key_Space), supportAndMapper() },
+        { "OlvValueDelegate::commitData of OlvButton", makeMapped<OlvButton>, toCommit, flipValue,
+          supportAndMapper() },
         { "OlvValueDelegate::commitData of OlvSwitch", makeMapped<OlvSwitch>, toCommit,
           byKey(Qt::Key_Space), supportAndMapper() },
         { "OlvValueDelegate::commitData of OlvSlider", makeMapped<OlvSlider>, toCommit,
@@ -153,8 +221,7 @@ QVector<Emission> dataEmissions()
         { "OlvValueDelegate::closeEditor, focus leaves OlvShortcutEdit",
           makeMapped<OlvShortcutEdit>, toClose, leave, support() },
         { "OlvValueDelegate::closeEditor, focus leaves OlvLineEdit", makeMapped<OlvLineEdit>,
-          toClose, [](QWidget *sender) { leave(static_cast<OlvLineEdit *>(sender)->lineEdit()); },
-          support() },
+          toClose, [](QWidget *sender) { leave(textOf(sender)); }, support() },
         { "OlvValueDelegate::closeEditor, focus leaves QLineEdit", makeMapped<QLineEdit>, toClose,
           leave, support() },
         { "OlvValueDelegate::commitData, Enter in OlvSwitch", makeMapped<OlvSwitch>, toCommit,
@@ -175,6 +242,48 @@ QVector<Emission> dataEmissions()
     };
 }
 
+/** What a slot does to the widget that emits, while a support serves it. */
+struct Act
+{
+    const char *name;
+    std::function<void(QWidget *sender, QWidget *other)> run;
+};
+
+const QVector<Act> &acts()
+{
+    static const QVector<Act> all{
+        { "it leaves the form",
+          [](QWidget *sender, QWidget *other) {
+              sender->setParent(other);
+          } },
+        { "it enters another form",
+          [](QWidget *sender, QWidget *other) {
+              new OlvFormSupport(other);
+              sender->setParent(other);
+              sender->show();
+          } },
+        { "it becomes a window",
+          [](QWidget *sender, QWidget * /*other*/) {
+              sender->setParent(sender->parentWidget(), Qt::Window);
+          } },
+        { "it gets a support of its own",
+          [](QWidget *sender, QWidget * /*other*/) {
+              new OlvFormSupport(sender);
+          } },
+        { "another support comes and the first one goes",
+          [](QWidget *sender, QWidget * /*other*/) {
+              QWidget *form = sender->parentWidget();
+              new OlvFormSupport(form);
+              delete amongChildrenOf<OlvFormSupport>(form);
+          } },
+        { "a widget comes in",
+          [](QWidget *sender, QWidget * /*other*/) {
+              (new OlvLineEdit(sender->parentWidget()))->show();
+          } },
+    };
+    return all;
+}
+
 } // namespace
 
 /** Slots that delete a widget of a form, the form, its support or its mapper, led to by a key. */
@@ -185,6 +294,8 @@ class TestDeletionInForms : public QObject
 private Q_SLOTS:
     void survives_data();
     void survives();
+    void survivesAMove_data();
+    void survivesAMove();
 };
 
 void TestDeletionInForms::survives_data()
@@ -197,6 +308,50 @@ void TestDeletionInForms::survives()
     QFETCH(Deletion::Emission, emission);
     QFETCH(Deletion::Finder, victim);
     Deletion::check(emission, victim);
+}
+
+void TestDeletionInForms::survivesAMove_data()
+{
+    QTest::addColumn<Deletion::Emission>("emission");
+    QTest::addColumn<int>("act");
+    const QVector<Emission> emissions = keyEmissions() + dataEmissions();
+    for (const Emission &emission : emissions) {
+        for (int act = 0; act < acts().size(); ++act) {
+            QTest::addRow("%s: %s", emission.name.constData(), acts().at(act).name)
+                << emission << act;
+        }
+    }
+}
+
+void TestDeletionInForms::survivesAMove()
+{
+    QFETCH(Deletion::Emission, emission);
+    QFETCH(int, act);
+    QWidget other;
+    QWidget window;
+    QWidget *form = new QWidget(&window);
+    const QPointer<QWidget> sender(emission.make(form));
+    window.resize(300, 200);
+    other.resize(300, 200);
+    window.show();
+    other.show();
+    bool emitted = false;
+    emission.connectTo(sender, [&] {
+        if (!std::exchange(emitted, true)) {
+            acts().at(act).run(sender, &other);
+        }
+    });
+    emission.emitNow(sender);
+    QTRY_VERIFY(emitted);
+    QVERIFY(sender);
+    sender->show();
+    QCoreApplication::processEvents();
+    QVERIFY(!sender->grab().isNull());
+    QVERIFY(!window.grab().isNull());
+    sender->setParent(form, Qt::Widget); // and it is served as before
+    sender->show();
+    QVERIFY((sender->focusPolicy() & Qt::TabFocus) == Qt::TabFocus);
+    QVERIFY(!window.grab().isNull());
 }
 
 QTEST_MAIN(TestDeletionInForms)
