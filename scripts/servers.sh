@@ -31,6 +31,16 @@ wait_until() {
     done
 }
 
+# start_bus: starts a session bus and sets `bus`, its address. What it starts has its settings in the
+# folder config of the run.
+start_bus() {
+    XDG_CONFIG_HOME=$scratch/config dbus-daemon --session --nofork --print-address=4 \
+        4>"$scratch/bus" 2>"$scratch/bus.log" &
+    servers+=($!)
+    wait_until test -s "$scratch/bus"
+    bus=$(cat "$scratch/bus")
+}
+
 # start_display: starts a virtual X display and sets DISPLAY. It is 1280x800 pixels large, or as
 # OLV_DISPLAY_SIZE says.
 start_display() {
