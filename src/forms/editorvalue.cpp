@@ -33,8 +33,11 @@ int toPercent(const QVariant &value)
 OlvShortcut *shortcutOf(const QString &text)
 {
     const QKeySequence sequence = QKeySequence::fromString(text, QKeySequence::NativeText);
-    const int keys = sequence.isEmpty() ? 0 : QtVersion::combined(sequence[0]);
-    if (sequence.count() != 1 || keys == Qt::Key_unknown) {
+    if (sequence.count() != 1) {
+        return nullptr;
+    }
+    const int keys = QtVersion::combined(sequence[0]);
+    if (keys == Qt::Key_unknown) {
         return nullptr;
     }
     const auto has = [&](Qt::KeyboardModifier modifier) {

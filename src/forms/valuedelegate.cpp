@@ -23,11 +23,10 @@ bool isOfValue(const QByteArray &property)
         || property == ValueProperties::switchIsOn || property == ValueProperties::switchTimerId;
 }
 
-/** The types of events that QStyledItemDelegate may consume, or close an editor at. */
+/** The types of a part's events that QStyledItemDelegate may consume, or close an editor at. */
 bool isHandledByQt(QEvent::Type type)
 {
-    return type == QEvent::KeyPress || type == QEvent::ShortcutOverride || type == QEvent::FocusOut
-        || type == QEvent::Hide;
+    return type == QEvent::KeyPress || type == QEvent::ShortcutOverride || type == QEvent::FocusOut;
 }
 
 /** Sent to an editor to see whether a delegate is still an event filter of it. */

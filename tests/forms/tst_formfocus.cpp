@@ -213,7 +213,14 @@ void TestFormFocus::leavesAPolicyOfTheApplication()
     QCOMPARE(form.save->focusPolicy(), Qt::ClickFocus);
     QVERIFY(!form.name->focusProxy());
     form.wifi->setFocusPolicy(Qt::TabFocus);
+    const Qt::FocusPolicy natural = form.volume->focusPolicy();
+    QVERIFY(natural != Qt::NoFocus);
+    support->setFeatures({});
+    QCOMPARE(form.volume->focusPolicy(), Qt::NoFocus);
+    form.volume->setFocusPolicy(natural); // its own, even if it is the same
+    support->setFeatures(OlvFormSupport::AllFeatures);
     delete support;
+    QCOMPARE(form.volume->focusPolicy(), natural);
     QCOMPARE(form.save->focusPolicy(), Qt::ClickFocus);
     QCOMPARE(form.wifi->focusPolicy(), Qt::TabFocus);
     QCOMPARE(form.name->focusPolicy(), Qt::NoFocus);
@@ -222,11 +229,17 @@ void TestFormFocus::leavesAPolicyOfTheApplication()
 void TestFormFocus::leavesAProxyOfTheApplication()
 {
     WidgetForm form;
+    OlvLineEdit another(&form);
     form.name->setFocusProxy(form.save);
     auto *support = new OlvFormSupport(&form);
     QCOMPARE(form.name->focusProxy(), form.save);
     form.password->setFocusProxy(form.save);
+    QVERIFY(another.focusProxy());
+    support->setFeatures({});
+    another.setFocusProxy(another.lineEdit()); // its own, even if it is the same
+    support->setFeatures(OlvFormSupport::AllFeatures);
     delete support;
+    QCOMPARE(another.focusProxy(), another.lineEdit());
     QCOMPARE(form.name->focusProxy(), form.save);
     QCOMPARE(form.password->focusProxy(), form.save);
 }

@@ -119,6 +119,18 @@ void TestFormGrid::arrowsLeaveOutWhatTakesNoFocus()
     scene.tiles.at(9)->setFocus();
     QTest::keyClick(scene.tiles.at(9), Qt::Key_Up);
     QCOMPARE(scene.focused(), 5);
+    scene.tiles.at(0)->setEnabled(false);
+    scene.tiles.at(39)->setEnabled(false);
+    QTest::keyClick(scene.tiles.at(5), Qt::Key_End);
+    QCOMPARE(scene.focused(), 38);
+    QTest::keyClick(scene.tiles.at(38), Qt::Key_Home);
+    QCOMPARE(scene.focused(), 4);
+    scene.tiles.at(1)->setEnabled(true);
+    QTest::keyClick(scene.tiles.at(4), Qt::Key_Home);
+    QCOMPARE(scene.focused(), 1);
+    scene.tiles.at(1)->setEnabled(false);
+    scene.tiles.at(0)->setEnabled(true);
+    scene.tiles.at(5)->setFocus();
     QTest::keyClick(scene.tiles.at(5), Qt::Key_Up);
     QCOMPARE(scene.focused(), 0);
 }

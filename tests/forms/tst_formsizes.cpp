@@ -333,8 +333,19 @@ void TestFormSizes::areSwitchedOnAndOff()
     QCOMPARE(form.save->minimumSize(), QSize(0, 0));
     support->setFeatures(OlvFormSupport::NaturalSizes);
     QCOMPARE(form.save->minimumSize(), OlvFormSupport::naturalSize(form.save));
+    const QSizePolicy natural = form.save->sizePolicy();
+    QVERIFY(natural != WidgetForm().save->sizePolicy());
     support->setFeatures({});
     QCOMPARE(form.save->minimumSize(), QSize(0, 0));
+    QCOMPARE(form.save->sizePolicy(), WidgetForm().save->sizePolicy());
+    support->setFeatures(OlvFormSupport::NaturalSizes);
+    QCOMPARE(form.save->sizePolicy(), natural);
+    support->setFeatures({});
+    // what the application sets meanwhile is its own, even if it is the same
+    form.save->setSizePolicy(natural);
+    support->setFeatures(OlvFormSupport::NaturalSizes);
+    support->setFeatures({});
+    QCOMPARE(form.save->sizePolicy(), natural);
     form.save->setText(QStringLiteral("Not measured"));
     form.setFont(QFont(QStringLiteral("Sans"), 20));
     QCOMPARE(form.save->minimumSize(), QSize(0, 0));

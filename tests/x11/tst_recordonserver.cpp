@@ -3,6 +3,7 @@
 #include "recordform.h"
 #include "shortcutkeys.h"
 
+#include <QStandardItemModel>
 #include <QTest>
 
 #include <memory>
@@ -30,6 +31,8 @@ private Q_SLOTS:
         m_database.reset();
     }
     void showsTheShortcutOfEachRecord();
+    void showsShortcutsWithEachModifier_data();
+    void showsShortcutsWithEachModifier();
     void storesTheShortcutThatIsPressed_data();
     void storesTheShortcutThatIsPressed();
 
@@ -62,6 +65,26 @@ void TestRecordOnServer::showsTheShortcutOfEachRecord()
     }
     QVERIFY(form.mapper.submit());
     QCOMPARE(RecordDatabase::stored(), before);
+}
+
+void TestRecordOnServer::showsShortcutsWithEachModifier_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text : { "F9", "Ctrl+F9", "Shift+F9", "Alt+F9", "Meta+F9", "Ctrl+Alt+A" }) {
+        QTest::newRow(text) << QString::fromLatin1(text);
+    }
+}
+
+void TestRecordOnServer::showsShortcutsWithEachModifier()
+{
+    QFETCH(QString, text);
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), text);
+    const OlvValueDelegate delegate;
+    OlvShortcutEdit edit(nullptr);
+    delegate.setEditorData(&edit, model.index(0, 0));
+    QVERIFY(edit.shortcut());
+    QCOMPARE(edit.getValue(), QVariant(text));
 }
 
 void TestRecordOnServer::storesTheShortcutThatIsPressed_data()
