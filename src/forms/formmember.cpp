@@ -7,6 +7,9 @@
 #include <OlvWidgets/input.h>
 #include <OlvWidgets/value.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 template <class Widget> bool isOne(const QWidget *widget)
@@ -14,58 +17,48 @@ template <class Widget> bool isOne(const QWidget *widget)
     return qobject_cast<const Widget *>(widget);
 }
 
-FormKind kindOfPushButton(const QWidget *button)
+/** What the widgets of a kind are, at the least. */
+struct KindOfClass
+{
+    FormKind kind;
+    bool (*isOf)(const QWidget *widget);
+};
+
+/** A class stands before those that it derives from. */
+constexpr KindOfClass kinds[] = {
+    { FormKind::Button, &isOne<OlvButton> },
+    { FormKind::Tile, &isOne<OlvIconButton> },
+    { FormKind::Glyph, &isOne<OlvSimpleIconButton> },
+    { FormKind::BarButton, &isOne<QPushButton> },
+    { FormKind::LineEdit, &isOne<OlvLineEdit> },
+    { FormKind::ShortcutEdit, &isOne<OlvShortcutEdit> },
+    { FormKind::Switch, &isOne<OlvSwitch> },
+    { FormKind::Slider, &isOne<OlvSlider> },
+    { FormKind::Bar, &isOne<OlvControlBar> },
+    { FormKind::Grid, &isOne<OlvGridLayout> },
+    { FormKind::Panel, &isOne<OlvFlexWidget> },
+    { FormKind::Placeholder, &isOne<OlvDragWidget> },
+};
+
+/** Whether a button of @p kind belongs to the form by itself, and not as a part. */
+bool isOnItsOwn(const QWidget *button, FormKind kind)
 {
     const QWidget *parent = button->parentWidget();
-    if (isOne<OlvLineEdit>(parent)) {
-        return FormKind::None; // the password button, which is a part
-    }
-    if (isOne<OlvSimpleIconButton>(button)) {
-        return FormKind::Glyph;
-    }
-    return isOne<OlvControlBar>(parent) ? FormKind::BarButton : FormKind::None;
-}
-
-FormKind kindOfValueWidget(const QWidget *widget)
-{
-    if (isOne<OlvButton>(widget)) {
-        return FormKind::Button;
-    }
-    if (isOne<OlvIconButton>(widget)) {
-        return FormKind::Tile;
-    }
-    if (isOne<OlvLineEdit>(widget)) {
-        return FormKind::LineEdit;
-    }
-    if (isOne<OlvShortcutEdit>(widget)) {
-        return FormKind::ShortcutEdit;
-    }
-    if (isOne<OlvSwitch>(widget)) {
-        return FormKind::Switch;
-    }
-    return isOne<OlvSlider>(widget) ? FormKind::Slider : FormKind::None;
+    return kind == FormKind::BarButton ? isOne<OlvControlBar>(parent)
+                                       : !isOne<OlvLineEdit>(parent); // whose password button it is
 }
 
 } // namespace
 
 FormKind formKindOf(const QWidget *widget)
 {
-    if (isOne<OlvWidget>(widget)) {
-        return kindOfValueWidget(widget);
+    const auto *found = std::find_if(std::begin(kinds), std::end(kinds),
+                                     [=](const KindOfClass &one) { return one.isOf(widget); });
+    if (found == std::end(kinds)) {
+        return FormKind::None;
     }
-    if (isOne<QPushButton>(widget)) {
-        return kindOfPushButton(widget);
-    }
-    if (isOne<OlvControlBar>(widget)) {
-        return FormKind::Bar;
-    }
-    if (isOne<OlvGridLayout>(widget)) {
-        return FormKind::Grid;
-    }
-    if (isOne<OlvFlexWidget>(widget)) {
-        return FormKind::Panel;
-    }
-    return isOne<OlvDragWidget>(widget) ? FormKind::Placeholder : FormKind::None;
+    const bool isPart = isOne<QPushButton>(widget) && !isOnItsOwn(widget, found->kind);
+    return isPart ? FormKind::None : found->kind;
 }
 
 QLineEdit *textOf(const QWidget *widget, FormKind kind)
@@ -81,33 +74,7 @@ OlvSimpleIconButton *passwordButton(const OlvLineEdit *edit)
 
 bool isStill(const QWidget *widget, FormKind kind)
 {
-    switch (kind) {
-    case FormKind::None:
-        break;
-    case FormKind::Button:
-        return isOne<OlvButton>(widget);
-    case FormKind::Tile:
-        return isOne<OlvIconButton>(widget);
-    case FormKind::Glyph:
-        return isOne<OlvSimpleIconButton>(widget);
-    case FormKind::BarButton:
-        return isOne<QPushButton>(widget);
-    case FormKind::LineEdit:
-        return isOne<OlvLineEdit>(widget);
-    case FormKind::ShortcutEdit:
-        return isOne<OlvShortcutEdit>(widget);
-    case FormKind::Switch:
-        return isOne<OlvSwitch>(widget);
-    case FormKind::Slider:
-        return isOne<OlvSlider>(widget);
-    case FormKind::Bar:
-        return isOne<OlvControlBar>(widget);
-    case FormKind::Grid:
-        return isOne<OlvGridLayout>(widget);
-    case FormKind::Panel:
-        return isOne<OlvFlexWidget>(widget);
-    case FormKind::Placeholder:
-        return isOne<OlvDragWidget>(widget);
-    }
-    return false;
+    return std::any_of(std::begin(kinds), std::end(kinds), [=](const KindOfClass &one) {
+        return one.kind == kind && one.isOf(widget);
+    });
 }
