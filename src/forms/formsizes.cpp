@@ -19,8 +19,8 @@ namespace {
 
 void addWidgetsOf(const QLayout *layout, QWidgetList *widgets)
 {
-    for (int i = 0; i < layout->count(); ++i) {
-        QLayoutItem *item = layout->itemAt(i);
+    // not up to count(), about which the layout of a QMainWindow prints a warning
+    for (int i = 0; QLayoutItem *item = layout->itemAt(i); ++i) {
         if (QWidget *widget = item->widget()) {
             widgets->append(widget);
         } else if (const QLayout *inner = item->layout()) {

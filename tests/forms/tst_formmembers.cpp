@@ -4,9 +4,13 @@
 #include "widgetform.h"
 
 #include <QDialog>
+#include <QDockWidget>
+#include <QMainWindow>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolBar>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -34,6 +38,7 @@ private Q_SLOTS:
     }
     void areThoseThatAreThere();
     void areThoseAtAnyDepth();
+    void areThoseInTheBarsAndDocksOfAMainWindow();
     void areThoseThatComeLater();
     void areThoseThatAreMovedIn();
     void areNotThoseThatLeave();
@@ -74,6 +79,33 @@ void TestFormMembers::areThoseAtAnyDepth()
     OlvButton *button = addButton(panel);
     new OlvFormSupport(&tabs);
     QVERIFY(isServed(*button));
+}
+
+/** Whose layout prints a warning when it is asked how many items it has. */
+void TestFormMembers::areThoseInTheBarsAndDocksOfAMainWindow()
+{
+    QMainWindow window;
+    // the offscreen platform complains about windows with a minimum size
+    window.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    QVector<OlvButton *> buttons;
+    QToolBar *bar = window.addToolBar(QStringLiteral("Bar"));
+    buttons.append(addButton(bar));
+    bar->addWidget(buttons.last());
+    auto *dock = new QDockWidget(QStringLiteral("Dock"));
+    auto *page = new QWidget;
+    buttons.append(addButton(page));
+    (new QVBoxLayout(page))->addWidget(buttons.last());
+    dock->setWidget(page);
+    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    buttons.append(addButton(&window));
+    window.setCentralWidget(buttons.last());
+    window.resize(400, 300);
+    new OlvFormSupport(&window);
+    window.show();
+    for (const OlvButton *button : qAsConst(buttons)) {
+        QVERIFY(isServed(*button));
+        QCOMPARE(button->minimumSize(), OlvFormSupport::naturalSize(button));
+    }
 }
 
 void TestFormMembers::areThoseThatComeLater()
