@@ -190,6 +190,9 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  * application's calls setValue(), which is submitted then. An OlvShortcutEdit that holds no
  * shortcut has no value, and writes nothing.
  *
+ * A model may show the whole record again when one of its values is stored, as QSqlTableModel does
+ * under OnFieldChange. The other widgets then keep what has not been stored yet.
+ *
  * A widget that does not show its record yet, since it was mapped after the mapper had moved there,
  * writes nothing until its value changes, or in an OlvLineEdit until the user types.
  *

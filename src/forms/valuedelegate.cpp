@@ -84,6 +84,7 @@ public:
     void commit(OlvWidget *widget);
 
     QHash<QObject *, Editor> editors;
+    bool isStoring = false; ///< a value is being written, and the model tells of that
 
 private:
     OlvValueDelegate *q;
@@ -188,6 +189,13 @@ void OlvValueDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
         adopted.isChanged = false;
         return; // it may slide there, and is left to do so
     }
+    if (d->isStoring && adopted.record == index) {
+        // a model may tell of a change to the whole record, other values of which wait to be stored
+        const QVariant chosen = EditorValue::chosenValue(widget);
+        if (chosen.isValid() && chosen != adopted.shown) {
+            return;
+        }
+    }
     adopted.record = index;
     const bool wasLoading = std::exchange(adopted.isLoading, true);
     EditorValue::show(widget, value);
@@ -223,9 +231,14 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     adopted.shown = value;
     adopted.record = index;
     adopted.isChanged = false;
-    if (!model->setData(index, EditorValue::converted(value, index.data(Qt::EditRole)),
-                        Qt::EditRole)
-        && self && guarded) {
+    const bool wasStoring = std::exchange(d->isStoring, true);
+    const bool isStored = model->setData(
+        index, EditorValue::converted(value, index.data(Qt::EditRole)), Qt::EditRole);
+    if (!self) {
+        return;
+    }
+    d->isStoring = wasStoring;
+    if (!isStored && guarded) {
         Private::Editor &refused = d->editors[widget]; // the next time tries again
         refused.shown = before.shown;
         refused.record = before.record;

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void navigatesInAHurry();
     void storesWhatTheUserDoes_data();
     void storesWhatTheUserDoes();
+    void storesAllThatHasBeenDone();
+    void keepsATextWhileAnotherValueIsStored();
     void storesTheSwitchThatStillSlides();
     void aSecondClickIsNotTakenForTheNextRecord();
     void overwritesWhatItCouldNotShowOnceTheUserChangesIt();
@@ -207,6 +209,40 @@ void TestValueDelegate::storesWhatTheUserDoes()
         QTest::qWait(animationTime);
     }
     QCOMPARE(RecordDatabase::stored(), expected);
+}
+
+/** Although the model shows the whole record again when one of its values is stored. */
+void TestValueDelegate::storesAllThatHasBeenDone()
+{
+    RecordForm form(QDataWidgetMapper::ManualSubmit);
+    form.name->setText(QStringLiteral("Eve"));
+    releaseMouse(*form.notify);
+    dragKnobToTheEnd(*form.volume);
+    click(*form.tile);
+    click(*form.starred);
+    form.keys->setShortcut(new FakeShortcut(QStringLiteral("Ctrl+F6")));
+    QVERIFY(form.mapper.submit());
+    const QVariantList stored = RecordDatabase::stored().at(0);
+    const QVariantList expected{
+        1, QStringLiteral("Eve"), 0, 100, 1, 1, QStringLiteral("Ctrl+F6"), QStringLiteral("first")
+    };
+    QCOMPARE(stored, expected);
+}
+
+void TestValueDelegate::keepsATextWhileAnotherValueIsStored()
+{
+    RecordForm form;
+    QTest::keyClicks(form.name->lineEdit(), QStringLiteral("x"));
+    dragKnobToTheEnd(*form.volume); // does not take the focus, so that the text is not finished
+    QCOMPARE(RecordDatabase::stored(0, VolumeColumn), QVariant(100));
+    QCOMPARE(form.name->getText(), QStringLiteral("Annx"));
+    form.mapper.revert();
+    QCOMPARE(form.name->getText(), QStringLiteral("Ann"));
+    QTest::keyClicks(form.name->lineEdit(), QStringLiteral("y"));
+    releaseMouse(*form.notify);
+    QTest::keyClick(form.name->lineEdit(), Qt::Key_Return);
+    QCOMPARE(RecordDatabase::stored(0, NameColumn), QVariant(QStringLiteral("Anny")));
+    QCOMPARE(RecordDatabase::stored(0, NotifyColumn), QVariant(0));
 }
 
 void TestValueDelegate::storesTheSwitchThatStillSlides()
