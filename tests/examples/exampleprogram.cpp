@@ -54,6 +54,7 @@ bool ExampleProgram::start(const QStringList &options, const QString &path)
         environment.insert(QStringLiteral("PATH"), path);
     }
     m_process.setProcessEnvironment(environment);
+    m_process.setWorkingDirectory(m_home.path()); // where file dialogs begin
     m_process.start(m_program, options);
     return m_process.waitForStarted(patience);
 }

@@ -91,11 +91,15 @@ void TestFramelessEditor::awaitWindow(const QString &name)
                              patience);
 }
 
-/** Answers the dialog of that title, which asks for a file. */
+/**
+ * Answers the dialog of that title, which asks for a file of the current folder. No path is typed:
+ * a file dialog selects the folder that is written as yet, when it has read it, and may then take
+ * the folder instead of what has been written since.
+ */
 void TestFramelessEditor::answer(const QString &dialog, const QString &file)
 {
     QTRY_VERIFY_WITH_TIMEOUT(m_editor->findWindow(dialog) && m_editor->isActive(), patience);
-    m_editor->type(m_editor->path(file));
+    m_editor->type(file);
     m_editor->press(QStringLiteral("Return"));
 }
 
