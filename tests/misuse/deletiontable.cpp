@@ -209,10 +209,10 @@ private:
 Ear *Ear::s_hearing = nullptr;
 
 /** A widget in a shown window, and who listens to it. */
-class Scene
+class DeletionScene
 {
 public:
-    Scene(const Subject &subject, const Deed &deed, Listener listener)
+    DeletionScene(const Subject &subject, const Deed &deed, Listener listener)
         : m_assistant(listener == Listener::UpdateHandler ? new Assistant : nullptr)
     {
         m_window.resize(400, 300);
@@ -290,7 +290,7 @@ void DeletionTable::addRows(const QVector<Subject> &subjects, Listener listener)
     for (int i = 0; i < subjects.size(); ++i) {
         const QVector<Deed> deeds = deedsOf(subjects.at(i), listener);
         for (int j = 0; j < deeds.size(); ++j) {
-            const Scene scene(subjects.at(i), deeds.at(j), listener);
+            const DeletionScene scene(subjects.at(i), deeds.at(j), listener);
             deeds.at(j).act(scene.widget);
             const QVector<Hit> hits = scene.ear->hits();
             for (const Hit &hit : hits) {
@@ -311,7 +311,7 @@ void DeletionTable::check(const QVector<Subject> &subjects, Listener listener)
     QFETCH(int, type);
     QFETCH(int, number);
     const Deed done = deedsOf(subjects.at(subject), listener).at(deed);
-    Scene scene(subjects.at(subject), done, listener);
+    DeletionScene scene(subjects.at(subject), done, listener);
     scene.ear->deleteAt({ receiver, type, number });
     done.act(scene.widget);
     QVERIFY(scene.widget.isNull());

@@ -26,10 +26,10 @@ struct Place
 };
 
 /** A widget and what the pointer, time and assistive programs do to it. */
-class Scene
+class HostileScene
 {
 public:
-    explicit Scene(int kind)
+    explicit HostileScene(int kind)
         : m_widget(everyWidget().at(kind).make(&m_window))
     {
         m_window.resize(250, 150);
@@ -161,7 +161,7 @@ QVector<Place> places()
 {
     QVector<Place> all;
     for (int kind = 0; kind < everyWidget().size(); ++kind) {
-        Scene scene(kind);
+        HostileScene scene(kind);
         scene.use();
         const QObjectList objects = scene.objects();
         for (int i = 0; i < objects.size(); ++i) {
@@ -218,7 +218,7 @@ void TestHostileValues::areStood_data()
 void TestHostileValues::areStood()
 {
     QFETCH(Place, place);
-    Scene scene(place.kind);
+    HostileScene scene(place.kind);
     QObject *object = scene.objects().at(place.object);
     const QVector<QVariant> values = hostileValues();
     for (const QVariant &value : values) {
@@ -236,7 +236,7 @@ void TestHostileValues::areForgotten_data()
 void TestHostileValues::areForgotten()
 {
     QFETCH(Place, place);
-    Scene scene(place.kind);
+    HostileScene scene(place.kind);
     QObject *object = scene.objects().at(place.object);
     const QVariant usual = object->property(place.property.constData());
     const QImage before = scene.picture();
@@ -257,7 +257,7 @@ void TestHostileValues::hugeTextIsStood_data()
         if (qstrcmp(everyWidget().at(place.kind).name, "OlvGridLayout") == 0) {
             continue; // its tiles have rows of their own
         }
-        const Scene scene(place.kind);
+        const HostileScene scene(place.kind);
         const QVariant usual =
             scene.objects().at(place.object)->property(place.property.constData());
         if (usual.userType() == QMetaType::QString || usual.userType() == QMetaType::QChar) {
@@ -271,7 +271,7 @@ void TestHostileValues::hugeTextIsStood()
     QFETCH(Place, place);
     constexpr int megabytes = 10;
     const QString text(megabytes * 1024 * 1024 / int(sizeof(QChar)), QLatin1Char('x'));
-    Scene scene(place.kind);
+    HostileScene scene(place.kind);
     QObject *object = scene.objects().at(place.object);
     object->setProperty(place.property.constData(), text);
     QCOMPARE(object->property(place.property.constData()).toString(), text);

@@ -17,10 +17,10 @@
 namespace {
 
 /** A widget in a window, to which things are done under a style. */
-class Scene
+class StyledScene
 {
 public:
-    explicit Scene(int kind)
+    explicit StyledScene(int kind)
         : widget(everyWidget().at(kind).make(&window))
     {
         window.resize(250, 150);
@@ -38,7 +38,7 @@ public:
     QWidget *widget;
 };
 
-void play(Scene &scene)
+void play(StyledScene &scene)
 {
     QWidgetList widgets = scene.widget->findChildren<QWidget *>();
     widgets.prepend(scene.widget);
@@ -133,7 +133,7 @@ void TestOtherStyles::standsWhatIsDoneToIt()
     QFETCH_GLOBAL(QString, style);
     QFETCH(int, kind);
     QApplication::setStyle(style);
-    Scene scene(kind);
+    StyledScene scene(kind);
     play(scene);
     const QPointer<QWidget> widget(scene.widget);
     delete scene.widget;
@@ -151,7 +151,7 @@ void TestOtherStyles::looksTheSame()
 {
     QFETCH_GLOBAL(QString, style);
     QFETCH(int, kind);
-    Scene usual(kind);
+    StyledScene usual(kind);
     if (!isSelfDrawn(usual.widget)) {
         return;
     }
@@ -159,7 +159,7 @@ void TestOtherStyles::looksTheSame()
     Pointer::enter(*usual.widget);
     const QImage hovered = usual.picture();
     QApplication::setStyle(style);
-    Scene other(kind);
+    StyledScene other(kind);
     COMPARE_PICTURES(other.picture(), atRest);
     Pointer::enter(*other.widget);
     COMPARE_PICTURES(other.picture(), hovered);
@@ -174,7 +174,7 @@ void TestOtherStyles::standsAnotherStyle()
 {
     QFETCH_GLOBAL(QString, style);
     QFETCH(int, kind);
-    Scene scene(kind);
+    StyledScene scene(kind);
     const QSize size = scene.widget->size();
     for (const QString &next : { style, m_usual }) {
         QApplication::setStyle(next);
