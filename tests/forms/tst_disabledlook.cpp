@@ -4,51 +4,12 @@
 #include "widgetform.h"
 
 #include <QGraphicsBlurEffect>
-#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 
 namespace {
 
 constexpr qreal opacity = 0.4;
-
-QImage pictureAt(QWidget &window, qreal ratio)
-{
-    QImage image((QSizeF(window.size()) * ratio).toSize(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    window.render(&image);
-    return image;
-}
-
-/** How far two colours are from each other at most, in one of red, green and blue. */
-int distance(QRgb one, QRgb other)
-{
-    return qMax(qAbs(qRed(one) - qRed(other)),
-                qMax(qAbs(qGreen(one) - qGreen(other)), qAbs(qBlue(one) - qBlue(other))));
-}
-
-/** A picture as it is when its pixels let @p ground through. */
-QImage faded(const QImage &picture, const QColor &ground)
-{
-    QImage result(picture.size(), QImage::Format_RGB32);
-    result.setDevicePixelRatio(picture.devicePixelRatio());
-    result.fill(ground);
-    QPainter painter(&result);
-    painter.setOpacity(opacity);
-    painter.drawImage(0, 0, picture);
-    return result;
-}
-
-int largestDifference(const QImage &one, const QImage &other)
-{
-    int largest = one.size() == other.size() ? 0 : 255;
-    for (int y = 0; largest < 255 && y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            largest = qMax(largest, distance(one.pixel(x, y), other.pixel(x, y)));
-        }
-    }
-    return largest;
-}
 
 using Make = QWidget *(*)(QWidget *parent);
 
@@ -128,16 +89,16 @@ void TestDisabledLook::isTheEnabledOneFaded()
     widget->setGeometry(10, 10, 110, 40);
     new OlvFormSupport(&window, OlvFormSupport::DisabledLook);
     window.show();
-    const QImage enabled = pictureAt(window, ratio);
+    const QImage enabled = pictureOfWindow(window, ratio);
     widget->setEnabled(false);
-    const QImage disabled = pictureAt(window, ratio);
-    const QImage expected = faded(enabled, window.palette().color(QPalette::Window));
+    const QImage disabled = pictureOfWindow(window, ratio);
+    const QImage expected = faded(enabled, window.palette().color(QPalette::Window), opacity);
     QVERIFY(enabled != disabled);
     // the drawings round differently, once for each of what lies upon one another
     QVERIFY2(largestDifference(disabled, expected) <= 2,
              qPrintable(QString::number(largestDifference(disabled, expected))));
     widget->setEnabled(true);
-    COMPARE_PICTURES(pictureAt(window, ratio), enabled);
+    COMPARE_PICTURES(pictureOfWindow(window, ratio), enabled);
 }
 
 void TestDisabledLook::comesAndGoes()

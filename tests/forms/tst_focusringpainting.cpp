@@ -7,37 +7,7 @@
 #include <QApplication>
 #include <QHash>
 #include <QPainter>
-#include <QPainterPath>
 #include <QTest>
-
-namespace {
-
-constexpr int margin = 3;
-constexpr int thickness = 2;
-
-QImage pictureAt(QWidget &window, qreal ratio)
-{
-    QImage image((QSizeF(window.size()) * ratio).toSize(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    window.render(&image);
-    return image;
-}
-
-/** A picture with a ring of corners of @p radius drawn around @p rect. */
-QImage withRing(QImage picture, QRectF rect, qreal radius, const QColor &color)
-{
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF outer = rect.adjusted(-margin, -margin, margin, margin);
-    const QRectF inner = outer.adjusted(thickness, thickness, -thickness, -thickness);
-    QPainterPath path;
-    path.addRoundedRect(outer, radius + margin, radius + margin);
-    path.addRoundedRect(inner, radius + margin - thickness, radius + margin - thickness);
-    painter.fillPath(path, color);
-    return picture;
-}
-
-} // namespace
 
 class TestFocusRingPainting : public QObject
 {
@@ -94,10 +64,10 @@ void TestFocusRingPainting::isTheSameAsADrawing()
     }
     tabTo(framed);
     QVERIFY(hasRing(form));
-    const QImage actual = pictureAt(form, ratio);
+    const QImage actual = pictureOfWindow(form, ratio);
     support->setFeatures(support->features() & ~OlvFormSupport::FocusRing);
     QVERIFY(!hasRing(form));
-    const QImage without = pictureAt(form, ratio);
+    const QImage without = pictureOfWindow(form, ratio);
     COMPARE_PICTURES(actual,
                      withRing(without, QRectF(framed->geometry()), radius,
                               form.palette().color(QPalette::Highlight)));
@@ -112,9 +82,9 @@ void TestFocusRingPainting::isSharpOnAFractionalScale()
         form.show();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         tabTo(form.save);
-        const QImage with = pictureAt(form, ratio);
+        const QImage with = pictureOfWindow(form, ratio);
         support->setFeatures({});
-        const QImage without = pictureAt(form, ratio);
+        const QImage without = pictureOfWindow(form, ratio);
         const int middle = qRound(form.save->geometry().center().x() * ratio);
         const QRgb color = form.palette().color(QPalette::Highlight).rgb();
         int colored = 0;
@@ -127,7 +97,7 @@ void TestFocusRingPainting::isSharpOnAFractionalScale()
                 ++others;
             }
         }
-        QCOMPARE(colored, 2 * qRound(thickness * ratio));
+        QCOMPARE(colored, 2 * qRound(ringThickness * ratio));
         QCOMPARE(others, 0);
     }
 }
@@ -172,9 +142,9 @@ void TestFocusRingPainting::hasTheColorOfItsWidget()
     palette.setColor(QPalette::Highlight, Qt::magenta);
     form.save->setPalette(palette);
     QVERIFY(watch.takeWhole() > 0);
-    const QPoint top(form.save->width() / 2 + margin, 1);
-    const QPoint place = form.save->pos() - QPoint(margin, margin) + top;
-    QCOMPARE(pictureAt(form, 1.0).pixelColor(place), QColor(Qt::magenta));
+    const QPoint top(form.save->width() / 2 + ringMargin, 1);
+    const QPoint place = form.save->pos() - QPoint(ringMargin, ringMargin) + top;
+    QCOMPARE(pictureOfWindow(form, 1.0).pixelColor(place), QColor(Qt::magenta));
 }
 
 /** The ring is neither painted again nor raised when one of them moves. */

@@ -31,22 +31,6 @@ QImage mirrorImage(const QImage &image)
 /** Qt rounds curves to one side, and blends them with the ground in one step or in two. */
 constexpr int roundingError = 3;
 
-/** How far the red, green or blue of a pixel is from that of the other picture at most. */
-int largestDeviation(const QImage &one, const QImage &other)
-{
-    int largest = one.size() == other.size() ? 0 : 255;
-    for (int y = 0; largest < 255 && y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = one.pixel(x, y);
-            const QRgb b = other.pixel(x, y);
-            largest = qMax(largest,
-                           qMax(qAbs(qRed(a) - qRed(b)),
-                                qMax(qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b)))));
-        }
-    }
-    return largest;
-}
-
 using Make = QWidget *(*)(QWidget *parent);
 
 OlvSlider *slider(QWidget *parent, int percent)
@@ -148,7 +132,7 @@ void TestMirroringPainting::isTheOtherDirectionInAMirror()
     new OlvFormSupport(&window, OlvFormSupport::Mirroring);
     COMPARE_PICTURES(shownAt(*widget, ratio), ltr); // this direction is untouched
     window.setLayoutDirection(Qt::RightToLeft);
-    const int deviation = largestDeviation(shownAt(*widget, ratio), mirrorImage(ltr));
+    const int deviation = largestDifference(shownAt(*widget, ratio), mirrorImage(ltr));
     QVERIFY2(deviation <= roundingError, qPrintable(QString::number(deviation)));
     window.setLayoutDirection(Qt::LeftToRight);
     COMPARE_PICTURES(shownAt(*widget, ratio), ltr);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QSet>
 
+#include <algorithm>
 #include <utility>
 
 DrawnWidget::DrawnWidget(QSize size, Draw draw)
@@ -25,6 +26,25 @@ QImage pictureOf(QWidget &widget, qreal devicePixelRatio)
     image.fill(Qt::transparent);
     widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     return image;
+}
+
+QImage pictureOfWindow(QWidget &window, qreal devicePixelRatio)
+{
+    QImage image((QSizeF(window.size()) * devicePixelRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatio);
+    window.render(&image);
+    return image;
+}
+
+QImage faded(const QImage &picture, const QColor &ground, qreal opacity)
+{
+    QImage result(picture.size(), QImage::Format_RGB32);
+    result.setDevicePixelRatio(picture.devicePixelRatio());
+    result.fill(ground);
+    QPainter painter(&result);
+    painter.setOpacity(opacity);
+    painter.drawImage(0, 0, picture);
+    return result;
 }
 
 QByteArray difference(const QImage &actual, const QImage &expected)
@@ -53,6 +73,20 @@ QByteArray difference(const QImage &actual, const QImage &expected)
     return count == 0
         ? QByteArray()
         : QStringLiteral("%1 pixels differ, the first %2").arg(count).arg(first).toUtf8();
+}
+
+int largestDifference(const QImage &one, const QImage &other)
+{
+    int largest = one.size() == other.size() ? 0 : 255;
+    for (int y = 0; largest < 255 && y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            largest = std::max({ largest, qAbs(qRed(a) - qRed(b)), qAbs(qGreen(a) - qGreen(b)),
+                                 qAbs(qBlue(a) - qBlue(b)) });
+        }
+    }
+    return largest;
 }
 
 int colorCount(const QImage &image)

@@ -30,8 +30,20 @@ private:
 /** What @p widget itself draws, without its children and on nothing, at a device pixel ratio. */
 QImage pictureOf(QWidget &widget, qreal devicePixelRatio = 1.0);
 
+/** What @p window shows, with all that is in it, at a device pixel ratio. */
+QImage pictureOfWindow(QWidget &window, qreal devicePixelRatio);
+
+/** A picture as it is when it is drawn on @p ground with an opacity. */
+QImage faded(const QImage &picture, const QColor &ground, qreal opacity);
+
 /** Where two pictures differ, in words; empty when they are the same pixel by pixel. */
 QByteArray difference(const QImage &actual, const QImage &expected);
+
+/**
+ * How far a pixel is from that of the other picture at most, in one of red, green and blue; 255 for
+ * pictures of different sizes.
+ */
+int largestDifference(const QImage &one, const QImage &other);
 
 /** How many colours a picture has. */
 int colorCount(const QImage &image);

@@ -7,8 +7,6 @@
 
 #include <QApplication>
 #include <QGridLayout>
-#include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
 
 #include <functional>
@@ -16,8 +14,6 @@
 
 namespace {
 
-constexpr int margin = 3;
-constexpr int thickness = 2;
 constexpr qreal opacity = 0.4;
 constexpr int leastSide = 20;
 
@@ -43,47 +39,6 @@ bool isStill(const QWidget &widget)
         }
     }
     return true;
-}
-
-/** The picture of a window with a ring of corners of @p radius drawn around @p rect. */
-QImage withRing(QImage picture, const QRectF &rect, qreal radius, const QColor &color)
-{
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF outer = rect.adjusted(-margin, -margin, margin, margin);
-    const QRectF inner = outer.adjusted(thickness, thickness, -thickness, -thickness);
-    QPainterPath path;
-    path.addRoundedRect(outer, radius + margin, radius + margin);
-    path.addRoundedRect(inner, radius + margin - thickness, radius + margin - thickness);
-    painter.fillPath(path, color);
-    return picture;
-}
-
-/** A picture whose pixels let @p ground through. */
-QImage faded(const QImage &picture, const QColor &ground)
-{
-    QImage result(picture.size(), QImage::Format_RGB32);
-    result.fill(ground);
-    QPainter painter(&result);
-    painter.setOpacity(opacity);
-    painter.drawImage(0, 0, picture);
-    return result;
-}
-
-/** How far a part of a colour is from that of the other picture at most. */
-int largestDifference(const QImage &one, const QImage &other)
-{
-    int largest = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb left = one.pixel(x, y);
-            const QRgb right = other.pixel(x, y);
-            largest = qMax(largest, qAbs(qRed(left) - qRed(right)));
-            largest = qMax(largest, qAbs(qGreen(left) - qGreen(right)));
-            largest = qMax(largest, qAbs(qBlue(left) - qBlue(right)));
-        }
-    }
-    return largest;
 }
 
 QVector<QPointer<QObject>> &focusUpdates()
@@ -209,7 +164,7 @@ void TestFormLookOnServer::everyStopHasARing()
         QTRY_COMPARE(QApplication::focusWidget(), stop);
         const QWidget *framed = qobject_cast<QLineEdit *>(stop) ? stop->parentWidget() : stop;
         const auto isAround = [&] {
-            const QImage picture = shown(*framed, margin);
+            const QImage picture = shown(*framed, ringMargin);
             const QPoint middle = picture.rect().center();
             // the inner of its two pixels, since the outer one is rounded off
             return picture.pixel(middle.x(), 1) == color
@@ -247,7 +202,8 @@ void TestFormLookOnServer::disabledWidgetsAreTheEnabledOnesFaded()
     const QColor ground = m_dialog->palette().color(QPalette::Window);
     for (int i = 0; i < widgets.size(); ++i) {
         // the drawings round differently, once for each of what lies upon one another
-        const int largest = largestDifference(shown(*widgets.at(i)), faded(enabled.at(i), ground));
+        const int largest =
+            largestDifference(shown(*widgets.at(i)), faded(enabled.at(i), ground, opacity));
         QVERIFY2(largest <= 2,
                  qPrintable(QStringLiteral("%1: %2")
                                 .arg(QLatin1String(widgets.at(i)->metaObject()->className()))
