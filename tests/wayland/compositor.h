@@ -6,6 +6,10 @@
 #include <QColor>
 #include <QCursor>
 #include <QEvent>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QTest>
 #include <QVector>
 #include <QWidget>
@@ -81,6 +85,8 @@ public:
             QTest::qWait(20);
             input.moveTo(QPoint(0, 0));
             QTest::qWait(20);
+            // A program is told where it is entered, but takes the cursor's place from motions.
+            input.moveTo(area.center() - QPoint(1, 0));
             input.moveTo(area.center());
             QTest::qWait(50);
             if (!area.isNull() && window.underMouse()
@@ -99,7 +105,32 @@ public:
         QTRY_VERIFY(moves.count > 0);
     }
 
-    /** Drags a window from a place on the screen. The compositor takes over at the first step. */
+    /** Whether it is sway, which tells where windows are. */
+    static bool isSway()
+    {
+        return qEnvironmentVariableIsSet("SWAYSOCK");
+    }
+    /** The step at the beginning of a drag. */
+    static constexpr QPoint firstStep{ 1, 1 };
+    /** How much of a drag of a window does not move it, where the first step comes alone. */
+    static QPoint leftOut()
+    {
+        return isSway() ? firstStep : QPoint();
+    }
+    /** Where sway says that this program's window is. */
+    static QRect toldArea()
+    {
+        QProcess query;
+        query.start(QStringLiteral("swaymsg"),
+                    { QStringLiteral("-r"), QStringLiteral("-t"), QStringLiteral("get_tree") });
+        query.waitForFinished(patience);
+        return areaIn(QJsonDocument::fromJson(query.readAllStandardOutput()).object());
+    }
+
+    /**
+     * Drags a window from a place on the screen, which moves it by @p distance. The compositor
+     * takes over at the first step, which sway leaves out.
+     */
     void drag(const QWidget &window, QPoint from, QPoint distance,
               RealInput::Button button = RealInput::Left)
     {
@@ -108,15 +139,38 @@ public:
         const EventCount leaves(window.windowHandle(), { QEvent::Leave });
         input.press(button);
         QTRY_COMPARE(presses.count, 1);
-        input.moveTo(from + QPoint(1, 1));
+        input.moveTo(from + firstStep);
         QTRY_COMPARE(leaves.count, 1);
+        const QPoint start = from + leftOut();
         constexpr int steps = 10;
         for (int i = 1; i <= steps; ++i) {
-            input.moveTo(from + distance * i / steps);
+            input.moveTo(start + distance * i / steps);
             QTest::qWait(5);
         }
         input.release(button);
     }
 
     RealInput input;
+
+private:
+    static QRect areaIn(const QJsonObject &node)
+    {
+        if (node.value(QStringLiteral("pid")).toInt() == QCoreApplication::applicationPid()) {
+            const QJsonObject rect = node.value(QStringLiteral("rect")).toObject();
+            return { rect.value(QStringLiteral("x")).toInt(),
+                     rect.value(QStringLiteral("y")).toInt(),
+                     rect.value(QStringLiteral("width")).toInt(),
+                     rect.value(QStringLiteral("height")).toInt() };
+        }
+        for (const char *kind : { "nodes", "floating_nodes" }) {
+            const QJsonArray children = node.value(QLatin1String(kind)).toArray();
+            for (const QJsonValue &child : children) {
+                const QRect area = areaIn(child.toObject());
+                if (!area.isNull()) {
+                    return area;
+                }
+            }
+        }
+        return {};
+    }
 };

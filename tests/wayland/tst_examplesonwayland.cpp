@@ -63,7 +63,7 @@ private:
         pause();
         m_compositor.input.press();
         pause();
-        m_compositor.input.moveTo(from + QPoint(1, 1));
+        m_compositor.input.moveTo(from + Compositor::firstStep);
         const auto isThere = [&] {
             // The compositor may have taken over only after the last motion.
             m_compositor.input.moveTo(to - QPoint(1, 0));
@@ -102,7 +102,7 @@ void TestExamplesOnWayland::noteIsMovedAndPinned()
     const QRect before = start(OLV_STICKYNOTE, header);
     QVERIFY(!before.isNull());
     const QRect moved(QPoint(300, 200), before.size());
-    dragTo(before.center(), moved.center(), header, moved);
+    dragTo(before.center(), moved.center() + Compositor::leftOut(), header, moved);
     QCOMPARE(m_compositor.areaOf(header), moved);
     // the pin, which unpins it, and pins it again
     for (int i = 0; i < 2; ++i) {
@@ -119,7 +119,7 @@ void TestExamplesOnWayland::editorIsMovedAndClosed()
     const QRect before = start(OLV_FRAMELESSEDITOR, header);
     QCOMPARE(before.width(), 638); // within the frame
     const QRect moved(QPoint(300, 200), before.size());
-    dragTo(before.center(), moved.center(), header, moved);
+    dragTo(before.center(), moved.center() + Compositor::leftOut(), header, moved);
     // by its corner
     const QPoint corner = moved.topLeft() + QPoint(636, 416);
     dragTo(corner, corner + QPoint(50, 40), header, moved.adjusted(0, 0, 50, 0));

@@ -61,6 +61,9 @@ void TestFramelessGalleryOnWayland::isMovedMaximisedAndClosed()
         const int state = i - 1;
         QCOMPARE(buttons.at(i)->isVisible(), state < 0 || state > OlvControlBar::Top);
     }
+    if (Compositor::isSway()) {
+        QSKIP("sway does not maximise windows that float");
+    }
     const auto click = [&](OlvControlBar::WindowState state, QPoint corner) {
         QPushButton *button = buttons.at(1 + state);
         compositor.input.moveTo(corner + button->mapTo(&window, button->rect().center()));
