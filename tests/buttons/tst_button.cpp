@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 QString stateOf(const OlvButton &button)
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void staysCheckedWhenNoLongerCheckable();
     void valueIsStoredAsItIsAndReadAsBool_data();
     void valueIsStoredAsItIsAndReadAsBool();
+    void keepsFiveCustomShadesOrMore_data();
+    void keepsFiveCustomShadesOrMore();
     void survivesPropertiesOfOtherTypes();
 };
 
@@ -177,6 +181,37 @@ void TestButton::valueIsStoredAsItIsAndReadAsBool()
     QCOMPARE(button.property("value"), stored);
     QCOMPARE(button.getValue(), QVariant(value));
     QCOMPARE(button.getValue().userType(), int(QMetaType::Bool));
+}
+
+void TestButton::keepsFiveCustomShadesOrMore_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("isKept");
+    QTest::newRow("none") << 0 << false;
+    QTest::newRow("four") << 4 << false;
+    QTest::newRow("five") << 5 << true;
+    QTest::newRow("six") << 6 << true;
+}
+
+/** No button draws with them: that they are kept shows in who shares their characters. */
+void TestButton::keepsFiveCustomShadesOrMore()
+{
+    QFETCH(int, count);
+    QFETCH(bool, isKept);
+    OlvButton button;
+    QString last = QString::number(255);
+    last.detach();
+    QStringList shades;
+    for (int i = 1; i < count; ++i) {
+        shades.append(QString::number(i));
+    }
+    if (count > 0) {
+        shades.append(last);
+    }
+    button.setColor(std::exchange(shades, QStringList()));
+    QCOMPARE(!last.isDetached(), isKept);
+    button.setColor({ QString(), QString(), QString(), QString(), QString() });
+    QVERIFY(last.isDetached());
 }
 
 void TestButton::survivesPropertiesOfOtherTypes()

@@ -54,9 +54,11 @@ void hear(QAccessibleEvent *event)
         break;
     case QAccessible::TextUpdated: {
         const auto *update = static_cast<QAccessibleTextUpdateEvent *>(event);
-        heard().insert(
-            event->object(),
-            QStringLiteral("text %1 > %2").arg(update->textRemoved(), update->textInserted()));
+        const int place = update->changePosition();
+        heard().insert(event->object(),
+                       QStringLiteral("text %1%2 > %3")
+                           .arg(place == 0 ? QString() : QStringLiteral("at %1 ").arg(place),
+                                update->textRemoved(), update->textInserted()));
         break;
     }
     default:
