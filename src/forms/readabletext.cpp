@@ -112,9 +112,8 @@ QColor darkened(const QColor &color)
     if (Contrast::ratio(Contrast::seen(color, ground), ground) >= Contrast::readable) {
         return color;
     }
-    const QColor opposite =
-        QColor::fromHslF(color.hslHueF() < 0 ? 0 : color.hslHueF(), color.hslSaturationF(),
-                         1 - color.lightnessF(), color.alphaF());
+    const QColor opposite = QColor::fromHslF(color.hslHueF(), color.hslSaturationF(),
+                                             1 - color.lightnessF(), color.alphaF());
     return Contrast::ratio(Contrast::seen(opposite, ground), ground)
             > Contrast::ratio(Contrast::seen(color, ground), ground)
         ? opposite

@@ -85,6 +85,8 @@ void TestGridScrolling::wheelScrolls_data()
     QTest::newRow("up") << QPoint(0, 120) << 35 << 15;
     QTest::newRow("up, clamped") << QPoint(0, 120) << 7 << 0;
     QTest::newRow("down, clamped") << QPoint(0, -120) << 30 << 40;
+    QTest::newRow("down by the least there is") << QPoint(0, -1) << 0 << 20;
+    QTest::newRow("up by the least there is") << QPoint(0, 1) << 35 << 15;
     QTest::newRow("nothing goes up") << QPoint(0, 0) << 35 << 15;
     QTest::newRow("right turn of a horizontal wheel") << QPoint(-120, 0) << 0 << 20;
     QTest::newRow("left turn of a horizontal wheel") << QPoint(120, 0) << 35 << 15;
