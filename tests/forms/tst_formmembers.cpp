@@ -42,6 +42,7 @@ private Q_SLOTS:
     void areThoseThatComeLater();
     void areThoseThatAreMovedIn();
     void areNotThoseThatLeave();
+    void areNoLongerWatchedOnceTheyLeave();
     void areNotThoseOfAContainerThatLeaves();
     void areThoseOfAContainerThatComesBack();
     void mayBeASingleWidget();
@@ -152,6 +153,42 @@ void TestFormMembers::areNotThoseThatLeave()
     button->setParent(nullptr);
     QVERIFY(!isServed(*button));
     delete button;
+}
+
+void TestFormMembers::areNoLongerWatchedOnceTheyLeave()
+{
+    class CountingSupport : public OlvFormSupport
+    {
+    public:
+        using OlvFormSupport::OlvFormSupport;
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            count += event->type() == QEvent::User ? 1 : 0;
+            return OlvFormSupport::eventFilter(watched, event);
+        }
+        int count = 0;
+    };
+    WidgetForm form;
+    auto *page = new QWidget(&form);
+    auto *support = new CountingSupport(&form);
+    const QVector<QWidget *> all{ page, form.save, form.name, form.name->lineEdit() };
+    const auto watched = [&] {
+        support->count = 0;
+        for (QWidget *widget : all) {
+            QEvent event(QEvent::User);
+            QCoreApplication::sendEvent(widget, &event);
+        }
+        return support->count;
+    };
+    QCOMPARE(watched(), 4);
+    for (QWidget *widget :
+         { page, static_cast<QWidget *>(form.save), static_cast<QWidget *>(form.name) }) {
+        widget->setParent(nullptr);
+    }
+    QCOMPARE(watched(), 0);
+    delete page;
+    delete form.save;
+    delete form.name;
 }
 
 void TestFormMembers::areNotThoseOfAContainerThatLeaves()
