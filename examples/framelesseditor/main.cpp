@@ -25,9 +25,10 @@ public:
         auto *bar = new OlvControlBar(glyphs, nullptr, { tr("Open"), tr("Save") });
         connect(bar, &OlvControlBar::changed, this, &EditorWindow::change);
         connect(bar, &OlvControlBar::custom, this, [=](int i) { i == 0 ? open() : void(save()); });
-        const bool onWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-        for (QPushButton *button : bar->findChildren<QPushButton *>().mid(2, onWayland ? 3 : 0)) {
-            button->hide(); // float, bottom and top, which Wayland does not have
+        if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+            for (auto state : { OlvControlBar::Float, OlvControlBar::Bottom, OlvControlBar::Top }) {
+                bar->button(state)->hide(); // which Wayland does not have
+            }
         }
         auto *title = new QLabel(tr("Editor"));
         title->setAttribute(Qt::WA_TransparentForMouseEvents); // so that presses reach the window

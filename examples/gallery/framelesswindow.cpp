@@ -54,11 +54,10 @@ FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
     m_resizer = new OlvResizeWidget(this, handleWidth);
 
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
-        // where a program cannot stack its windows; the first button is the application's own
-        const auto buttons = m_bar->findChildren<QPushButton *>();
+        // where a program cannot stack its windows
         for (const auto state :
              { OlvControlBar::Float, OlvControlBar::Bottom, OlvControlBar::Top }) {
-            buttons.at(1 + state)->hide();
+            m_bar->button(state)->hide();
         }
     }
     connect(m_bar, &OlvControlBar::changed, this, &FramelessWindow::change);

@@ -167,9 +167,9 @@ public:
  * and so is each button wide; the buttons stand at its right end. Their glyphs are characters of
  * the icon font "FontAwesome", 8 points large. The tool tips of the window buttons are "悬浮",
  * "置底", "置顶", "最小化", "最大化" ("还原" while it is checked) and "关闭", or what a QTranslator
- * makes of them, and follow another language. An application that wants others finds the buttons,
- * which are the bar's QPushButton children from the left to the right, and gives them its own; that
- * of the maximise button again at each changed().
+ * makes of them, and follow another language. An application that wants others gives them to
+ * button(), that of the maximise button again at each changed(). The buttons are the bar's
+ * QPushButton children from the left to the right.
  *
  * @code
  * // six glyphs of the window buttons, the one of "restore", one for each tip
@@ -241,6 +241,17 @@ public:
     { }
     /** Destroys the buttons as well. */
     ~OlvControlBar() override;
+
+    /**
+     * The window button @p state, to hide it for example, or to name it; null for what is none, and
+     * once the application has deleted it.
+     */
+    QPushButton *button(WindowState state) const;
+    /**
+     * The application's button at @p index, counted from 0 in the order of the tips; null where
+     * there is none.
+     */
+    QPushButton *customButton(int index) const;
 
 Q_SIGNALS:
     /** A window button was clicked; @p checked is its new state, true for those without one. */

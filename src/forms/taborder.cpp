@@ -36,7 +36,7 @@ void TabOrder::bring(QWidget *text, QWidget *frame)
 
 void TabOrder::restore()
 {
-    for (int i = m_moves.size() - 1; i >= 0; --i) {
+    for (int i = int(m_moves.size()) - 1; i >= 0; --i) {
         const Move move = m_moves.at(i);
         if (move.text && move.frame && move.frame->focusProxy() == move.text) {
             continue;

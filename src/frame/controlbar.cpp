@@ -79,7 +79,17 @@ void onClick(OlvControlBar *bar, const QPushButton *button, Reaction reaction)
 class OlvControlBar::Private
 {
 public:
-    QList<QPushButton *> buttons; // from the left to the right
+    /** While a button is being destroyed, only its QWidget may be left, which is no button. */
+    QPushButton *at(int index) const
+    {
+        return qobject_cast<QPushButton *>(buttons.value(index));
+    }
+    int customCount() const
+    {
+        return int(buttons.size()) - int(windowButtons.size());
+    }
+
+    QVector<QPointer<QObject>> buttons; // from the left to the right
 };
 
 OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const QStringList &tips)
@@ -100,8 +110,8 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
     }
 
     // connected last, so that changed() tells of the click before the other button is unchecked
-    QPushButton *bottom = d->buttons.at(tips.size() + Bottom);
-    QPushButton *top = d->buttons.at(tips.size() + Top);
+    QPushButton *bottom = button(Bottom);
+    QPushButton *top = button(Top);
     const auto exclude = [](QPushButton *clicked, QPushButton *excluded) {
         // a slot may have deleted either, or may run while the destructor of one is at work
         return [one = QPointer<QObject>(clicked), two = QPointer<QObject>(excluded)] {
@@ -117,6 +127,16 @@ OlvControlBar::OlvControlBar(const QList<QChar> &icons, QWidget *parent, const Q
 }
 
 OlvControlBar::~OlvControlBar() = default;
+
+QPushButton *OlvControlBar::button(WindowState state) const
+{
+    return d->at(d->customCount() + state);
+}
+
+QPushButton *OlvControlBar::customButton(int index) const
+{
+    return index < 0 || index >= d->customCount() ? nullptr : d->at(index);
+}
 
 QList<QChar> OlvControlBar::formIcons()
 {

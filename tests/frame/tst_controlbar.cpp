@@ -2,6 +2,7 @@
 #include <OlvControlBar>
 
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QSpacerItem>
 #include <QTest>
@@ -58,6 +59,7 @@ class TestControlBar : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void namesItsButtons();
     void statesHaveTheirNumbers();
     void isARowAtTheRightEnd();
     void windowButtonsHaveTheirLooks_data();
@@ -327,6 +329,32 @@ void TestControlBar::survivesAClickWhileAButtonIsDestroyed()
     delete bottom;
     QVERIFY(top->isChecked());
     QCOMPARE(bar.record, QStringList({ QStringLiteral("changed 2 1") }));
+}
+
+void TestControlBar::namesItsButtons()
+{
+    const Bar bar({ QStringLiteral("Settings"), QStringLiteral("Help") });
+    const OlvControlBar &same = bar;
+    QCOMPARE(same.customButton(0), bar.button(0));
+    QCOMPARE(same.customButton(1), bar.button(1));
+    QVERIFY(!same.customButton(-1));
+    QVERIFY(!same.customButton(2)); // which is a window button
+    for (const auto state : { OlvControlBar::Float, OlvControlBar::Bottom, OlvControlBar::Top,
+                              OlvControlBar::Min, OlvControlBar::Max, OlvControlBar::Close }) {
+        QCOMPARE(same.button(state), bar.windowButton(state));
+    }
+    QVERIFY(!same.button(OlvControlBar::WindowState(6)));
+
+    QPointer<QPushButton> whileItGoes(same.button(OlvControlBar::Min));
+    connect(bar.windowButton(OlvControlBar::Min), &QObject::destroyed, this,
+            [&] { whileItGoes = same.button(OlvControlBar::Min); });
+    delete same.button(OlvControlBar::Min);
+    QVERIFY(!whileItGoes);
+    QVERIFY(!same.button(OlvControlBar::Min));
+    QVERIFY(same.button(OlvControlBar::Max));
+    delete same.customButton(0);
+    QVERIFY(!same.customButton(0));
+    QCOMPARE(same.customButton(1)->toolTip(), QStringLiteral("Help"));
 }
 
 QTEST_MAIN(TestControlBar)
