@@ -5,14 +5,11 @@
 
 #include <OlvWidgets/OlvWidgets>
 
-#include <QAccessible>
-#include <QCoreApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QResizeEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -133,16 +130,11 @@ QWidget *makeSwitch(Page *page, const QString &name, const QColor &whenOn, bool 
     return toggle;
 }
 
-/** A slider at that percentage; setValue() would not move its knob. */
 QWidget *makeSlider(int percentage)
 {
     auto *slider = new OlvSlider;
     slider->setFixedSize(lineSize.width(), slider->height());
-    // a resize event tells the knob how long its track is; Qt sends it only once the slider is
-    // shown
-    QResizeEvent resized(slider->size(), QSize());
-    QCoreApplication::sendEvent(slider, &resized);
-    QAccessible::queryAccessibleInterface(slider)->valueInterface()->setCurrentValue(percentage);
+    slider->setSliderPosition(percentage);
     return slider;
 }
 

@@ -3,35 +3,22 @@
 #include "pages.h"
 
 #include <OlvSlider>
+#include <OlvValueDelegate>
 
-#include <QLabel>
+#include <QDataWidgetMapper>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 namespace {
 
-/** Dragging emits no signal, so this slider overrides setValue() to follow it. */
-class LoggedSlider : public OlvSlider
+OlvSlider *addSlider(Page *page, const QString &name, int width)
 {
-public:
-    LoggedSlider(Page *page, const QString &name, int width)
-        : OlvSlider(page)
-        , m_page(page)
-        , m_name(name)
-    {
-        setObjectName(name);
-        setFixedWidth(width);
-    }
-
-    void setValue(const QVariant &value) override
-    {
-        OlvSlider::setValue(value);
-        m_page->log(QStringLiteral("%1: setValue(%2)").arg(m_name).arg(value.toInt()));
-    }
-
-private:
-    Page *m_page;
-    QString m_name;
-};
+    auto *slider = new OlvSlider;
+    slider->setObjectName(name);
+    slider->setFixedWidth(width);
+    page->content()->addWidget(slider);
+    return slider;
+}
 
 } // namespace
 
@@ -42,6 +29,11 @@ Page *createSlidersPage(QWidget *parent)
         QStringLiteral("OlvSlider: drag the knob. The value is a percentage, read with getValue(); "
                        "setting it from code leaves the knob where it is."),
         parent);
+    // a drag emits no signal: a model that the slider is mapped to tells how it has ended
+    auto *values = new QStandardItemModel(1, 0, page);
+    auto *mapper = new QDataWidgetMapper(page);
+    mapper->setModel(values);
+    mapper->setItemDelegate(new OlvValueDelegate(mapper));
     struct Example
     {
         const char *heading;
@@ -52,13 +44,20 @@ Page *createSlidersPage(QWidget *parent)
                                     Example{ "480 pixels wide", "wideSlider", 480 },
                                     Example{ "80 pixels wide", "narrowSlider", 80 } }) {
         page->addHeading(QLatin1String(example.heading));
-        page->content()->addWidget(
-            new LoggedSlider(page, QLatin1String(example.name), example.width));
+        const QString name = QLatin1String(example.name);
+        const int column = values->columnCount();
+        values->appendColumn({ new QStandardItem });
+        values->setHeaderData(column, Qt::Horizontal, name);
+        mapper->addMapping(addSlider(page, name, example.width), column);
     }
+    mapper->toFirst();
+    QObject::connect(
+        values, &QStandardItemModel::itemChanged, page, [=](const QStandardItem *item) {
+            const QString name = values->headerData(item->column(), Qt::Horizontal).toString();
+            page->log(QStringLiteral("%1: %2").arg(name, item->text()));
+        });
     page->addHeading(QStringLiteral("Disabled"));
-    auto *disabled = new LoggedSlider(page, QStringLiteral("disabledSlider"), 200);
-    disabled->setEnabled(false);
-    page->content()->addWidget(disabled);
+    addSlider(page, QStringLiteral("disabledSlider"), 200)->setEnabled(false);
     page->content()->addStretch();
     return page;
 }
