@@ -152,6 +152,7 @@ private Q_SLOTS:
         addPalettes();
     }
     void isSeenWhenDisabled();
+    void isAsStrongAsItHasToBeWhenDisabled();
     void isFadedOnce_data();
     void isFadedOnce();
     void isMissingWithoutTheFeature();
@@ -258,6 +259,38 @@ void TestReadableText::isSeenWhenDisabled()
         }
         QCOMPARE(fields.contrastOfText(fields.text), enabled);
     }
+}
+
+void TestReadableText::isAsStrongAsItHasToBeWhenDisabled()
+{
+    const QColor grey(128, 128, 128);
+    QPalette palette = paletteOf(grey, Qt::white);
+    palette.setColor(QPalette::Window, QColor(239, 239, 239));
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    palette.setColor(QPalette::PlaceholderText, grey);
+#endif
+    QApplication::setPalette(palette);
+    Fields fields;
+    QVERIFY(fields.showActive());
+    const QVector<QWidget *> all = fields.fields();
+    for (QWidget *field : all) {
+        field->setEnabled(false);
+    }
+    const auto contrastOf = [&](QPalette::ColorRole role) {
+        const QPalette &own = fields.text->lineEdit()->palette();
+        return Measured::contrast(own.color(QPalette::Disabled, role).rgb(), qRgb(255, 255, 255));
+    };
+    const double text = contrastOf(QPalette::Text);
+    QVERIFY2(text >= 12.0 && text < 12.5, qPrintable(QString::number(text)));
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    const double hint = contrastOf(QPalette::PlaceholderText);
+    QVERIFY2(hint >= 7.0 && hint < 7.25, qPrintable(QString::number(hint)));
+#endif
+    const QRect part(fields.shortcut->mapTo(&fields, QPoint(80, 4)), QSize(100, 24));
+    const QVector<QRgb> shown = Measured::colors(fields.grab(part).toImage());
+    const int shortcut = qMin(qGray(shown.at(0)), qGray(shown.at(1)));
+    // a grey of 89, which has a contrast of 7 on white, at an opacity of 0.4 on one of 239
+    QVERIFY2(qAbs(shortcut - 179) <= 1, qPrintable(QString::number(shortcut)));
 }
 
 void TestReadableText::isFadedOnce_data()
