@@ -29,10 +29,15 @@ int toPercent(const QVariant &value)
                                        : SliderMetrics::noProgress;
 }
 
+QKeySequence sequenceOf(const QString &text)
+{
+    return QKeySequence::fromString(text, QKeySequence::NativeText);
+}
+
 /** The shortcut that a text names; null where it names none, or more than one combination. */
 OlvShortcut *shortcutOf(const QString &text)
 {
-    const QKeySequence sequence = QKeySequence::fromString(text, QKeySequence::NativeText);
+    const QKeySequence sequence = sequenceOf(text);
     if (sequence.count() != 1) {
         return nullptr;
     }
@@ -108,6 +113,16 @@ void EditorValue::show(OlvWidget *editor, const QVariant &value)
     } else {
         editor->setValue(value.isNull() ? QVariant() : value);
     }
+}
+
+bool EditorValue::isOtherSpelling(const OlvWidget *editor, const QVariant &value,
+                                  const QVariant &stored)
+{
+    if (!qobject_cast<const OlvShortcutEdit *>(editor)) {
+        return false;
+    }
+    const QKeySequence sequence = sequenceOf(value.toString());
+    return sequence.count() == 1 && sequence == sequenceOf(stored.toString());
 }
 
 QVariant EditorValue::converted(const QVariant &value, const QVariant &replaced)

@@ -14,6 +14,11 @@ bool toBool(const QVariant &value);
 QVariant chosenValue(OlvWidget *editor);
 /** Shows @p value at once, what is null or of another kind as off, 0 or empty. */
 void show(OlvWidget *editor, const QVariant &value);
+/**
+ * Whether @p value, which @p editor has come to, is what @p stored says in other words: a shortcut
+ * of the record may be granted long after the record was shown.
+ */
+bool isOtherSpelling(const OlvWidget *editor, const QVariant &value, const QVariant &stored);
 /** @p value in the type of what it replaces, so that a column keeps its type. */
 QVariant converted(const QVariant &value, const QVariant &replaced);
 

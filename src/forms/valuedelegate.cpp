@@ -225,6 +225,13 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     if (!value.isValid() || !isToBeWritten) {
         return;
     }
+    const QVariant stored = index.data(Qt::EditRole);
+    if (EditorValue::isOtherSpelling(widget, value, stored)) {
+        adopted.shown = value;
+        adopted.record = index;
+        adopted.isChanged = false;
+        return;
+    }
     const QPointer<QObject> self(const_cast<OlvValueDelegate *>(this));
     const QPointer<OlvWidget> guarded(widget);
     // noted first: the model tells of the change, which shows the record again
@@ -232,8 +239,8 @@ void OlvValueDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
     adopted.record = index;
     adopted.isChanged = false;
     const bool wasStoring = std::exchange(d->isStoring, true);
-    const bool isStored = model->setData(
-        index, EditorValue::converted(value, index.data(Qt::EditRole)), Qt::EditRole);
+    const bool isStored =
+        model->setData(index, EditorValue::converted(value, stored), Qt::EditRole);
     if (!self) {
         return;
     }

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void storesWhatTheUserDoes();
     void storesAllThatHasBeenDone();
     void keepsATextWhileAnotherValueIsStored();
+    void keepsTheSpellingOfAShortcut();
     void storesTheSwitchThatStillSlides();
     void aSecondClickIsNotTakenForTheNextRecord();
     void overwritesWhatItCouldNotShowOnceTheUserChangesIt();
@@ -243,6 +244,20 @@ void TestValueDelegate::keepsATextWhileAnotherValueIsStored()
     QTest::keyClick(form.name->lineEdit(), Qt::Key_Return);
     QCOMPARE(RecordDatabase::stored(0, NameColumn), QVariant(QStringLiteral("Anny")));
     QCOMPARE(RecordDatabase::stored(0, NotifyColumn), QVariant(0));
+}
+
+/** Which may come after its record has been shown, as a desktop may grant it later. */
+void TestValueDelegate::keepsTheSpellingOfAShortcut()
+{
+    QSqlQuery().exec(QStringLiteral("UPDATE people SET keys = 'ctrl+f6'"));
+    RecordForm form;
+    QVERIFY(!form.keys->shortcut());
+    form.keys->setShortcut(new FakeShortcut(QStringLiteral("Ctrl+F6")));
+    QCOMPARE(RecordDatabase::stored(0, KeysColumn), QVariant(QStringLiteral("ctrl+f6")));
+    form.keys->setShortcut(new FakeShortcut(QStringLiteral("Ctrl+F7")));
+    QCOMPARE(RecordDatabase::stored(0, KeysColumn), QVariant(QStringLiteral("Ctrl+F7")));
+    form.keys->setShortcut(new FakeShortcut(QStringLiteral("Ctrl+F6")));
+    QCOMPARE(RecordDatabase::stored(0, KeysColumn), QVariant(QStringLiteral("Ctrl+F6")));
 }
 
 void TestValueDelegate::storesTheSwitchThatStillSlides()
