@@ -87,6 +87,7 @@ private Q_SLOTS:
     void areChineseWithoutATranslator();
     void areInTheLanguageOfTheApplication_data();
     void areInTheLanguageOfTheApplication();
+    void areChineseWhereThatIsTheFirstLanguage();
     void followAnotherLanguage();
     void leaveWhatTheApplicationSet();
     void nameTheButtonThatRestores();
@@ -121,6 +122,16 @@ void TestTranslations::areInTheLanguageOfTheApplication()
         QVERIFY2(!texts.at(i).isEmpty() && texts.at(i) != sources.at(i), qPrintable(sources.at(i)));
     }
     QCOMPARE(texts.at(7), close);
+}
+
+/** Without a catalogue Qt would load that of the next language which the desktop names. */
+void TestTranslations::areChineseWhereThatIsTheFirstLanguage()
+{
+    for (const QLocale::Country country : { QLocale::China, QLocale::Taiwan }) {
+        const Language language{ QLocale(QLocale::Chinese, country) };
+        QVERIFY(language.isLoaded());
+        QCOMPARE(Window().texts(), sourceTexts());
+    }
 }
 
 void TestTranslations::followAnotherLanguage()

@@ -1,0 +1,56 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh" sourcelanguage="zh">
+<context>
+    <name>OlvControlBar</name>
+    <message>
+        <source>悬浮</source>
+        <translation>悬浮</translation>
+    </message>
+    <message>
+        <source>置底</source>
+        <translation>置底</translation>
+    </message>
+    <message>
+        <source>置顶</source>
+        <translation>置顶</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>还原</translation>
+    </message>
+</context>
+<context>
+    <name>OlvGridLayout</name>
+    <message>
+        <source>空</source>
+        <translation>空</translation>
+    </message>
+</context>
+<context>
+    <name>OlvLineEdit</name>
+    <message>
+        <source>显示密码</source>
+        <translation>显示密码</translation>
+    </message>
+</context>
+<context>
+    <name>OlvShortcutEdit</name>
+    <message>
+        <source>请直接在键盘上输入新的快捷键</source>
+        <translation>请直接在键盘上输入新的快捷键</translation>
+    </message>
+</context>
+</TS>
