@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QScrollArea>
 #include <QTabWidget>

@@ -4,6 +4,7 @@
 #include "widgetform.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 
 class TestTextSheets : public QObject
