@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QCursor>
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -76,8 +77,8 @@ public:
      */
     QRect waitFor(const QWidget &window, QColor color, QPoint inset = QPoint())
     {
-        constexpr int attempts = 100;
-        for (int i = 0; i < attempts; ++i) {
+        const QDeadlineTimer deadline(patience);
+        while (!deadline.hasExpired()) {
             const QRect area = areaOf(color);
             // The compositor adds up the motions of its pointer from an unknown place, which is
             // known once the pointer has been in two corners.

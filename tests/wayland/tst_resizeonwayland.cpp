@@ -35,6 +35,11 @@ private:
     {
         return m_compositor.areaOf(windowColor);
     }
+    /** The handle that the screen shows at a place. */
+    QWidget *handleAt(QPoint place) const
+    {
+        return m_window->childAt(place - m_area.topLeft());
+    }
     /** Compares where the screen shows the window with where the compositor says that it is. */
     void compareWithTold() const
     {
@@ -96,9 +101,7 @@ void TestResizeOnWayland::resizesExactly()
         const QSize before = m_window->size();
         const QPoint origin = start + (direction > 0 ? QPoint() : QPoint(150, 90));
         m_compositor.input.moveTo(origin);
-        const QWidget *handle = m_window->childAt(origin - m_area.topLeft());
-        QTRY_VERIFY((handle = m_window->childAt(origin - m_area.topLeft()))
-                    && handle->underMouse());
+        QTRY_VERIFY(handleAt(origin) && handleAt(origin)->underMouse());
         m_compositor.input.press();
         for (int i = 1; i <= 10; ++i) {
             m_compositor.input.moveTo(origin + QPoint(150, 90) * i / 10 * direction);
@@ -112,7 +115,7 @@ void TestResizeOnWayland::resizesExactly()
     }
     // a burst, which the compositor answers only after its end
     m_compositor.input.moveTo(start);
-    QTest::qWait(50);
+    QTRY_VERIFY(handleAt(start) && handleAt(start)->underMouse());
     m_compositor.input.press();
     for (int i = 1; i <= 50; ++i) {
         m_compositor.input.moveTo(start + QPoint(150, 90) * i / 50);
@@ -133,8 +136,7 @@ void TestResizeOnWayland::isMaximisedAndRestored()
     QVERIFY(m_window->isMaximized());
     // its handles do nothing then
     m_resizer->reset();
-    m_compositor.input.moveTo(QPoint(1276, 400));
-    QTest::qWait(50);
+    m_compositor.point(*m_window, QPoint(1276, 400));
     m_compositor.input.press();
     m_compositor.input.moveTo(QPoint(1176, 400));
     QTest::qWait(50);
