@@ -32,6 +32,9 @@ const QVector<Kind> &kinds()
         { "OlvShortcutEdit", make<OlvShortcutEdit> },
         { "OlvSwitch", make<OlvSwitch> },
         { "OlvSlider", make<OlvSlider> },
+        { "OlvControlBar", make<OlvControlBar> },
+        { "OlvGridLayout", make<OlvGridLayout> },
+        { "OlvDragWidget", make<OlvDragWidget> },
     };
     return all;
 }
