@@ -67,6 +67,8 @@ void TestFocusRingPainting::isTheSameAsADrawing()
     const QImage actual = pictureOfWindow(form, ratio);
     support->setFeatures(support->features() & ~OlvFormSupport::FocusRing);
     QVERIFY(!hasRing(form));
+    tabTo(framed);
+    QVERIFY(!hasRing(form));
     const QImage without = pictureOfWindow(form, ratio);
     COMPARE_PICTURES(actual,
                      withRing(without, QRectF(framed->geometry()), radius,
