@@ -97,7 +97,7 @@ QSize sizeOfEdit(const QWidget *edit)
 
 QSize sizeOfSwitch(const QWidget *widget)
 {
-    const int height = QFontMetrics(formFont(widget)).height() + switchPadding;
+    const int height = qMax(smallestSide, QFontMetrics(formFont(widget)).height() + switchPadding);
     return QSize(2 * height + 2, height);
 }
 

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void ofASwitchAndASlider();
     void ofABarIsThatOfItsLayout();
     void ofContainersIsFixed();
+    void isEnoughToBeHitUnderASmallFont();
     void isUnknownOfOtherWidgets();
 };
 
@@ -236,7 +237,7 @@ void TestNaturalSize::ofASwitchAndASlider()
     OlvSwitch toggle(&form);
     OlvSlider slider(&form);
     const int line = QFontMetrics(sans(pointSize)).height();
-    const int height = line + 9;
+    const int height = qMax(20, line + 9);
     // the knob is as wide as the switch is high, and goes as far again
     QCOMPARE(OlvFormSupport::naturalSize(&toggle), QSize(height + height + 2, height));
     QCOMPARE(OlvFormSupport::naturalSize(&slider), QSize(qMax(100, 7 * line), 30));
@@ -258,6 +259,21 @@ void TestNaturalSize::ofContainersIsFixed()
     QCOMPARE(OlvFormSupport::naturalSize(&grid), QSize(240, 160));
     QCOMPARE(OlvFormSupport::naturalSize(&panel), QSize(240, 180));
     QCOMPARE(OlvFormSupport::naturalSize(&placeholder), QSize(80, 80));
+}
+
+void TestNaturalSize::isEnoughToBeHitUnderASmallFont()
+{
+    QWidget window;
+    window.setFont(sans(1));
+    const QWidgetList widgets{
+        new OlvLineEdit(&window), new OlvShortcutEdit(&window),     new OlvSwitch(&window),
+        new OlvSlider(&window),   new OlvSimpleIconButton(&window), new OlvIconButton(&window),
+        new OlvButton(&window)
+    };
+    for (const QWidget *widget : widgets) {
+        const QSize size = OlvFormSupport::naturalSize(widget);
+        QVERIFY2(size.width() >= 20 && size.height() >= 20, widget->metaObject()->className());
+    }
 }
 
 void TestNaturalSize::isUnknownOfOtherWidgets()
