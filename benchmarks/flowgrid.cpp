@@ -183,6 +183,26 @@ void scrollArea(benchmark::State &state, int count, MakeTile makeTile)
     measureScrolling(state, flow.window, *flow.content, *flow.area.verticalScrollBar(), scrollStep);
 }
 
+/** A scroll area whose bar lies over its content and looks as the grid's does. */
+void scrollBelowBar(benchmark::State &state, int count, MakeTile makeTile)
+{
+    ScrolledFlowLayout flow;
+    flow.area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    flow.add(makeTiles(count, flow.content, makeTile));
+    LibraryGrid grid;
+    const auto *model = grid.viewport.findChild<QScrollBar *>();
+    auto *bar = new QScrollBar(Qt::Vertical, &flow.window);
+    bar->setStyleSheet(model->styleSheet());
+    bar->setGeometry(model->geometry());
+    QScrollBar *own = flow.area.verticalScrollBar();
+    QObject::connect(bar, &QScrollBar::valueChanged, own,
+                     [own](int value) { own->setValue(value * scrollStep); });
+    showAndWait(flow.window);
+    bar->setRange(0, own->maximum() / scrollStep);
+    settle();
+    measureScrolling(state, flow.window, *flow.content, *bar, 1);
+}
+
 template <typename Function> void addSized(const std::string &name, int count, Function function)
 {
     addBenchmark(name + '/' + std::to_string(count),
@@ -199,6 +219,9 @@ void addScrolling(const std::string &name, int count, MakeTile makeTile)
     });
     addSized(name + "/scroll-area", count, [makeTile](benchmark::State &state, int tiles) {
         scrollArea(state, tiles, makeTile);
+    });
+    addSized(name + "/laid-over", count, [makeTile](benchmark::State &state, int tiles) {
+        scrollBelowBar(state, tiles, makeTile);
     });
 }
 

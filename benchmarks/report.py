@@ -101,6 +101,10 @@ def measured(results, target):
     return compared / other if compared is not None and other else None
 
 
+def as_limit(limit):
+    return f"{limit:,.0f}" if limit >= 100 else f"{limit:g}"
+
+
 def row(target, value):
     case = target.case
     if isinstance(target, Ratio):
@@ -114,7 +118,7 @@ def row(target, value):
     if target.limit is None:
         return case, against, form.format(value), "", ""
     met = "yes" if value <= target.limit else "no"
-    return case, against, form.format(value), f"{target.limit:,g}", met
+    return case, against, form.format(value), as_limit(target.limit), met
 
 
 def table(results):

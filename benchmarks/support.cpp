@@ -132,14 +132,6 @@ void sendMouse(QWidget &widget, QEvent::Type type, QPointF place)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
-QString sliderStyleSheet()
-{
-    return QStringLiteral(
-        "QSlider::groove { height: 10px; margin: 0 15px; border-radius: 5px; background: #409eff; }"
-        "QSlider::handle { width: 16px; height: 16px; margin: -5px -10px; background: white;"
-        "                  border: 2px solid #409eff; border-radius: 10px; }");
-}
-
 quint64 heapAllocations()
 {
     return allocations.load(std::memory_order_relaxed);

@@ -60,9 +60,6 @@ void enter(QWidget &widget, QPointF place);
 /** Sends @p widget a mouse event of the left button at @p place. */
 void sendMouse(QWidget &widget, QEvent::Type type, QPointF place);
 
-/** The look of the library's slider as a style sheet for a QSlider. */
-QString sliderStyleSheet();
-
 /** The number of heap allocations of this process so far. */
 quint64 heapAllocations();
 /** The bytes of the heap that are in use. */

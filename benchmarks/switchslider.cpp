@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "groups.h"
+#include "onewindow.h"
 #include "prepared.h"
 #include "support.h"
 

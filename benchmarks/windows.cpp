@@ -1,65 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "groups.h"
 #include "heldexpose.h"
+#include "onewindow.h"
 #include "support.h"
 
 #include <OlvWidgets/buttons.h>
-#include <OlvWidgets/input.h>
-#include <OlvWidgets/value.h>
 
-#include <QCheckBox>
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QGridLayout>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QSlider>
-#include <QToolButton>
+#include <QTimer>
 
 #include <memory>
 
 namespace {
 
-constexpr QSize windowSize(640, 480);
 constexpr int buttonCount = 1000;
 constexpr int columnCount = 20;
-
-QString styleSheet()
-{
-    return QStringLiteral(
-               "QPushButton { background-color: #409eff; color: white; border: none;"
-               "              border-radius: 7px; font: 9pt; }"
-               "QToolButton { border: 1px solid #c8c8c8; border-radius: 7px; color: #c8c8c8; }"
-               "QLineEdit { border: 1px solid #dcdfe6; border-radius: 3px; }"
-               "QCheckBox::indicator { width: 50px; height: 24px; border-radius: 12px;"
-               "                       background: #dcdfe6; }")
-        + sliderStyleSheet();
-}
-
-void makeLibraryWidgets(QWidget *window)
-{
-    const QVector<QWidget *> widgets{ new OlvButton(QStringLiteral("Save"), window),
-                                      new OlvIconButton(QLatin1Char('M'), QStringLiteral("Mail"),
-                                                        QStringLiteral("FontAwesome"), window, 80,
-                                                        80),
-                                      new OlvLineEdit(window), new OlvSwitch(window),
-                                      new OlvSlider(window) };
-    for (int i = 0; i < widgets.size(); ++i) {
-        widgets.at(i)->setGeometry(10, 10 + i * 90, 120, 36);
-    }
-}
-
-void makeStyledWidgets(QWidget *window)
-{
-    auto *tool = new QToolButton(window);
-    tool->setText(QStringLiteral("Mail"));
-    const QVector<QWidget *> widgets{ new QPushButton(QStringLiteral("Save"), window), tool,
-                                      new QLineEdit(window), new QCheckBox(window),
-                                      new QSlider(Qt::Horizontal, window) };
-    for (int i = 0; i < widgets.size(); ++i) {
-        widgets.at(i)->setGeometry(10, 10 + i * 90, 120, 36);
-    }
-    window->setStyleSheet(styleSheet());
-}
+constexpr int watchedTime = 1000; // milliseconds
+constexpr int minute = 60000;     // milliseconds
 
 /** From nothing to the first paint, but for the wait for the window system. */
 void measureStart(benchmark::State &state, void (*makeWidgets)(QWidget *))
@@ -67,7 +28,6 @@ void measureStart(benchmark::State &state, void (*makeWidgets)(QWidget *))
     settle();
     while (state.KeepRunning()) {
         auto window = std::make_unique<QWidget>();
-        window->resize(windowSize);
         makeWidgets(window.get());
         window->show();
         state.PauseTiming();
@@ -84,6 +44,35 @@ void measureStart(benchmark::State &state, void (*makeWidgets)(QWidget *))
         settle();
         state.ResumeTiming();
     }
+}
+
+/** How often the event loop wakes up in the watched time, at its end included. */
+int countWakeUps()
+{
+    int count = 0;
+    QEventLoop loop;
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &loop,
+                     [&count] { ++count; });
+    QTimer::singleShot(watchedTime, &loop, &QEventLoop::quit);
+    loop.exec();
+    return count;
+}
+
+/** What a window that nobody touches wakes the program for, beyond what wakes it without the
+ * window. */
+void measureIdling(benchmark::State &state, void (*makeWidgets)(QWidget *))
+{
+    settle();
+    int count = 0;
+    while (state.KeepRunning()) {
+        const int without = countWakeUps();
+        QWidget window;
+        makeWidgets(&window);
+        showAndWait(window);
+        settle();
+        count = countWakeUps() - without;
+    }
+    state.counters["wakeups"] = double(count) * minute / watchedTime;
 }
 
 /** A window of many buttons whose edge the user drags: each step is laid out and painted. */
@@ -125,6 +114,9 @@ void addWindows()
                  [](benchmark::State &state) { measureStart(state, makeLibraryWidgets); });
     addBenchmark("window-start/sheet",
                  [](benchmark::State &state) { measureStart(state, makeStyledWidgets); });
+    addBenchmark("window-idle/library", [](benchmark::State &state) {
+        measureIdling(state, makeLibraryWidgets);
+    })->Iterations(1);
     addBenchmark("window-widen/library",
                  [](benchmark::State &state) { measureWidening<OlvButton>(state, QString()); });
     addBenchmark("window-widen/fusion",

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The cost of loading the library into a program that has loaded Qt: this program links Qt, but not
-// the library.
+// The costs of loading the library into a program that has loaded Qt, and of starting whole
+// programs: this program links Qt, but not the library.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <dlfcn.h>
 #include <malloc.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <time.h>
 #include <unistd.h>
@@ -29,6 +30,11 @@ double cpuSeconds()
     timespec now{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
     return double(now.tv_sec) + double(now.tv_nsec) / 1e9;
+}
+
+double seconds(const timeval &time)
+{
+    return double(time.tv_sec) + double(time.tv_usec) / 1e6;
 }
 
 double heapInUse()
@@ -85,6 +91,25 @@ void measureLoading(benchmark::State &state, const char *path)
     state.counters["bytes"] = cost.bytes;
 }
 
+/** From the start of a program to the first paint of its window, in processor time. */
+void measureStart(benchmark::State &state, const char *program)
+{
+    while (state.KeepRunning()) {
+        const pid_t child = fork();
+        if (child == 0) {
+            execl(program, program, nullptr);
+            _exit(1);
+        }
+        int status = 0;
+        rusage usage{};
+        if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
+            state.SkipWithError("the program did not paint its window");
+            return;
+        }
+        state.SetIterationTime(seconds(usage.ru_utime) + seconds(usage.ru_stime));
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -102,6 +127,10 @@ int main(int argc, char **argv)
     }
     benchmark::RegisterBenchmark("load/library", measureLoading, OLV_LIBRARY)->UseManualTime();
     benchmark::RegisterBenchmark("load/empty", measureLoading, OLV_EMPTY_LIBRARY)->UseManualTime();
+    benchmark::RegisterBenchmark("program-start/library", measureStart, OLV_START_LIBRARY)
+        ->UseManualTime();
+    benchmark::RegisterBenchmark("program-start/sheet", measureStart, OLV_START_SHEET)
+        ->UseManualTime();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;
