@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QHash>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -27,6 +28,16 @@ bool isOfValue(const QByteArray &property)
 bool isHandledByQt(QEvent::Type type)
 {
     return type == QEvent::KeyPress || type == QEvent::ShortcutOverride || type == QEvent::FocusOut;
+}
+
+/** Whether a line of text lets its parent have the key after it has handled it. */
+bool isEnter(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 /** Sent to an editor to see whether a delegate is still an event filter of it. */
@@ -311,7 +322,8 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
     if (!self || !guarded || isKnob) {
         return !receiver;
     }
-    const bool isServed =
-        watched == editor || (isHandledByQt(event->type()) && isFilterOf(this, editor));
+    // Qt gets Enter from the editor, to which it comes next: closing an editor twice is a warning
+    const bool isServed = watched == editor
+        || (isHandledByQt(event->type()) && !isEnter(event) && isFilterOf(this, editor));
     return isServed && self && guarded ? handleAsQt(editor) : !receiver;
 }

@@ -50,7 +50,9 @@ public:
 
     int lineSpacing() const
     {
-        return m_metrics.lineSpacing();
+        // Qt 6 gives fonts of more than about 17,000 pixels a negative one
+        const int spacing = m_metrics.lineSpacing();
+        return spacing < 0 ? std::numeric_limits<int>::max() : spacing;
     }
 
 private:
