@@ -31,7 +31,7 @@ void addColors()
     addColorBenchmark("color-to-string/library", [color] { return OlvColorToString(color); });
     addColorBenchmark("color-to-string/qcolor", [color] { return color.name(); });
     // the cost of allocating a new string of that length
-    const int length = decimal.size();
+    const int length = int(decimal.size());
     addColorBenchmark("color-to-string/empty-string",
                       [length] { return QString(length, Qt::Uninitialized); });
 }

@@ -5,6 +5,7 @@
 #include <OlvWidgets/foundation.h>
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMouseEvent>
 
 namespace {
@@ -25,7 +26,8 @@ protected:
 /** Sends @p type repeatedly, and counts the heap allocations of sending. */
 void measureSending(benchmark::State &state, QWidget &receiver, QEvent::Type type)
 {
-    QMouseEvent event(type, QPointF(1, 1), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent event(type, QPointF(1, 1), QCursor::pos(), Qt::LeftButton, Qt::NoButton,
+                      Qt::NoModifier);
     QCoreApplication::sendEvent(&receiver, &event);
     const quint64 before = heapAllocations();
     while (state.KeepRunning()) {

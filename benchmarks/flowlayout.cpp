@@ -26,7 +26,7 @@ void FlowLayout::addItem(QLayoutItem *item)
 
 int FlowLayout::count() const
 {
-    return m_items.size();
+    return int(m_items.size());
 }
 
 QLayoutItem *FlowLayout::itemAt(int index) const

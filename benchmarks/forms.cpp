@@ -68,7 +68,7 @@ struct Use
 
 int timersOf(QObject *object)
 {
-    int count = QAbstractEventDispatcher::instance()->registeredTimers(object).size();
+    int count = int(QAbstractEventDispatcher::instance()->registeredTimers(object).size());
     for (QObject *child : object->children()) {
         count += timersOf(child);
     }

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Compares the results of the benchmarks with the targets.
 
-Prints one table, and with --docs writes performance.md and its plot as well. Ends with success whether
+Prints one table, and with --docs writes its column of performance.md, and with Qt 5 the plot. Ends with success whether
 or not the targets are met, which the table shows.
 """
 
@@ -17,6 +17,8 @@ from collections import defaultdict
 from targets import COUNTED_CASES, TARGETS, Counter, Ratio, Slope
 
 HEADINGS = ("case", "against", "measured", "target", "met")
+# of the table in performance.md
+COLUMNS = ("case", "against", "target", "Qt 5", "met", "Qt 6", "met")
 TEMPLATE = os.path.join(os.path.dirname(__file__), "performance.md.in")
 PICTURE = "pictures/cost-against-size.png"
 
@@ -105,20 +107,28 @@ def as_limit(limit):
     return f"{limit:,.0f}" if limit >= 100 else f"{limit:g}"
 
 
-def row(target, value):
+def names(target):
+    """The case, what it is compared with, and the limit, as the table has them."""
     case = target.case
     if isinstance(target, Ratio):
         case = f"{case}, {target.size:,}" if target.size else case
         case = f"{case}: {target.compared}" if target.compared != "library" else case
-        against, form = target.contestant, "{:.3f}" if value < 1 else "{:.2f}"
+        against = target.contestant
     elif isinstance(target, Slope):
-        against, form = "slope", "{:.2f}"
+        against = "slope"
     else:
-        against, form = target.unit, "{:,.0f}"
-    if target.limit is None:
-        return case, against, form.format(value), "", ""
-    met = "yes" if value <= target.limit else "no"
-    return case, against, form.format(value), as_limit(target.limit), met
+        against = target.unit
+    return case, against, "" if target.limit is None else as_limit(target.limit)
+
+
+def row(target, value):
+    case, against, limit = names(target)
+    if isinstance(target, Counter):
+        form = "{:,.0f}"
+    else:
+        form = "{:.3f}" if isinstance(target, Ratio) and value < 1 else "{:.2f}"
+    met = ("yes" if value <= target.limit else "no") if limit else ""
+    return case, against, form.format(value), limit, met
 
 
 def table(results):
@@ -145,23 +155,61 @@ def processor():
     return names[0] if names else "unknown processor"
 
 
-def document(results, command):
-    """docs/performance.md as a text."""
+def major(qt):
+    """The heading of the column of a version of Qt."""
+    return "Qt " + qt.split(".")[0]
+
+
+def measurement(results):
+    """The line of performance.md that says what a column was measured with."""
     context = results.context
+    load = f'{context["load_avg"][0]:.1f}' if context["load_avg"] else "unknown"
+    return (
+        f'- Qt {context["Qt"]}: {context["date"][:10]}, {processor()}, {context["num_cpus"]} processors '
+        f'(load {load} when it began), {context["compiler"]}; the standard deviation of a time was '
+        f"{results.spread():.1%} of the mean (the median over all cases)"
+    )
+
+
+def kept(path, column):
+    """What performance.md has of a column: its measurement, and {(case, against): (measured, met)}."""
+    line, values = None, {}
+    if os.path.exists(path):
+        with open(path, encoding="utf-8") as file:
+            for text in file:
+                cells = [cell.strip() for cell in text.strip().strip("|").split("|")]
+                if text.startswith(f"- {column}."):
+                    line = text.strip()
+                elif text.startswith("|") and len(cells) == len(COLUMNS):
+                    at = COLUMNS.index(column)
+                    values[cells[0], cells[1]] = cells[at], cells[at + 1]
+    return line, values
+
+
+def document(results, path):
+    """performance.md as a text: the column of the Qt that was measured is new, the other is kept."""
+    new = major(results.context["Qt"])
+    lines, columns = [], {}
+    for column in ("Qt 5", "Qt 6"):
+        line, columns[column] = kept(path, column)
+        if column == new:
+            line = measurement(results)
+            columns[column] = {(row[0], row[1]): (row[2], row[4]) for row in table(results)}
+        if line:
+            lines.append(line)
+    rows = []
+    for target in TARGETS:
+        case, against, limit = names(target)
+        cells = [cell for values in columns.values() for cell in values.get((case, against), ("", ""))]
+        if any(cells):
+            rows.append((case, against, limit, *cells))
     with open(TEMPLATE, encoding="utf-8") as file:
         template = file.read()
     return template.format(
-        command=command,
-        compiler=context["compiler"],
-        cores=context["num_cpus"],
-        date=context["date"][:10],
-        load=f'{context["load_avg"][0]:.1f}' if context["load_avg"] else "unknown",
+        measurements="\n".join(lines),
         picture=PICTURE,
-        processor=processor(),
-        qt=context["Qt"],
         repetitions=results.repetitions(),
-        spread=f"{results.spread():.1%}",
-        table=as_markdown(HEADINGS, table(results)),
+        table=as_markdown(COLUMNS, rows),
     )
 
 
@@ -169,7 +217,6 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("results", nargs="+", help="what the benchmarks wrote with --benchmark_out")
     parser.add_argument("--docs", metavar="FOLDER", help="write performance.md and its plot there")
-    parser.add_argument("--command", help="how it was measured, for performance.md")
     arguments = parser.parse_args()
 
     results = Results(arguments.results)
@@ -180,12 +227,14 @@ def main():
     if results.errors or not rows:
         sys.exit("report.py: something could not be measured")
     if arguments.docs:
-        from plot import plot  # only here: it takes long to load
+        if major(results.context["Qt"]) == "Qt 5":
+            from plot import plot  # only here: it takes long to load
 
-        plot(results.curves(), os.path.join(arguments.docs, PICTURE))
+            plot(results.curves(), os.path.join(arguments.docs, PICTURE))
         path = os.path.join(arguments.docs, "performance.md")
+        text = document(results, path)
         with open(path, "w", encoding="utf-8") as file:
-            file.write(document(results, arguments.command))
+            file.write(text)
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 #include "support.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QEnterEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -120,15 +121,16 @@ void enter(QWidget &widget, QPointF place)
 {
     QEnterEvent event(place, place, widget.mapToGlobal(place.toPoint()));
     QCoreApplication::sendEvent(&widget, &event);
-    QMouseEvent moved(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent moved(QEvent::MouseMove, place, QCursor::pos(), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &moved);
 }
 
 void sendMouse(QWidget &widget, QEvent::Type type, QPointF place)
 {
-    QMouseEvent event(type, place, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                      Qt::NoModifier);
+    QMouseEvent event(
+        type, place, QCursor::pos(), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &event);
 }
 

@@ -16,7 +16,11 @@
 
 namespace {
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+constexpr char xcbPlatform[] = "libQt6XcbQpa.so.6";
+#else
 constexpr char xcbPlatform[] = "libQt5XcbQpa.so.5";
+#endif
 
 /** What a child process reports. */
 struct Cost
