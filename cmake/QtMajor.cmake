@@ -1,8 +1,11 @@
 # SPDX-License-Identifier: MIT
 # What depends on the major version of Qt. What is built with Qt 6 has a suffix in its names, so that it can
 # be installed beside what is built with Qt 5, whose names were there first.
-set(OLVWIDGETS_QT_MAJOR 5 CACHE STRING "The major version of Qt to build with: 5 or 6")
-set_property(CACHE OLVWIDGETS_QT_MAJOR PROPERTY STRINGS 5 6)
+# A project around this one may have set it as a variable, which must not be replaced.
+if(NOT DEFINED OLVWIDGETS_QT_MAJOR)
+    set(OLVWIDGETS_QT_MAJOR 5 CACHE STRING "The major version of Qt to build with: 5 or 6")
+    set_property(CACHE OLVWIDGETS_QT_MAJOR PROPERTY STRINGS 5 6)
+endif()
 
 if(OLVWIDGETS_QT_MAJOR EQUAL 5)
     set(OLVWIDGETS_QT_VERSION 5.11)

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QDynamicPropertyChangeEvent>
@@ -71,7 +72,8 @@ void sendMouse(Dice &dice, QWidget *receiver, QEvent::Type type)
     const QPointF place = dice.place(receiver->size());
     const Qt::MouseButton pressed = button(dice);
     const bool isHeld = type != QEvent::MouseButtonRelease;
-    QMouseEvent event(type, place, type == QEvent::MouseMove ? Qt::NoButton : pressed,
+    QMouseEvent event(type, place, QCursor::pos(),
+                      type == QEvent::MouseMove ? Qt::NoButton : pressed,
                       isHeld ? pressed : Qt::NoButton, modifiers(dice));
     send(receiver, event);
 }
@@ -104,7 +106,8 @@ void sendInputMethod(Dice &dice, QWidget *receiver)
     const QString preedit = dice.text();
     QList<QInputMethodEvent::Attribute> attributes;
     if (dice.coin() && !preedit.isEmpty()) {
-        attributes.append({ QInputMethodEvent::Cursor, dice.below(preedit.size()), 1, QVariant() });
+        attributes.append(
+            { QInputMethodEvent::Cursor, dice.below(int(preedit.size())), 1, QVariant() });
     }
     QInputMethodEvent event(preedit, attributes);
     event.setCommitString(dice.text(), dice.between(-2, 2), dice.below(3));
@@ -168,7 +171,8 @@ void sendRare(Dice &dice, QWidget *receiver)
         // a scroll bar opens a menu that blocks until it is answered
         if (!qobject_cast<QScrollBar *>(receiver)) {
             const QPoint place = dice.pixel(receiver->size());
-            QContextMenuEvent event(QContextMenuEvent::Keyboard, place);
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, place,
+                                    receiver->mapToGlobal(place));
             send(receiver, event);
         }
         break;
@@ -197,6 +201,12 @@ void sendRare(Dice &dice, QWidget *receiver)
 
 void sendPlain(QWidget *receiver, QEvent::Type type)
 {
+    if (type == QEvent::Enter) {
+        const QPointF place = receiver->rect().center();
+        QEnterEvent event(place, place, QCursor::pos());
+        send(receiver, event);
+        return;
+    }
     QEvent event(type);
     send(receiver, event);
 }
@@ -213,7 +223,11 @@ void sendHover(Dice &dice, QWidget *receiver)
     static constexpr std::array<QEvent::Type, 3> types{ QEvent::HoverEnter, QEvent::HoverMove,
                                                         QEvent::HoverLeave };
     const QPointF place = dice.place(receiver->size());
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QHoverEvent event(dice.pick(types), place, place, QPointF());
+#else
     QHoverEvent event(dice.pick(types), place, QPointF());
+#endif
     send(receiver, event);
 }
 
@@ -280,12 +294,13 @@ void Events::click(Dice &dice, QWidget *receiver)
     const Qt::MouseButton pressed = dice.oneIn(4) ? Qt::RightButton : Qt::LeftButton;
     sendPlain(receiver, QEvent::Enter);
     if (alive) {
-        QMouseEvent press(QEvent::MouseButtonPress, place, pressed, pressed, Qt::NoModifier);
+        QMouseEvent press(QEvent::MouseButtonPress, place, QCursor::pos(), pressed, pressed,
+                          Qt::NoModifier);
         send(receiver, press);
     }
     if (alive) {
-        QMouseEvent release(QEvent::MouseButtonRelease, place, pressed, Qt::NoButton,
-                            Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, place, QCursor::pos(), pressed,
+                            Qt::NoButton, Qt::NoModifier);
         send(receiver, release);
     }
 }

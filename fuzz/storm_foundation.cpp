@@ -341,7 +341,7 @@ private:
 
     OlvPluginEventFilter *anyFilter()
     {
-        QPointer<OlvPluginEventFilter> &chosen = m_filters[m_dice.below(m_filters.size())];
+        QPointer<OlvPluginEventFilter> &chosen = m_filters[m_dice.below(int(m_filters.size()))];
         if (!chosen) {
             chosen = new OlvPluginEventFilter(m_dice.coin() ? anyWatched() : nullptr);
         }
@@ -350,7 +350,7 @@ private:
 
     Watched *anyWatched()
     {
-        QPointer<Watched> &chosen = m_watched[m_dice.below(m_watched.size())];
+        QPointer<Watched> &chosen = m_watched[m_dice.below(int(m_watched.size()))];
         if (!chosen) {
             chosen = new Watched;
         }

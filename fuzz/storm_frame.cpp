@@ -3,6 +3,7 @@
 
 #include <OlvWidgets/frame.h>
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QVariant>
@@ -223,8 +224,8 @@ private:
     static void press(World &world, OlvResizeItem *item)
     {
         const QPoint place = world.dice().pixel(item->size());
-        QMouseEvent event(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton,
-                          Qt::NoModifier);
+        QMouseEvent event(QEvent::MouseButtonPress, place, QCursor::pos(), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
         const bool isHeard = item->isEnabled();
         QCoreApplication::sendEvent(item, &event);
         Storm::check(!isHeard || !world.isUndisturbed() || item->pressPosition() == place,

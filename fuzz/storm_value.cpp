@@ -221,7 +221,7 @@ private:
 
     static int timersOf(OlvSwitch *oneSwitch)
     {
-        return QAbstractEventDispatcher::instance()->registeredTimers(oneSwitch).size();
+        return int(QAbstractEventDispatcher::instance()->registeredTimers(oneSwitch).size());
     }
 
     static void setValue(World &world, OlvSwitch *oneSwitch)

@@ -93,9 +93,16 @@ void World::strike()
     if (m_depth >= deepest || !m_dice.oneIn(6)) {
         return;
     }
+    const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // Qt 6.4 looks for the children of a child that is gone while its parent dies: findChildren(),
+    // which a radio button calls when it is clicked, ends the program there
+    if (m_isDying || signal.name() == "destroyed") {
+        return;
+    }
+#endif
     ++m_depth;
     ++m_strikes;
-    const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
     const bool wasDying = std::exchange(m_isDying, m_isDying || signal.name() == "destroyed");
     if (standsDeletion(signal) && !m_isDying) {
         strikeFrom(sender());

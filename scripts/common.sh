@@ -6,28 +6,69 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # Qt needs a UTF-8 locale for the widgets' Chinese texts.
 export LC_ALL=${LC_ALL:-C.UTF-8}
 
-build_packages=(
-    cmake g++ make ninja-build pkg-config qtbase5-dev qt5-qmake
+common_build_packages=(
+    cmake g++ make ninja-build pkg-config
     libxcb1-dev libxcb-xkb-dev libxkbcommon-dev libxkbcommon-x11-dev
     fonts-font-awesome fonts-wqy-zenhei fonts-dejavu-core
 )
+qt5_build_packages=(qtbase5-dev qt5-qmake)
+qt6_build_packages=(qt6-base-dev qmake6)
 bench_packages=(libbenchmark-dev python3 python3-matplotlib valgrind)
 docs_packages=(doxygen qttools5-dev-tools)
 display_packages=(xvfb openbox x11-utils)
 # what scripts/pictures needs besides
 picture_packages=(optipng xdotool imagemagick picom hsetroot)
-test_packages=(
-    "${display_packages[@]}" weston qtwayland5 xwayland xdotool x11-xkb-utils x11-xserver-utils wmctrl
+common_test_packages=(
+    "${display_packages[@]}" "${docs_packages[@]}"
+    weston xwayland xdotool x11-xkb-utils x11-xserver-utils wmctrl
     libxcb-keysyms1-dev libxcb-xtest0-dev
-    qtbase5-private-dev libqt5sql5-sqlite at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
-    qttools5-dev qttools5-dev-tools dpkg-dev
-    abigail-tools python3 doxygen libqt5svg5-dev kde-style-breeze qt5-style-kvantum
+    at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
+    dpkg-dev abigail-tools python3
+)
+qt5_designer_packages=(qttools5-dev)
+# CMake's package of Designer looks for that of OpenGL, on which Debian's does not depend.
+qt6_designer_packages=(qt6-tools-dev libqt6opengl6-dev)
+qt5_test_packages=(
+    "${qt5_designer_packages[@]}"
+    qtwayland5 qtbase5-private-dev libqt5sql5-sqlite libqt5svg5-dev kde-style-breeze qt5-style-kvantum
+)
+qt6_test_packages=(
+    "${qt6_designer_packages[@]}"
+    qt6-wayland qt6-base-private-dev libqt6sql6-sqlite libqt6svg6-dev
 )
 # what scripts/packages needs besides
-package_packages=("${docs_packages[@]}" qttools5-dev dpkg-dev file gzip lintian)
+common_package_packages=("${docs_packages[@]}" dpkg-dev file gzip lintian)
 
 # the version of libclang-rt is the one of Debian 12's package "clang"
 fuzz_packages=(clang libclang-rt-14-dev)
+
+# use_qt 5|6: sets what is installed and built to those of that version of Qt: `build_packages`,
+# `test_packages`, `package_packages`, and `qt_preset`, which the names of its presets begin with.
+use_qt() {
+    case $1 in
+    5)
+        build_packages=("${common_build_packages[@]}" "${qt5_build_packages[@]}")
+        test_packages=("${common_test_packages[@]}" "${qt5_test_packages[@]}")
+        package_packages=("${common_package_packages[@]}" "${qt5_designer_packages[@]}")
+        qt_preset=
+        ;;
+    6)
+        build_packages=("${common_build_packages[@]}" "${qt6_build_packages[@]}")
+        test_packages=("${common_test_packages[@]}" "${qt6_test_packages[@]}")
+        package_packages=("${common_package_packages[@]}" "${qt6_designer_packages[@]}")
+        qt_preset=qt6-
+        ;;
+    *) fail "--qt takes 5 or 6, not $1" ;;
+    esac
+}
+
+# use_qt_of PRESET: uses the Qt that the preset builds with.
+use_qt_of() {
+    case $1 in
+    qt6*) use_qt 6 ;;
+    *) use_qt 5 ;;
+    esac
+}
 
 fail() {
     printf '%s: %s\n' "$(basename "$0")" "$*" >&2
@@ -69,3 +110,5 @@ build_preset() {
     (cd "$root" && cmake --preset "$1" && cmake --build --preset "$1") ||
         fail "the build failed (preset $1)"
 }
+
+use_qt 5

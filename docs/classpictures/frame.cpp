@@ -85,7 +85,8 @@ std::function<void()> fillResizeItem(QWidget *stage)
 
 std::function<void()> fillControlBar(QWidget *stage)
 {
-    const QList<QChar> glyphs{ 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf013 };
+    const QList<QChar> glyphs{ u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1',
+                               u'\uf2d0', u'\uf00d', u'\uf2d2', u'\uf013' };
     auto *bar = new OlvControlBar(glyphs, stage, { QStringLiteral("Settings") });
     bar->setGeometry(16, 16, 240, 25);
     return {};

@@ -20,8 +20,8 @@ public:
         m_text->setStyleSheet(QStringLiteral("border: none; padding: 8px; background: white;"));
         m_text->setAccessibleName(tr("Text"));
         // float, bottom, top, minimise, maximise, close; restore; then the buttons of this program
-        const QList<QChar> glyphs{ 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0,
-                                   0xf00d, 0xf2d2, 0xf07c, 0xf0c7 };
+        const QList<QChar> glyphs{ u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1', u'\uf2d0',
+                                   u'\uf00d', u'\uf2d2', u'\uf07c', u'\uf0c7' };
         auto *bar = new OlvControlBar(glyphs, nullptr, { tr("Open"), tr("Save") });
         connect(bar, &OlvControlBar::changed, this, &EditorWindow::change);
         connect(bar, &OlvControlBar::custom, this, [=](int i) { i == 0 ? open() : void(save()); });

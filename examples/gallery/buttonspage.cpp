@@ -57,7 +57,7 @@ QGridLayout *makePictures()
     for (int type = 0; type < types.size(); ++type) {
         const QString name = types.at(type).isEmpty() ? QStringLiteral("default") : types.at(type);
         for (int state = 0; state < states.size(); ++state) {
-            const int row = 1 + type * states.size() + state;
+            const int row = 1 + type * int(states.size()) + state;
             grid->setRowMinimumHeight(row, cellSize.height() - 4);
             grid->addWidget(makeCaption(name + QLatin1String(", ") + states.at(state).heading), row,
                             0);
@@ -67,7 +67,7 @@ QGridLayout *makePictures()
             }
         }
     }
-    grid->setColumnStretch(colors.size() + 1, 1);
+    grid->setColumnStretch(int(colors.size()) + 1, 1);
     return grid;
 }
 

@@ -59,8 +59,8 @@ Page *createControlBarPage(QWidget *parent)
                      "It only tells; start the gallery with --frameless to see one that acts."),
                  parent);
     // the six window buttons, "restore", and the application's: a cog, a bell, a question mark
-    const QList<QChar> glyphs{ 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0,
-                               0xf00d, 0xf2d2, 0xf013, 0xf0f3, 0xf128 };
+    const QList<QChar> glyphs{ u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1', u'\uf2d0',
+                               u'\uf00d', u'\uf2d2', u'\uf013', u'\uf0f3', u'\uf128' };
     auto *bar = new OlvControlBar(
         glyphs, page,
         { QStringLiteral("Settings"), QStringLiteral("Messages"), QStringLiteral("Help") });

@@ -23,7 +23,9 @@ constexpr QSize smallestSize(480, 360);
 /** The glyphs of the six window buttons, that of "restore", and one of the application's own. */
 QList<QChar> glyphs()
 {
-    return { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf129 };
+    return {
+        u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1', u'\uf2d0', u'\uf00d', u'\uf2d2', u'\uf129'
+    };
 }
 
 } // namespace

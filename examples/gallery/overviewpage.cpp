@@ -142,9 +142,9 @@ QWidget *makeSlider(int percentage)
 QWidget *makeBar(Page *page)
 {
     // the six window buttons, "restore", and the application's: a cog and a question mark
-    auto *bar = new OlvControlBar(
-        { 0xf08e, 0xf103, 0xf102, 0xf2d1, 0xf2d0, 0xf00d, 0xf2d2, 0xf013, 0xf128 }, nullptr,
-        { QStringLiteral("Settings"), QStringLiteral("Help") });
+    auto *bar = new OlvControlBar({ u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1', u'\uf2d0',
+                                    u'\uf00d', u'\uf2d2', u'\uf013', u'\uf128' },
+                                  nullptr, { QStringLiteral("Settings"), QStringLiteral("Help") });
     QObject::connect(bar, &OlvControlBar::changed, page,
                      [=] { page->log(QStringLiteral("OlvControlBar: changed()")); });
     QObject::connect(bar, &OlvControlBar::custom, page,

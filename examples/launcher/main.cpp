@@ -33,18 +33,18 @@ QVector<Program> programs()
     const QColor orange(230, 162, 60);
     const QColor red(245, 108, 108);
     return {
-        { 0xf0ac, QStringLiteral("Browser"), QStringLiteral("x-www-browser"), blue },
-        { 0xf0e0, QStringLiteral("Mail"), QStringLiteral("thunderbird"), orange },
-        { 0xf120, QStringLiteral("Terminal"), QStringLiteral("x-terminal-emulator"), green },
-        { 0xf07b, QStringLiteral("Files"), QStringLiteral("thunar"), orange },
-        { 0xf044, QStringLiteral("Editor"), QStringLiteral("mousepad"), blue },
-        { 0xf1ec, QStringLiteral("Calculator"), QStringLiteral("galculator"), green },
-        { 0xf001, QStringLiteral("Music"), QStringLiteral("audacious"), red },
-        { 0xf03d, QStringLiteral("Videos"), QStringLiteral("vlc"), red },
-        { 0xf03e, QStringLiteral("Pictures"), QStringLiteral("ristretto"), green },
-        { 0xf073, QStringLiteral("Calendar"), QStringLiteral("orage"), blue },
-        { 0xf0ad, QStringLiteral("Settings"), QStringLiteral("xfce4-settings-manager"), orange },
-        { 0xf023, QStringLiteral("Lock"), QStringLiteral("xflock4"), red },
+        { u'\uf0ac', QStringLiteral("Browser"), QStringLiteral("x-www-browser"), blue },
+        { u'\uf0e0', QStringLiteral("Mail"), QStringLiteral("thunderbird"), orange },
+        { u'\uf120', QStringLiteral("Terminal"), QStringLiteral("x-terminal-emulator"), green },
+        { u'\uf07b', QStringLiteral("Files"), QStringLiteral("thunar"), orange },
+        { u'\uf044', QStringLiteral("Editor"), QStringLiteral("mousepad"), blue },
+        { u'\uf1ec', QStringLiteral("Calculator"), QStringLiteral("galculator"), green },
+        { u'\uf001', QStringLiteral("Music"), QStringLiteral("audacious"), red },
+        { u'\uf03d', QStringLiteral("Videos"), QStringLiteral("vlc"), red },
+        { u'\uf03e', QStringLiteral("Pictures"), QStringLiteral("ristretto"), green },
+        { u'\uf073', QStringLiteral("Calendar"), QStringLiteral("orage"), blue },
+        { u'\uf0ad', QStringLiteral("Settings"), QStringLiteral("xfce4-settings-manager"), orange },
+        { u'\uf023', QStringLiteral("Lock"), QStringLiteral("xflock4"), red },
     };
 }
 

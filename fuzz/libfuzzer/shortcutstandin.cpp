@@ -26,7 +26,7 @@ public:
 
 int ShortcutStandIn::living()
 {
-    return all().size();
+    return int(all().size());
 }
 
 void ShortcutStandIn::refuse(int key)

@@ -10,7 +10,9 @@ namespace {
 
 QList<QChar> glyphs()
 {
-    return { 0xf2d2, 0xf103, 0xf102, 0xf068, 0xf065, 0xf00d, 0xf066, 0xf013 };
+    return {
+        u'\uf2d2', u'\uf103', u'\uf102', u'\uf068', u'\uf065', u'\uf00d', u'\uf066', u'\uf013'
+    };
 }
 
 } // namespace

@@ -40,7 +40,8 @@ public:
         , wifi(new OlvSwitch(this))
         , volume(new OlvSlider(this))
         , record(new OlvShortcutEdit(new FreeShortcut(Qt::Key_F5), this))
-        , bar(new OlvControlBar({ 0xf2d2, 0xf103, 0xf102, 0xf068, 0xf065, 0xf00d, 0xf066, 0xf013 },
+        , bar(new OlvControlBar({ u'\uf2d2', u'\uf103', u'\uf102', u'\uf068', u'\uf065', u'\uf00d',
+                                  u'\uf066', u'\uf013' },
                                 this, { QStringLiteral("Settings") }))
         , star(new OlvSimpleIconButton(QChar(0xf006), QFont(), this))
         , name(new OlvLineEdit(this))

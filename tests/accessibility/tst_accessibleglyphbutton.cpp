@@ -21,7 +21,8 @@ class Bar : public OlvControlBar
 {
 public:
     explicit Bar(QWidget *parent = nullptr)
-        : OlvControlBar({ 0xf2d2, 0xf103, 0xf102, 0xf068, 0xf065, 0xf00d, 0xf066, 0xf013, 0xf0c9 },
+        : OlvControlBar({ u'\uf2d2', u'\uf103', u'\uf102', u'\uf068', u'\uf065', u'\uf00d',
+                          u'\uf066', u'\uf013', u'\uf0c9' },
                         parent, { QStringLiteral("Settings"), QStringLiteral("Menu") })
         , changes(this, &OlvControlBar::changed)
         , customs(this, &OlvControlBar::custom)
@@ -214,7 +215,7 @@ void TestAccessibleGlyphButton::glyphsAreNoNames_data()
     QTest::newRow("none") << QString();
     QTest::newRow("glyph") << QString(QChar(0xf006));
     QTest::newRow("glyph and a blank") << QString(QChar(0xf006)) + QLatin1Char(' ');
-    const uint supplementary[] = { 0xf0001, 0x10fffd };
+    const char32_t supplementary[] = { 0xf0001, 0x10fffd };
     QTest::newRow("glyphs beyond 16 bits") << QString::fromUcs4(supplementary, 2);
 }
 
@@ -256,7 +257,7 @@ void TestAccessibleGlyphButton::tellsItsKey()
     QCOMPARE(nameOf(&button), QStringLiteral("Save & close"));
     QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("Alt+S"));
     QCOMPARE(keys(), QStringList{ QStringLiteral("Alt+S") });
-    button.setShortcut(QKeySequence(Qt::CTRL + Qt::Key_S));
+    button.setShortcut(QKeySequence(QStringLiteral("Ctrl+S")));
     QCOMPARE(accessible(&button)->text(QAccessible::Accelerator), QStringLiteral("Ctrl+S"));
     QCOMPARE(keys(), QStringList{ QStringLiteral("Ctrl+S") });
     button.setShortcut(QKeySequence());

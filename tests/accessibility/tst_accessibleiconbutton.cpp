@@ -149,7 +149,7 @@ protected:
 class ShyTile : public OlvIconButton
 {
 protected:
-    void enterEvent(QEvent * /*event*/) override
+    void enterEvent(OlvEnterEvent * /*event*/) override
     {
         delete this;
     }

@@ -4,6 +4,7 @@
 
 #include <OlvButton>
 
+#include <QCursor>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -110,8 +111,8 @@ void TestButtonClicks::doubleClickClicksTwice()
     Pointer::enter(button);
     QTest::mousePress(&button, Qt::LeftButton);
     QTest::mouseRelease(&button, Qt::LeftButton);
-    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
-                       {});
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(5, 5), QCursor::pos(), Qt::LeftButton,
+                       Qt::LeftButton, {});
     QCoreApplication::sendEvent(&button, &second);
     QCOMPARE(stateOf(button), QStringLiteral("click"));
     QTest::mouseRelease(&button, Qt::LeftButton);
@@ -227,7 +228,7 @@ void TestButtonClicks::handlersLeaveTheEventAccepted()
     QWidget parent;
     auto *button = new OlvButton(&parent);
     for (const QEvent::Type type : { QEvent::MouseButtonPress, QEvent::MouseButtonRelease }) {
-        QMouseEvent event(type, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton, {});
+        QMouseEvent event(type, QPointF(1, 1), QCursor::pos(), Qt::LeftButton, Qt::LeftButton, {});
         QCoreApplication::sendEvent(button, &event);
         QVERIFY(event.isAccepted());
     }

@@ -223,6 +223,12 @@ void TestDesignerOnServer::showsTheToolTipOfEachWidgetInItsWidgetBox()
     const QJsonObject tips = m_seen.value(QLatin1String("tips")).toObject();
     const QList<QDesignerCustomWidgetInterface *> plugins = pluginWidgets();
     for (QDesignerCustomWidgetInterface *plugin : plugins) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        // Qt 6 shows the tip of the outermost widget that is dropped: the grid's viewport has none
+        if (plugin->name() == QLatin1String("OlvGridLayout")) {
+            continue;
+        }
+#endif
         QCOMPARE(tips.value(plugin->name()).toString(), plugin->toolTip());
     }
 }

@@ -178,7 +178,7 @@ void TestDesignerPlugin::makesTheWidgetWithASensibleSize()
     QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), name);
     QVERIFY(widget->objectName().startsWith(QLatin1String("olv")));
     QVERIFY(widget->width() >= 24 && widget->width() <= 240);
-    QVERIFY(widget->height() >= 24 && widget->height() <= 180);
+    QVERIFY(widget->height() >= 20 && widget->height() <= 180);
     for (const QString &property : properties) {
         QVERIFY2(widget->property(qPrintable(property)).isValid(), qPrintable(property));
     }

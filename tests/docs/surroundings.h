@@ -262,7 +262,7 @@ struct Table : QStandardItemModel
     { }
     int fieldIndex(const QString &name) const
     {
-        return QStringList({ "name", "notify", "volume" }).indexOf(name);
+        return int(QStringList({ "name", "notify", "volume" }).indexOf(name));
     }
 };
 

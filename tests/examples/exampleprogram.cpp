@@ -111,7 +111,7 @@ bool ExampleProgram::findWindow(const QString &title, int nth)
 
 int ExampleProgram::windowCount() const
 {
-    return windowList().count('\n');
+    return int(windowList().count('\n'));
 }
 
 bool ExampleProgram::isActive() const

@@ -130,7 +130,7 @@ int timerCount(const QWidget &window)
     int count = 0;
     const auto all = window.findChildren<QObject *>();
     for (QObject *object : all) {
-        count += dispatcher->registeredTimers(object).size();
+        count += int(dispatcher->registeredTimers(object).size());
     }
     return count;
 }

@@ -85,7 +85,7 @@ void TestFormFocus::isOneStopAWidget()
                                 form.mail,
                                 form.save,
                                 form.name->lineEdit() };
-    QCOMPARE(tabStops(form, expected.size()), expected);
+    QCOMPARE(tabStops(form, int(expected.size())), expected);
 }
 
 void TestFormFocus::goesBackwards()
@@ -97,7 +97,7 @@ void TestFormFocus::goesBackwards()
     form.shortcut->setFocus();
     const QWidgetList expected{ form.shortcut, form.password->lineEdit(), form.name->lineEdit(),
                                 form.save, form.mail };
-    QCOMPARE(tabStops(form, expected.size(), Qt::Key_Backtab), expected);
+    QCOMPARE(tabStops(form, int(expected.size()), Qt::Key_Backtab), expected);
 }
 
 /** As the code does it that uic writes, before anybody can make a support. */
@@ -111,7 +111,7 @@ void TestFormFocus::followsAnOrderSetBefore()
     QVERIFY(QTest::qWaitForWindowActive(&form));
     form.password->setFocus();
     const QWidgetList expected{ form.password->lineEdit(), form.shortcut, form.name->lineEdit() };
-    QCOMPARE(tabStops(form, expected.size()), expected);
+    QCOMPARE(tabStops(form, int(expected.size())), expected);
 }
 
 void TestFormFocus::followsAnOrderSetAfterwards()
@@ -124,7 +124,7 @@ void TestFormFocus::followsAnOrderSetAfterwards()
     QVERIFY(QTest::qWaitForWindowActive(&form));
     form.password->setFocus();
     const QWidgetList expected{ form.password->lineEdit(), form.save, form.name->lineEdit() };
-    QCOMPARE(tabStops(form, expected.size()), expected);
+    QCOMPARE(tabStops(form, int(expected.size())), expected);
 }
 
 void TestFormFocus::restoresTheOrder_data()

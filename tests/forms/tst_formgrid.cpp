@@ -34,7 +34,7 @@ struct ButtonScene : GridScene
 
     int focused() const
     {
-        return tiles.indexOf(QApplication::focusWidget());
+        return int(tiles.indexOf(QApplication::focusWidget()));
     }
 
     bool isWhollyVisible(int index) const

@@ -135,7 +135,7 @@ void TestMirroring::keepsTheKnobAtItsValueWhenResized()
     stage.widget->resize(300, 30);
     QCOMPARE(stage.placeOf(knob), 5); // nobody has touched it
     QWindow *window = stage.windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, { 10, 10 }));
+    QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, QPoint(10, 10)));
     QTest::mouseMove(window, pointAt(stage.widget, 140)); // 135 of 270 pixels
     QTest::mouseRelease(window, Qt::LeftButton, {}, pointAt(stage.widget, 140));
     const int value = stage.widget->getValue().toInt();
@@ -152,7 +152,7 @@ void TestMirroring::keepsTheKnobAtItsValueWhenResizedInADrag()
     Stage<OlvSlider> stage(Qt::RightToLeft);
     QWidget *knob = knobOf(*stage.widget);
     QWindow *window = stage.windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, { 10, 10 }));
+    QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, QPoint(10, 10)));
     QTest::mouseMove(window, pointAt(stage.widget, 100));
     const int value = stage.widget->getValue().toInt();
     stage.widget->resize(330, 30);
@@ -311,7 +311,7 @@ void TestMirroring::followsTheDirectionDuringADrag()
     Stage<OlvSlider> stage(Qt::LeftToRight);
     QWidget *knob = knobOf(*stage.widget);
     QWindow *window = stage.windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, { 4, 10 }));
+    QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, QPoint(4, 10)));
     QTest::mouseMove(window, pointAt(stage.widget, 60));
     stage.setLayoutDirection(Qt::RightToLeft);
     QTest::mouseMove(window, pointAt(stage.widget, 60));

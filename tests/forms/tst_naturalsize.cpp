@@ -92,7 +92,8 @@ void TestNaturalSize::ofAButton()
     for (const QString &one : all) {
         width = qMax(width, metrics.horizontalAdvance(one));
     }
-    const int height = all.size() * line + (all.size() - 1) * metrics.leading() + line + 2;
+    const int lines = int(all.size());
+    const int height = lines * line + (lines - 1) * metrics.leading() + line + 2;
     QCOMPARE(OlvFormSupport::naturalSize(&button),
              QSize(qMin(qMax(width + 40, 6 * line), 20 * line), height));
 }

@@ -77,12 +77,13 @@ QByteArray contentOf(const QString &path)
 QByteArray corrupted(QByteArray font, QRandomGenerator &random)
 {
     if (random.bounded(4) == 0) {
-        font.truncate(random.bounded(font.size()));
+        font.truncate(random.bounded(int(font.size())));
         return font;
     }
     for (int change = random.bounded(1, 200); change > 0; --change) {
         // half of the changes go to the header and to what it points at first
-        const int range = random.bounded(2) == 0 ? qMin(font.size(), 4096) : font.size();
+        const int size = int(font.size());
+        const int range = random.bounded(2) == 0 ? qMin(size, 4096) : size;
         font[random.bounded(range)] = char(random.bounded(256));
     }
     return font;
@@ -192,7 +193,7 @@ void TestFontFolders::standsCorruptFonts()
     }
     const QStringList lines = told();
     QVERIFY2(lines.size() == files, qPrintable(lines.join(QLatin1Char('\n'))));
-    const int loaded = lines.filter(QStringLiteral("=loaded")).size();
+    const auto loaded = lines.filter(QStringLiteral("=loaded")).size();
     QVERIFY2(loaded > 0 && loaded < files, QByteArray::number(loaded).constData());
 }
 

@@ -204,7 +204,7 @@ void TestFontJob::getFontOfABadFileGivesTheDefault()
 
 void TestFontJob::lookingUpAddsNoKey()
 {
-    const int before = OlvGlobal::OlvPluginFonts.size();
+    const auto before = OlvGlobal::OlvPluginFonts.size();
     OlvGlobal::getFont(QStringLiteral("one more unknown"), 12);
     QCOMPARE(OlvGlobal::OlvPluginFonts.size(), before);
 }

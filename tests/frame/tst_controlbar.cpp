@@ -24,7 +24,7 @@ class Bar : public OlvControlBar
 public:
     explicit Bar(const QStringList &tips = QStringList(), int iconCount = 12)
         : OlvControlBar(icons(iconCount), nullptr, tips)
-        , tipCount(tips.size())
+        , tipCount(int(tips.size()))
     {
         connect(this, &OlvControlBar::changed, this, [this](WindowState state, bool checked) {
             record.append(QStringLiteral("changed %1 %2").arg(state).arg(checked));

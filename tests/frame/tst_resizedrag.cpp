@@ -5,6 +5,7 @@
 
 #include <OlvResizeWidget>
 
+#include <QCursor>
 #include <QPointer>
 #include <QTest>
 #include <QtMath>
@@ -117,8 +118,8 @@ void TestResizeDrag::pressIsTakenByTheHandle()
     const OlvResizeWidget resizer(&target, 5);
     OlvResizeItem *right = handlesOf(target).right;
     QCOMPARE(right->pressPosition(), QPoint(0, 0));
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(1, 2), Qt::RightButton, Qt::RightButton,
-                      {});
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(1, 2), QCursor::pos(), Qt::RightButton,
+                      Qt::RightButton, {});
     QCoreApplication::sendEvent(right, &press);
     QVERIFY(press.isAccepted());
     QCOMPARE(right->pressPosition(), QPoint(1, 2));
@@ -153,7 +154,8 @@ void TestResizeDrag::consumesNothing()
     target.resize(400, 300);
     OlvResizeWidget resizer(&target, 5);
     OlvResizeItem *corner = handlesOf(target).corner;
-    QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), Qt::NoButton, Qt::LeftButton, {});
+    QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), QCursor::pos(), Qt::NoButton, Qt::LeftButton,
+                     {});
     QVERIFY(!resizer.eventFilter(corner, &move));
     QEvent paint(QEvent::Paint);
     QVERIFY(!resizer.eventFilter(corner, &paint));

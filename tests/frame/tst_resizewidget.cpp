@@ -4,6 +4,7 @@
 
 #include <OlvResizeWidget>
 
+#include <QCursor>
 #include <QTest>
 
 class TestResizeWidget : public QObject
@@ -188,7 +189,8 @@ void TestResizeWidget::survivesMisuse()
         resizer.setProperty("LeftBottom", value);
         resizer.reset();
     }
-    QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), Qt::NoButton, Qt::LeftButton, {});
+    QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), QCursor::pos(), Qt::NoButton, Qt::LeftButton,
+                     {});
     QVERIFY(!resizer.eventFilter(&target, &move));
     QCOMPARE(target.size(), QSize(400, 300));
 

@@ -130,7 +130,7 @@ private:
 
 void TestIdle::add(QWidget *widget)
 {
-    widget->setGeometry(10 + 160 * m_widgets.size(), 10, 150, 120);
+    widget->setGeometry(10 + 160 * int(m_widgets.size()), 10, 150, 120);
     m_widgets << widget;
 }
 

@@ -97,7 +97,7 @@ public:
         , m_isSending(deed.isSending)
         , m_isHandedOn(deed.isHandedOn)
         , m_followed(deed.followed)
-        , m_outside(deliveredEvents().size())
+        , m_outside(int(deliveredEvents().size()))
     {
         widget->setProperty(receiverProperty, QStringLiteral("itself"));
         int number = 0;

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QInputMethodEvent>
 #include <QTest>
 #include <QWheelEvent>
@@ -74,8 +75,8 @@ QVector<Deed> input()
         sending("leave while pressed", leave, enterAndPress),
         sending("release inside", release, enterAndPress),
         sending("release outside", release, press),
-        sent<QMouseEvent>("double-click", QEvent::MouseButtonDblClick, place, Qt::LeftButton,
-                          Qt::LeftButton, Qt::NoModifier),
+        sent<QMouseEvent>("double-click", QEvent::MouseButtonDblClick, place, QCursor::pos(),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier),
         sent<QWheelEvent>("wheel", QPointF(place), QPointF(place), QPoint(0, 10), QPoint(0, 120),
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false),
         key("press a key", QEvent::KeyPress, Qt::Key_A),

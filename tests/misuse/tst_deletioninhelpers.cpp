@@ -13,7 +13,7 @@ using namespace Deletion;
 QVector<Emission> barEmissions()
 {
     const auto makeBar = [](QWidget *parent) -> QWidget * {
-        return new OlvControlBar({ 0x61, 0x62, 0x63, 0x64, 0x65, 0x66, 0x67, 0x68 }, parent,
+        return new OlvControlBar({ u'a', u'b', u'c', u'd', u'e', u'f', u'g', u'h' }, parent,
                                  { QStringLiteral("one"), QStringLiteral("two") });
     };
     const auto buttonAt = [](int index) -> Finder {

@@ -46,7 +46,7 @@ QImage noise(QSize size, QImage::Format format)
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
-            image.setPixel(x, y, random.generate());
+            image.setPixel(x, y, qPremultiply(random.generate()));
         }
     }
     return image.convertToFormat(format);

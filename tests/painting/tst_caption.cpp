@@ -117,8 +117,8 @@ void TestCaption::writesTheVeryPixels()
             }
         }
         scenes << sceneOf(text);
-        scenes.last().fill = QColor::fromHsvF(0.31, 0.7, 0.9);
-        scenes.last().caption.color = QColor::fromHsvF(0.77, 0.9, 0.3, 0.61);
+        scenes.last().fill = QColor::fromHsvF(0.31F, 0.7F, 0.9F);
+        scenes.last().caption.color = QColor::fromHsvF(0.77F, 0.9F, 0.3F, 0.61F);
         for (const Scene &scene : qAsConst(scenes)) {
             bool wasCopied = false;
             compareThirdPicture(scene, target, &wasCopied);

@@ -18,7 +18,7 @@ Drawing ellipse(const QRect &rect, const QColor &color, int lineWidth)
 QList<Drawing> drawings(const QRect &rect)
 {
     const QList<QColor> colors{ QColor(64, 158, 255), QColor(Qt::white), QColor(1, 200, 33, 77),
-                                QColor::fromHsvF(0.31, 0.7, 0.9, 0.61), QColor() };
+                                QColor::fromHsvF(0.31F, 0.7F, 0.9F, 0.61F), QColor() };
     QList<Drawing> result;
     for (const QColor &color : colors) {
         for (const int lineWidth : { 0, 1, 2, 3 }) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMouseEvent>
 
 /** Mouse events at a place in a widget, sent without a pointer. */
@@ -10,7 +11,7 @@ namespace Mouse {
 inline void send(QObject *receiver, QEvent::Type type, const QPointF &place,
                  Qt::MouseButton button = Qt::LeftButton)
 {
-    QMouseEvent event(type, place, button,
+    QMouseEvent event(type, place, QCursor::pos(), button,
                       type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
     QCoreApplication::sendEvent(receiver, &event);
 }

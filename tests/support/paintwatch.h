@@ -48,7 +48,7 @@ public:
     int takeWhole()
     {
         const QVector<QRegion> painted = take();
-        return m_widget ? painted.count(QRegion(m_widget->rect())) : 0;
+        return m_widget ? int(painted.count(QRegion(m_widget->rect()))) : 0;
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override

@@ -97,5 +97,5 @@ int colorCount(const QImage &image)
             colors.insert(image.pixel(x, y));
         }
     }
-    return colors.size();
+    return int(colors.size());
 }

@@ -4,6 +4,7 @@
 #include <OlvSwitch>
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMouseEvent>
 
 inline SwitchRound *knobOf(const OlvSwitch &toggle)
@@ -27,7 +28,8 @@ inline void tick(QObject &receiver)
 
 inline void releaseMouse(QWidget &widget, Qt::MouseButton button = Qt::LeftButton)
 {
-    QMouseEvent event(QEvent::MouseButtonRelease, QPointF(1, 1), button, Qt::NoButton, {});
+    QMouseEvent event(QEvent::MouseButtonRelease, QPointF(1, 1), QCursor::pos(), button,
+                      Qt::NoButton, {});
     QCoreApplication::sendEvent(&widget, &event);
 }
 

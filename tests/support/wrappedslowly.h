@@ -27,7 +27,7 @@ inline bool isLetter(QChar character)
 inline int run(const QString &text, QChar next)
 {
     int length = 0;
-    for (int i = text.size() - 1; i >= 0; --i) {
+    for (int i = int(text.size()) - 1; i >= 0; --i) {
         const bool belongs =
             (isDigit(next) && isDigit(text[i])) || (isLetter(next) && isLetter(text[i]));
         if (!belongs) {
@@ -112,7 +112,7 @@ inline QSize size(const QString &text, const QFontMetrics &metrics)
         width += metrics.horizontalAdvance(line);
         line.clear();
     }
-    height += text.count(QLatin1Char('\n')) * metrics.lineSpacing();
+    height += int(text.count(QLatin1Char('\n'))) * metrics.lineSpacing();
     return QSize(width, height);
 }
 

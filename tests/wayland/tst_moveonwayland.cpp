@@ -189,7 +189,7 @@ void TestMoveOnWayland::popUpOpensBesideAMovedWindow()
     const EventCount releases(m_window.get(), { QEvent::MouseButtonRelease });
     m_compositor.input.click(); // a compositor opens a pop-up only on account of some input
     QTRY_COMPARE(releases.count, 1);
-    popUp.move(m_window->mapToGlobal({ 200, 150 }));
+    popUp.move(m_window->mapToGlobal(QPoint(200, 150)));
     popUp.show();
     const QRect expected(m_area.topLeft() + QPoint(200, 150), popUp.size());
     QTRY_COMPARE(m_compositor.areaOf(QColor(popUpColor)), expected);

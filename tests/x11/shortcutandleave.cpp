@@ -17,5 +17,5 @@ int main(int argc, char **argv)
             return 255;
         }
     }
-    return openSockets().count();
+    return int(openSockets().count());
 }

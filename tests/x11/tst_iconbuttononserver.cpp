@@ -44,7 +44,7 @@ void TestIconButtonOnServer::tellsAClickFromADoubleClick()
 
     // a machine that is busy may take longer over two clicks than a burst lasts
     for (int attempt = 0; attempt < 10 && dClicked.isEmpty(); ++attempt) {
-        const int before = clicked.count();
+        const auto before = clicked.count();
         input.click();
         // the window manager looks at every press first: one behind the other, not two at a time
         QTRY_VERIFY(tile->property("clickNumber").toInt() == 1 || clicked.count() > before);

@@ -157,7 +157,7 @@ void TestShortcutGroups::leavesTheKeyOfAnotherGroupToTheWindow()
         window.forget();
         pressWithControl(*m_input, symbol);
         QTest::qWait(quietTime);
-        return window.lines().filter(QStringLiteral("key ")).count();
+        return int(window.lines().filter(QStringLiteral("key ")).count());
     };
     // Control comes to the window in either case
     QCOMPARE(keysOfWindow(symbolZ), 1);
