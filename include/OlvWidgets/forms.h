@@ -39,6 +39,8 @@ class QWidget;
  * A form that was made with Qt Designer takes the same line, after setupUi() or after
  * QUiLoader::load().
  *
+ * A support costs each widget less than 400 bytes, and no timer.
+ *
  * Each widget is served by one support: the one on itself or on the nearest of its parents, and of
  * several on the same widget the one that was made first. When that goes, the next takes over.
  */

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Editors of single values: what they write, in which type, and in the cells of views.
+#include "lateform.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
 
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void keepsTheTypeOfAColumn_data();
     void keepsTheTypeOfAColumn();
     void triesAgainWhatTheModelRefused();
+    void showsWhatTheModelChangesAtTheSameTime();
     void writesASwitchBackAfterTheModelCameToEqualIt();
     void writesNothingOverARecordThatItDoesNotShow();
     void writesWhatTheUserDoesWhereNoRecordIsShown();
@@ -149,6 +151,20 @@ void TestValueEditors::triesAgainWhatTheModelRefused()
     QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("new")));
 }
 
+void TestValueEditors::showsWhatTheModelChangesAtTheSameTime()
+{
+    LateForm form;
+    form.mapper.setSubmitPolicy(QDataWidgetMapper::AutoSubmit);
+    form.mapper.toFirst();
+    connect(&form.model, &QStandardItemModel::itemChanged, this, [&](const QStandardItem *item) {
+        if (item->column() == 1) {
+            form.model.setData(form.model.index(0, 2), 5, Qt::EditRole);
+        }
+    });
+    releaseMouse(form.toggle);
+    QCOMPARE(form.slider.getValue(), QVariant(5));
+}
+
 void TestValueEditors::writesASwitchBackAfterTheModelCameToEqualIt()
 {
     QStandardItemModel model(1, 1);
@@ -166,36 +182,6 @@ void TestValueEditors::writesASwitchBackAfterTheModelCameToEqualIt()
     QVERIFY(mapper.submit());
     QCOMPARE(model.index(0, 0).data(Qt::EditRole), QVariant(false));
 }
-
-/** Two widgets that are mapped after the mapper has moved to the record. */
-struct LateForm
-{
-    QStandardItemModel model{ 1, 3 };
-    QWidget window;
-    OlvLineEdit line{ &window };
-    OlvSwitch toggle{ &window };
-    OlvSlider slider{ &window };
-    QDataWidgetMapper mapper;
-
-    LateForm()
-    {
-        model.setData(model.index(0, 0), QStringLiteral("kept"));
-        model.setData(model.index(0, 1), true, Qt::EditRole);
-        model.setData(model.index(0, 2), 30, Qt::EditRole);
-        mapper.setModel(&model);
-        mapper.setItemDelegate(new OlvValueDelegate(&mapper));
-        mapper.setSubmitPolicy(QDataWidgetMapper::ManualSubmit);
-        mapper.toFirst();
-        mapper.addMapping(&line, 0);
-        mapper.addMapping(&toggle, 1);
-        mapper.addMapping(&slider, 2);
-        window.show();
-    }
-    QVariant stored(int column) const
-    {
-        return model.index(0, column).data(Qt::EditRole);
-    }
-};
 
 void TestValueEditors::writesNothingOverARecordThatItDoesNotShow()
 {
