@@ -4,6 +4,8 @@
 #include <OlvMoveWidget>
 #include <OlvResizeWidget>
 
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QWindow>
 
@@ -21,6 +23,9 @@ private Q_SLOTS:
     void resizesExactly_data();
     void resizesExactly();
     void maximisedItIsNeitherMovedNorResized();
+    void isMinimisedAndBroughtBack();
+    void clickAfterAMoveCounts();
+    void popUpOpensBesideAMovedWindow();
 
 private:
     QRect onServer() const
@@ -127,6 +132,49 @@ void TestFrameOnServer::maximisedItIsNeitherMovedNorResized()
     m_resizer->reset();
     drag({ 150, 110 }, { 100, 50 }, { 100, 50 }, { 0, 0 });
     drag({ 592, 442 }, { 50, 50 }, { 0, 0 }, { 50, 50 });
+}
+
+void TestFrameOnServer::isMinimisedAndBroughtBack()
+{
+    m_window->showMinimized();
+    QTRY_VERIFY(m_window->isMinimized() && !m_window->windowHandle()->isExposed());
+    m_window->showNormal();
+    QTRY_VERIFY(!m_window->isMinimized() && m_window->windowHandle()->isExposed());
+    QTRY_VERIFY(isAt(QRect(100, 100, 400, 300)));
+}
+
+void TestFrameOnServer::clickAfterAMoveCounts()
+{
+    QPushButton button(QStringLiteral("Press"), m_window.get());
+    button.setGeometry(150, 150, 100, 40);
+    button.show();
+    const QSignalSpy clicks(&button, &QPushButton::clicked);
+    drag({ 150, 110 }, { 60, 40 }, { 60, 40 }, { 0, 0 });
+    m_input.moveTo(button, button.rect().center());
+    QTRY_VERIFY(button.underMouse());
+    m_input.click();
+    QTRY_COMPARE(clicks.count(), 1);
+    m_input.click();
+    QTRY_COMPARE(clicks.count(), 2);
+}
+
+void TestFrameOnServer::popUpOpensBesideAMovedWindow()
+{
+    drag({ 150, 110 }, { 250, 150 }, { 250, 150 }, { 0, 0 });
+    QWidget popUp(m_window.get(), Qt::Popup);
+    popUp.resize(120, 60);
+    popUp.move(m_window->mapToGlobal({ 200, 150 }));
+    popUp.show();
+    QTRY_COMPARE(m_input.geometryOf(popUp.windowHandle()->winId()), QRect(550, 400, 120, 60));
+    m_input.moveTo(popUp, popUp.rect().center());
+    QTRY_VERIFY(popUp.underMouse());
+    m_input.click();
+    QTest::qWait(50);
+    QVERIFY(popUp.isVisible());
+    // A click beside it closes it.
+    m_input.moveTo(*m_window, { 50, 100 });
+    m_input.click();
+    QTRY_VERIFY(!popUp.isVisible());
 }
 
 QTEST_MAIN(TestFrameOnServer)
