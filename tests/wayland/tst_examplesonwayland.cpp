@@ -58,7 +58,7 @@ private:
             pause();
             m_compositor.input.click();
             // no more input, which a program that ends is not made for
-            (void)QTest::qWaitFor([&] { return hasEnded(); }, 5000);
+            (void)QTest::qWaitFor([&] { return hasEnded(); }, 2500);
         }
         if (hasEnded()) {
             QCOMPARE(m_program.exitCode(), 0);
@@ -90,6 +90,7 @@ private:
         m_compositor.input.press();
         pause();
         m_compositor.input.moveTo(from + Compositor::firstStep);
+        pause();
         const auto isThere = [&] {
             // The compositor may have taken over only after the last motion.
             m_compositor.input.moveTo(to - QPoint(1, 0));

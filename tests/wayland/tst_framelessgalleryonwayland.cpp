@@ -62,7 +62,7 @@ void TestFramelessGalleryOnWayland::isMovedMaximisedAndClosed()
         QCOMPARE(buttons.at(i)->isVisible(), state < 0 || state > OlvControlBar::Top);
     }
     if (Compositor::isSway()) {
-        QSKIP("sway does not maximise windows that float");
+        QSKIP("sway maximises no windows that float");
     }
     const auto click = [&](OlvControlBar::WindowState state, QPoint corner) {
         QPushButton *button = buttons.at(1 + state);

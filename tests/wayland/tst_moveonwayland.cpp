@@ -231,7 +231,7 @@ void TestMoveOnWayland::panelInTheWindowFollowsThePointer()
 void TestMoveOnWayland::maximisedWindowStays()
 {
     if (Compositor::isSway()) {
-        QSKIP("sway does not maximise windows that float");
+        QSKIP("sway maximises no windows that float");
     }
     m_window->showMaximized();
     QTRY_COMPARE(m_compositor.areaOf(QColor(windowColor)), QRect(0, 0, 1280, 800));

@@ -40,6 +40,12 @@ private:
     {
         return m_window->childAt(place - m_area.topLeft());
     }
+    void staysWhereItIs() const
+    {
+        QTest::qWait(200);
+        QCOMPARE(area(), m_area);
+        compareWithTold();
+    }
     /** Compares where the screen shows the window with where the compositor says that it is. */
     void compareWithTold() const
     {
@@ -129,7 +135,9 @@ void TestResizeOnWayland::resizesExactly()
 void TestResizeOnWayland::isMaximisedAndRestored()
 {
     if (Compositor::isSway()) {
-        QSKIP("sway does not maximise windows that float");
+        m_window->showMaximized();
+        staysWhereItIs(); // sway maximises no windows that float
+        return;
     }
     m_window->showMaximized();
     QTRY_COMPARE(area(), QRect(0, 0, 1280, 800));
@@ -152,7 +160,9 @@ void TestResizeOnWayland::isMaximisedAndRestored()
 void TestResizeOnWayland::isMinimisedForGood()
 {
     if (Compositor::isSway()) {
-        QSKIP("sway does not minimise windows");
+        m_window->showMinimized();
+        staysWhereItIs(); // sway minimises no windows
+        return;
     }
     m_window->showMinimized();
     QTRY_VERIFY(area().isNull());
