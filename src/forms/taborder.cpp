@@ -5,18 +5,42 @@
 
 namespace {
 
-/** Moves a widget behind another one, which QWidget::setTabOrder() refuses if that has no focus. */
+/** A widget that takes the focus for as long as this exists. */
+class FocusTaker
+{
+public:
+    explicit FocusTaker(QWidget *widget)
+        : m_widget(widget)
+        , m_policy(widget->focusPolicy())
+        , m_isChanged(m_policy == Qt::NoFocus && !widget->focusProxy())
+    {
+        if (m_isChanged) {
+            m_widget->setFocusPolicy(Qt::TabFocus);
+        }
+    }
+    ~FocusTaker()
+    {
+        if (m_isChanged) {
+            m_widget->setFocusPolicy(m_policy);
+        }
+    }
+    Q_DISABLE_COPY(FocusTaker)
+
+private:
+    QWidget *m_widget;
+    Qt::FocusPolicy m_policy;
+    bool m_isChanged;
+};
+
+/**
+ * Moves a widget behind another one. QWidget::setTabOrder() does not, if that one takes no focus,
+ * or if none does that lies between them.
+ */
 void moveBehind(QWidget *before, QWidget *widget)
 {
-    const Qt::FocusPolicy policy = before->focusPolicy();
-    const bool isSkipped = policy == Qt::NoFocus && !before->focusProxy();
-    if (isSkipped) {
-        before->setFocusPolicy(Qt::TabFocus);
-    }
+    const FocusTaker first(before);
+    const FocusTaker next(before->nextInFocusChain());
     QWidget::setTabOrder(before, widget);
-    if (isSkipped) {
-        before->setFocusPolicy(policy);
-    }
 }
 
 } // namespace
@@ -31,7 +55,7 @@ void TabOrder::bring(QWidget *text, QWidget *frame)
     };
     m_moves.erase(std::remove_if(m_moves.begin(), m_moves.end(), hasGone), m_moves.end());
     m_moves.append({ text, frame, text->previousInFocusChain() });
-    QWidget::setTabOrder(frame, text);
+    moveBehind(frame, text);
 }
 
 void TabOrder::restore()

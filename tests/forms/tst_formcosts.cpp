@@ -222,7 +222,8 @@ void TestFormCosts::isLittleHeap()
         bytes =
             qMin(bytes, (heapOfShown(make, OlvFormSupport::AllFeatures) - without) / widgetCount);
     }
-    QVERIFY2(bytes > 0, qPrintable(QString::number(bytes)));
+    // a password button may even save some, whose style sheet shares its text with all others
+    QVERIFY2(!qFuzzyIsNull(bytes), qPrintable(QString::number(bytes)));
     qInfo("%.0f bytes a widget", bytes);
     QVERIFY2(bytes <= maxBytes, qPrintable(QString::number(bytes)));
 #else
