@@ -133,8 +133,12 @@ OlvValueDelegate::Private::Editor &OlvValueDelegate::Private::adopt(OlvWidget *w
             text->installEventFilter(q);
             QObject::connect(text, &QLineEdit::textEdited, &context,
                              [this, widget] { know(widget).isChanged = true; });
-            QObject::connect(text, &QLineEdit::editingFinished, &context,
-                             [this, widget] { commit(widget); });
+            // also after a view has closed the editor, and has taken the delegate from it
+            QObject::connect(text, &QLineEdit::editingFinished, &context, [this, widget] {
+                if (isFilterOf(q, widget)) {
+                    commit(widget);
+                }
+            });
         }
     }
     for (QObject *child : widget->children()) {

@@ -119,8 +119,11 @@ void TestNaturalSize::ofALongTextIsThatOfItsBeginning()
         glyph.setText(lines(256 + more));
         const int missing = 1 - more;
         QCOMPARE(OlvFormSupport::naturalSize(&button), ofLong - QSize(0, missing * line));
-        QCOMPARE(OlvFormSupport::naturalSize(&glyph),
-                 ofLongGlyph - QSize(0, missing * QFontMetrics(sans(10)).lineSpacing()));
+        // Qt 6 rounds the height of all lines, and not that of each
+        const QSize off = OlvFormSupport::naturalSize(&glyph)
+            - (ofLongGlyph - QSize(0, missing * QFontMetrics(sans(10)).lineSpacing()));
+        QCOMPARE(off.width(), 0);
+        QVERIFY(qAbs(off.height()) <= (QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) ? 1 : 0));
     }
 }
 
