@@ -13,6 +13,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -85,12 +86,13 @@ bool PortalBackend::grab(OlvShortcut *shortcut, const ShortcutCombination &combi
     }
     if (!m_connection.isConnected()) {
         m_registrations.insert(shortcut, { wanted, OlvShortcut::Inactive, nullptr });
-        warn({ wanted.id }, QStringLiteral("there is no session bus"));
+        m_withoutBus.append(wanted.id);
+        gather();
         return false;
     }
     PortalSession *session = sessionWith(wanted.id);
-    if (!session && !m_gathering.isActive()) {
-        m_gathering.start();
+    if (!session) {
+        gather();
     }
     m_registrations.insert(
         shortcut, { wanted, session ? OlvShortcut::Active : OlvShortcut::Pending, session });
@@ -134,8 +136,17 @@ PortalSession *PortalBackend::sessionWith(const QString &id) const
     return session == m_sessions.cend() ? nullptr : *session;
 }
 
+void PortalBackend::gather()
+{
+    if (!m_gathering.isActive()) {
+        m_gathering.start();
+    }
+}
+
 void PortalBackend::bindGathered()
 {
+    // unlocked, since an application's message handler may call anything
+    warn(std::exchange(m_withoutBus, {}), QStringLiteral("there is no session bus"));
     const std::lock_guard<std::mutex> lock(mutex());
     QVector<Registration *> gathered;
     for (Registration &registration : m_registrations) {

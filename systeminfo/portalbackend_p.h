@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 #include <QVector>
 
@@ -53,6 +54,7 @@ private:
 
     bool isHeld(const QString &id) const;
     PortalSession *sessionWith(const QString &id) const;
+    void gather();
     void bindGathered();
     PortalSession *newSession();
     void introduceProgram(PortalSession *session, const std::function<void()> &next);
@@ -69,6 +71,8 @@ private:
     Registrations m_registrations;
     Sessions m_sessions;
     QTimer m_gathering;
+    /** What could not be asked for, until a warning tells of it. Only of the backend's thread. */
+    QStringList m_withoutBus;
     int m_sessionCount = 0;
     /** Whether the portal has been told the program's name. */
     bool m_isIntroduced = false;
