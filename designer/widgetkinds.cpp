@@ -147,8 +147,8 @@ WidgetKind switchKind()
              QStringLiteral("An animated on/off switch, which is off in a form"),
              QStringLiteral("An on/off switch whose knob slides to the other end. It emits "
                             "valueChanged() and changed(). A form cannot have it on, since its "
-                            "property \"switch\" moves no knob: call setValue(true) once the form "
-                            "is loaded, which slides it on and emits both."),
+                            "property \"switch\" moves no knob: call setChecked(true) once the "
+                            "form is loaded, which turns it on at once and emits both."),
              QSizePolicy::Fixed,
              QSizePolicy::Fixed,
              false,
@@ -163,26 +163,23 @@ WidgetKind switchKind()
 
 WidgetKind sliderKind()
 {
-    return {
-        QStringLiteral("OlvSlider"),
-        QStringLiteral("QWidget"),
-        QStringLiteral("A slider from 0 to 100, whose knob is at 0 in a form"),
-        QStringLiteral("A horizontal slider. Its value is a percentage, read with getValue(); "
-                       "dragging it is silent. The property \"progress\" and setValue() set "
-                       "the value and leave the knob at 0. To have it there too, set the value "
-                       "once the form is laid out as assistive programs do: "
-                       "QAccessible::queryAccessibleInterface(slider)->valueInterface()->"
-                       "setCurrentValue(40)."),
-        QSizePolicy::Expanding,
-        QSizePolicy::Fixed,
-        false,
-        { { QStringLiteral("progress"), 0,
-            QStringLiteral("What getValue() returns, 0 to 100. The knob stays at 0: what moves it "
-                           "in code, the widget's \"What's This?\" says") } },
-        make<OlvSlider>,
-        { 60, 30 },
-        Pose::slideHalfWay
-    };
+    return { QStringLiteral("OlvSlider"),
+             QStringLiteral("QWidget"),
+             QStringLiteral("A slider from 0 to 100, whose knob is at 0 in a form"),
+             QStringLiteral(
+                 "A horizontal slider. Its value is a percentage, read with getValue(); "
+                 "dragging it is silent. The property \"progress\" and setValue() set "
+                 "the value and leave the knob at 0. Call setSliderPosition(40) once the "
+                 "form is loaded to set both."),
+             QSizePolicy::Expanding,
+             QSizePolicy::Fixed,
+             false,
+             { { QStringLiteral("progress"), 0,
+                 QStringLiteral("What getValue() returns, 0 to 100. The knob stays at 0; in code, "
+                                "setSliderPosition() moves it") } },
+             make<OlvSlider>,
+             { 60, 30 },
+             Pose::slideHalfWay };
 }
 
 WidgetKind controlBarKind()
