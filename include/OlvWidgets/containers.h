@@ -80,12 +80,14 @@ public:
     void addWidget(QWidget *widget);
     /** Appends all of @p widgets in their order, and reflows once. */
     void addWidget(QList<QWidget *> widgets);
-    /** Inserts @p widget before @p before and reflows; false, and nothing done, without such a one.
+    /**
+     * Inserts @p widget before @p before and reflows; false, and nothing done, if @p before is not
+     * in the grid.
      */
     bool insWidget(QWidget *widget, QWidget *before);
     /**
      * Inserts all of @p widgets before @p before in their order, and reflows once; false, and
-     * nothing done, without such a one. Null widgets are left out.
+     * nothing done, if @p before is not in the grid. Null widgets are left out.
      */
     bool insWidget(QList<QWidget *> widgets, QWidget *before);
     /** Deletes @p widget, takes it out and reflows; false, and nothing done, for one not in it. */
@@ -218,7 +220,10 @@ public:
      * windows, a window that is shown stays where it is.
      */
     void stay(OlvStayType type);
-    /** Makes the panel a tool window, or a plain one again, and shows it. */
+    /**
+     * Makes the panel a tool window, or a plain one again, and shows it. On Wayland, which makes no
+     * difference between the two, a panel without a parent that is shown stays where it is.
+     */
     void toggleTool();
     /**
      * Sets the band, 10 pixels thick, drawn opaque whatever the alpha of @p color. A way that is

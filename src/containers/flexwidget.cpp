@@ -123,8 +123,17 @@ void OlvFlexWidget::stay(OlvStayType type)
 
 void OlvFlexWidget::toggleTool()
 {
+    const Qt::WindowFlags flags = windowFlags() ^ Qt::Tool;
+    if (isOnWayland() && !parentWidget() && isVisible()) {
+        // Tool windows are as any others there, and showing it again would put it elsewhere.
+        overrideWindowFlags(flags | Qt::Window);
+        if (windowType() == Qt::Tool) {
+            setAttribute(Qt::WA_QuitOnClose, false); // as setWindowFlags() does
+        }
+        return;
+    }
     const QPointer<OlvFlexWidget> self(this);
-    setWindowFlags(windowFlags() ^ Qt::Tool);
+    setWindowFlags(flags);
     if (self) {
         show();
     }

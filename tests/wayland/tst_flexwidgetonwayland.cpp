@@ -20,6 +20,7 @@ class TestFlexWidgetOnWayland : public QObject
 private Q_SLOTS:
     void cleanup();
     void isMovedResizedAndStaysWhereItIs();
+    void childBecomesAWindowAndAChildAgain();
 };
 
 void TestFlexWidgetOnWayland::cleanup()
@@ -59,6 +60,14 @@ void TestFlexWidgetOnWayland::isMovedResizedAndStaysWhereItIs()
     panel.stay(OlvFlexWidget::StayBottom);
     QVERIFY(panel.windowFlags().testFlag(Qt::WindowStaysOnBottomHint));
     QVERIFY(!panel.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    // Tool windows are as any others.
+    const Qt::WindowFlags flags = panel.windowFlags();
+    QVERIFY(panel.testAttribute(Qt::WA_QuitOnClose));
+    panel.toggleTool();
+    QCOMPARE(panel.windowFlags(), flags | Qt::Tool);
+    QVERIFY(!panel.testAttribute(Qt::WA_QuitOnClose));
+    panel.toggleTool();
+    QCOMPARE(panel.windowFlags(), flags);
     QTest::qWait(100);
     QCOMPARE(hidings.count, 0);
     QVERIFY(panel.isVisible() && panel.isWindow());
@@ -69,6 +78,24 @@ void TestFlexWidgetOnWayland::isMovedResizedAndStaysWhereItIs()
     panel.stay(OlvFlexWidget::StayNormal);
     QVERIFY(panel.isVisible());
     QTRY_COMPARE(compositor.areaOf(fillColor).size(), area.size());
+    panel.hide();
+    panel.toggleTool();
+    QVERIFY(panel.isVisible());
+    QCOMPARE(panel.windowType(), Qt::Tool);
+    QTRY_COMPARE(compositor.areaOf(fillColor).size(), area.size());
+}
+
+void TestFlexWidgetOnWayland::childBecomesAWindowAndAChildAgain()
+{
+    QWidget window;
+    OlvFlexWidget panel(&window);
+    window.show();
+    panel.toggleTool();
+    QVERIFY(panel.isWindow());
+    QVERIFY(panel.isVisible());
+    panel.toggleTool();
+    QVERIFY(!panel.isWindow());
+    QVERIFY(panel.isVisible());
 }
 
 QTEST_MAIN(TestFlexWidgetOnWayland)
