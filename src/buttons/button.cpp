@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonmetrics_p.h"
 #include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 #include "buttons/palette_p.h"
@@ -16,9 +17,6 @@
 namespace {
 
 constexpr int borderWidth = 2;
-constexpr int roundRadiusDivisor = 2;
-constexpr int radiusDivisor = 5;
-constexpr int captionPointSize = 9;
 
 /** What the properties say about the look. */
 struct Look
@@ -179,9 +177,7 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
                      property(ButtonsProperties::type).toString(),
                      property(ButtonsProperties::checked).toBool() };
 
-    const int radius =
-        height() / (look.type == QLatin1String("round") ? roundRadiusDivisor : radiusDivisor);
-    const Shape body = Shape::roundedRect(rect(), radius);
+    const Shape body = Shape::roundedRect(rect(), ButtonMetrics::cornerRadius(look.type, height()));
     const QColor fill = fillColor(look, palette);
     body.fill(canvas, fill);
     if (look.hasBorder()) {
@@ -191,8 +187,8 @@ void OlvButton::paintEvent(QPaintEvent * /*event*/)
 
     const QString content = property(ButtonsProperties::content).toString();
     if (!content.isEmpty()) {
-        const Caption caption{ content, captionColor(look, palette), QStringLiteral("宋体"),
-                               captionPointSize };
+        const Caption caption{ content, captionColor(look, palette), ButtonMetrics::captionFamily(),
+                               ButtonMetrics::captionPointSize };
         caption.draw(canvas, { body, fill, look.hasBorder() ? borderWidth : 0 });
     }
 }

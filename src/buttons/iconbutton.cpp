@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonmetrics_p.h"
 #include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
 #include "buttons/glyphcolors_p.h"
@@ -24,13 +25,11 @@ constexpr char familyProperty[] = "family";
 constexpr char iconProperty[] = "icon";
 
 constexpr int burstInterval = 400; // milliseconds
-constexpr int partCount = 4;
 constexpr int glyphParts = 3;
 constexpr double iconSizeOfPart = 1.56;
 constexpr double textSizeOfPart = 0.52;
 constexpr QRgb initialAccent = qRgb(0, 255, 255);
 constexpr int halfRed = 127;
-constexpr int frameRadius = 10;
 constexpr int frameWidth = 1;
 
 } // namespace
@@ -62,7 +61,7 @@ OlvIconButton::OlvIconButton(const QChar &icon, const QString &text, const QStri
     : OlvIconButton(parent)
 {
     resize(width, height);
-    const int partSize = width / partCount;
+    const int partSize = width / ButtonMetrics::tilePartCount;
     setProperty(ButtonsProperties::partSize, partSize);
     setProperty(iconSizeProperty, iconSizeOfPart * partSize);
     setProperty(textSizeProperty, partSize * textSizeOfPart);
@@ -172,7 +171,8 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
     painter.setFont(QFont(QStringLiteral("新宋体"), property(textSizeProperty).toInt()));
     painter.drawText(QRect(0, glyphHeight, width(), partSize), Qt::AlignCenter,
                      property(ButtonsProperties::text).toString());
-    Shape::roundedRect(rect(), frameRadius).stroke(Canvas(painter), color, frameWidth);
+    Shape::roundedRect(rect(), ButtonMetrics::tileCornerRadius)
+        .stroke(Canvas(painter), color, frameWidth);
 }
 
 void OlvIconButton::report()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
 
+#include "buttons/buttonmetrics_p.h"
 #include "buttons/glyphcolors_p.h"
 #include "buttons/togglesheet_p.h"
 #include "support/accessibility_p.h"
@@ -8,8 +9,6 @@
 #include <QPointer>
 
 namespace {
-
-constexpr int sideLength = 30;
 
 constexpr char uncheckedProperty[] = "deable";
 constexpr char checkedProperty[] = "enable";
@@ -23,7 +22,7 @@ OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font,
     setText(text); // updates accessibility, so after the right interface is set up
     setFont(font);
     setCheckable(true);
-    resize(sideLength, sideLength);
+    resize(ButtonMetrics::glyphSideLength, ButtonMetrics::glyphSideLength);
     setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(198,198,198);}"
                                  "QPushButton:hover{color:rgb(32,32,32)}"
                                  "QPushButton:disabled{color:rgb(32,32,32)}"));

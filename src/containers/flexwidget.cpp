@@ -2,6 +2,7 @@
 #include <OlvWidgets/containers.h>
 #include <OlvWidgets/frame.h>
 
+#include "containers/containermetrics_p.h"
 #include "painting/canvas_p.h"
 #include "painting/shape_p.h"
 #include "support/accessibility_p.h"
@@ -21,7 +22,6 @@ constexpr char resizeTimerProperty[] = "resizeTimer";
 
 constexpr int noHeader = 0;
 constexpr int smallestSide = 50;
-constexpr QSize formSize(240, 180);
 constexpr int handleWidth = 3;
 constexpr int settlingTime = 2000; // milliseconds
 constexpr int cornerRadius = 5;
@@ -95,7 +95,8 @@ OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
 }
 
 OlvFlexWidget::OlvFlexWidget(QWidget *parent)
-    : OlvFlexWidget(formSize.width(), formSize.height(), parent)
+    : OlvFlexWidget(ContainerMetrics::panelSize.width(), ContainerMetrics::panelSize.height(),
+                    parent)
 { }
 
 void OlvFlexWidget::stay(OlvStayType type)

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/formfocus_p.h"
 
+#include "buttons/buttonmetrics_p.h"
 #include "buttons/buttonsproperties_p.h"
+#include "input/inputmetrics_p.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -10,8 +12,6 @@
 
 namespace {
 
-constexpr int cornerOfEdit = 3;
-constexpr int cornerOfTile = 10;
 constexpr int cornerOfGlyph = 4;
 
 /** The radius of the corners that a widget is drawn with. */
@@ -19,17 +19,16 @@ int cornerRadius(const QWidget *widget, FormKind kind)
 {
     switch (kind) {
     case FormKind::Button:
-        return widget->property(ButtonsProperties::type).toString() == QLatin1String("round")
-            ? widget->height() / 2
-            : widget->height() / 5;
+        return ButtonMetrics::cornerRadius(widget->property(ButtonsProperties::type).toString(),
+                                           widget->height());
     case FormKind::Tile:
-        return cornerOfTile;
+        return ButtonMetrics::tileCornerRadius;
     case FormKind::Switch:
     case FormKind::Slider:
         return widget->height() / 2;
     case FormKind::LineEdit:
     case FormKind::ShortcutEdit:
-        return cornerOfEdit;
+        return InputMetrics::cornerRadius;
     default:
         return cornerOfGlyph;
     }

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/forms.h>
 
+#include "buttons/buttonmetrics_p.h"
 #include "buttons/buttonsproperties_p.h"
+#include "containers/containermetrics_p.h"
 #include "forms/formmember_p.h"
+#include "input/inputmetrics_p.h"
 #include "input/inputproperties_p.h"
 #include "value/slidermetrics_p.h"
 
@@ -15,24 +18,19 @@ namespace {
 
 /** Longer captions are not measured to their end; they are cut off or get smaller anyway. */
 constexpr int longestMeasuredText = 256;
-constexpr int captionPointSize = 9;
 constexpr int buttonPadding = 20;
 constexpr int shortestButton = 6; ///< in heights of a line of text
 constexpr int longestButton = 20; ///< where captions begin to get smaller
 constexpr int glyphPadding = 5;
-constexpr int glyphSide = 30;
 constexpr int tileSide = 80;
-constexpr int partsOfTile = 4;
 constexpr int largestPart = 250;
 constexpr int smallestSide = 20;
 constexpr int editPadding = 3;
-constexpr int columnPadding = 5;
 constexpr int charactersOfEdit = 12;
 constexpr int switchPadding = 9;
 constexpr int shortestSlider = 100;
 constexpr int linesOfSlider = 7;
 constexpr QSize gridSize(240, 160);
-constexpr QSize panelSize(240, 180);
 
 /** The font of the form around a widget. */
 QFont formFont(const QWidget *widget)
@@ -48,7 +46,8 @@ QString textToMeasure(const QWidget *widget, const char *property)
 QSize sizeOfButton(const QWidget *button)
 {
     // the painter's font has nothing but these two, and the rest from the widget's
-    const QFont font = QFont(QStringLiteral("宋体"), captionPointSize).resolve(button->font());
+    const QFont font = QFont(ButtonMetrics::captionFamily(), ButtonMetrics::captionPointSize)
+                           .resolve(button->font());
     const QFontMetrics metrics(font);
     const int line = metrics.height();
     const QSize caption = metrics.size(0, textToMeasure(button, ButtonsProperties::content));
@@ -60,8 +59,9 @@ QSize sizeOfButton(const QWidget *button)
 QSize sizeOfTile(const QWidget *tile)
 {
     const int part = tile->property(ButtonsProperties::partSize).toInt();
-    const int side =
-        part > 0 ? qMax(smallestSide, partsOfTile * qMin(part, largestPart)) : tileSide;
+    const int side = part > 0
+        ? qMax(smallestSide, ButtonMetrics::tilePartCount * qMin(part, largestPart))
+        : tileSide;
     return QSize(side, side);
 }
 
@@ -69,15 +69,14 @@ QSize sizeOfGlyph(const QPushButton *button)
 {
     const QSize glyph = button->fontMetrics().size(0, button->text().left(longestMeasuredText));
     return QSize(glyph.width() + 2 * glyphPadding, glyph.height() + 2 * glyphPadding)
-        .expandedTo(QSize(glyphSide, glyphSide));
+        .expandedTo(QSize(ButtonMetrics::glyphSideLength, ButtonMetrics::glyphSideLength));
 }
 
 /** The width of the column that a line edit of @p height keeps free for its glyph. */
 int widthOfColumn(const QWidget *edit, QFont font, int height)
 {
     font.setPointSize(height / 2);
-    const QString glyph = textToMeasure(edit, InputProperties::icon);
-    return qMax(QFontMetrics(font).boundingRect(glyph).width() + columnPadding, height);
+    return InputMetrics::columnWidth(textToMeasure(edit, InputProperties::icon), font, height);
 }
 
 /**
@@ -133,7 +132,7 @@ QSize OlvFormSupport::naturalSize(const QWidget *widget)
     case FormKind::Grid:
         return gridSize;
     case FormKind::Panel:
-        return panelSize;
+        return ContainerMetrics::panelSize;
     case FormKind::Placeholder:
         return QSize(tileSide, tileSide);
     }

@@ -3,12 +3,12 @@
 #include <OlvWidgets/input.h>
 
 #include "input/inputlook_p.h"
+#include "input/inputmetrics_p.h"
 #include "input/inputproperties_p.h"
 #include "painting/colors_p.h"
 #include "painting/flipped_p.h"
 
 #include <QEvent>
-#include <QFontMetrics>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
@@ -20,16 +20,8 @@ constexpr char visibleProperty[] = "Visible";
 constexpr char invisibleProperty[] = "Invisible";
 constexpr char stateProperty[] = "state";
 
-constexpr int iconMargin = 5;
-constexpr qreal frameRadius = 3.0;
 constexpr QRgb iconColor = qRgb(184, 186, 188);
 constexpr QRgb focusedIconColor = qRgb(18, 183, 245);
-
-/** An application may have written any number. */
-int bounded(int width)
-{
-    return qBound(-QWIDGETSIZE_MAX, width, QWIDGETSIZE_MAX);
-}
 
 QString normalState()
 {
@@ -40,7 +32,8 @@ void drawFrame(QPainter &painter, QSize size)
 {
     painter.setPen(QColor(Colors::inactive));
     painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(QPointF(0, 0), size), frameRadius, frameRadius);
+    painter.drawRoundedRect(QRectF(QPointF(0, 0), size), InputMetrics::cornerRadius,
+                            InputMetrics::cornerRadius);
 }
 
 } // namespace
@@ -206,7 +199,7 @@ void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
     }
     const bool isNormal = property(stateProperty).toString() == normalState();
     painter.setPen(d->look.textColor(QColor(isNormal ? iconColor : focusedIconColor)));
-    const int column = bounded(property(iconWidthProperty).toInt());
+    const int column = InputMetrics::bounded(property(iconWidthProperty).toInt());
     painter.drawText(QRect(mirror.placed(0, column), 0, column, height()), Qt::AlignCenter,
                      property(InputProperties::icon).toString());
 }
@@ -255,8 +248,7 @@ void OlvLineEdit::mouseReleaseEvent(QMouseEvent * /*event*/)
 
 int OlvLineEdit::iconWidth(const QString &icon) const
 {
-    const int width = QFontMetrics(font()).boundingRect(icon).width();
-    return qMax(bounded(width) + iconMargin, height());
+    return InputMetrics::columnWidth(icon, font(), height());
 }
 
 void InputLook::setMirrored(OlvLineEdit *edit, bool isOn)

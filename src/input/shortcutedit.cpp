@@ -2,6 +2,7 @@
 #include <OlvWidgets/input.h>
 
 #include "input/inputlook_p.h"
+#include "input/inputmetrics_p.h"
 #include "input/shortcutcapture_p.h"
 #include "painting/canvas_p.h"
 #include "painting/flipped_p.h"
@@ -21,7 +22,6 @@ constexpr char shortcutProperty[] = "OlvShortcut";
 constexpr char captureProperty[] = "Temp";
 
 constexpr int frameInset = 2;
-constexpr int frameRadius = 3;
 constexpr int frameWidth = 1;
 constexpr QRgb focusedColor = qRgb(32, 32, 32);
 
@@ -30,7 +30,7 @@ void drawFrame(QPainter &painter, QSize size, const QColor &color)
     painter.setRenderHint(QPainter::Antialiasing);
     const Canvas canvas(painter);
     const QRect rect(QPoint(0, 0), size - QSize(frameInset, frameInset));
-    const Shape frame = Shape::roundedRect(rect, frameRadius);
+    const Shape frame = Shape::roundedRect(rect, InputMetrics::cornerRadius);
     frame.fill(canvas, Qt::white);
     frame.stroke(canvas, color, frameWidth);
 }
