@@ -14,6 +14,13 @@
 
 namespace {
 
+/** Sets the palette of the application, of which Qt 6 tells the widgets in the event loop. */
+void setApplicationPalette(const QPalette &palette)
+{
+    QApplication::setPalette(palette);
+    QCoreApplication::processEvents();
+}
+
 QPalette withText(const QColor &color)
 {
     QPalette palette;
@@ -88,7 +95,7 @@ void TestReadableTextMembers::followsThePaletteOfTheApplication()
     new OlvFormSupport(&form);
     form.show();
     for (const QColor &color : { QColor(255, 255, 255), QColor(255, 220, 0), QColor(0, 0, 90) }) {
-        QApplication::setPalette(withText(color));
+        setApplicationPalette(withText(color));
         QVERIFY(isDark(textColor(form.name)));
     }
     QCOMPARE(textColor(form.name), QColor(0, 0, 90));
@@ -347,7 +354,7 @@ void TestReadableTextMembers::standsADeletion()
     deleter.isArmed = true;
     form.name->lineEdit()->installEventFilter(&deleter);
     if (cause == QLatin1String("palette")) {
-        QApplication::setPalette(withText(Qt::yellow));
+        setApplicationPalette(withText(Qt::yellow));
     } else if (cause == QLatin1String("taken")) {
         support->setFeatures({});
     } else {
