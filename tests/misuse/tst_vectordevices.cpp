@@ -98,11 +98,7 @@ QImage played(const QByteArray &commands, const QWidget &widget)
 /** How far apart two images are, seen from afar: glyphs may be a pixel off. */
 qint64 distance(const QImage &one, const QImage &other)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    constexpr int shrunk = 8; // its default font is smaller, so that a pixel is more of it
-#else
     constexpr int shrunk = 4;
-#endif
     const QSize size(qMax(1, one.width() / shrunk), qMax(1, one.height() / shrunk));
     const QImage a = one.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const QImage b = other.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

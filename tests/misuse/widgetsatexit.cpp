@@ -10,9 +10,6 @@
 #include <QScrollArea>
 #include <QSlider>
 #include <QTimer>
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-#include <QPointingDevice>
-#endif
 
 #include <cstdlib>
 #include <memory>
@@ -95,9 +92,6 @@ void makeStaticsOfQt()
     const Assistant assistant;
     const Widgets widgets = makeAll(plainWidgets());
     QCoreApplication::processEvents();
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    QPointingDevice::primaryPointingDevice(); // which the first mouse event makes
-#endif
 }
 
 void makeAndDestroy()
