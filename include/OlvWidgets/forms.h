@@ -174,6 +174,11 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  * application sets is submitted in the same way. Under ManualSubmit all of them wait for
  * QDataWidgetMapper::submit(). Escape shows the record again.
  *
+ * A text that the validator or the input mask of OlvLineEdit::lineEdit() refuses is handled as in a
+ * QLineEdit: QValidator::fixup() may correct it when editing is finished. When it is refused still,
+ * it is not submitted, Tab and Enter stay in the line, and a cell that loses the focus keeps what
+ * it had.
+ *
  * Only what has changed since it was shown is written, in the type of what it replaces where it
  * converts to that. So data that a widget cannot show is not overwritten by what the widget shows
  * instead, until the user changes that:

@@ -8,7 +8,9 @@
 #include "value/slidermetrics_p.h"
 
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QPointer>
+#include <QValidator>
 #include <QtMath>
 
 namespace {
@@ -113,6 +115,23 @@ void EditorValue::show(OlvWidget *editor, const QVariant &value)
     } else {
         editor->setValue(value.isNull() ? QVariant() : value);
     }
+}
+
+bool EditorValue::fixUp(OlvWidget *editor)
+{
+    const auto *line = qobject_cast<OlvLineEdit *>(editor);
+    const QPointer<QLineEdit> text(line ? line->lineEdit() : nullptr);
+    if (!text || text->hasAcceptableInput()) {
+        return true;
+    }
+    if (const QValidator *validator = text->validator()) {
+        QString corrected = text->text();
+        validator->fixup(corrected);
+        if (text) {
+            text->setText(corrected);
+        }
+    }
+    return text && text->hasAcceptableInput();
 }
 
 bool EditorValue::isOtherSpelling(const OlvWidget *editor, const QVariant &value,

@@ -15,6 +15,12 @@ QVariant chosenValue(OlvWidget *editor);
 /** Shows @p value at once, what is null or of another kind as off, 0 or empty. */
 void show(OlvWidget *editor, const QVariant &value);
 /**
+ * Lets the validator of a line correct a text that it refuses, and tells whether the text is
+ * acceptable then; true for every other editor. QStyledItemDelegate does so only with an editor
+ * that is a QLineEdit itself. The editor may be deleted by what it calls.
+ */
+bool fixUp(OlvWidget *editor);
+/**
  * Whether @p value, which @p editor has come to, is what @p stored says in other words: a shortcut
  * of the record may be granted long after the record was shown.
  */

@@ -67,6 +67,23 @@ bool isFilterOf(const QObject *filter, QObject *widget)
     return probe.isHeard;
 }
 
+/** Whether @p event makes QStyledItemDelegate store what an editor holds, and leave it. */
+bool isLeavingKey(const QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent *>(event)->key();
+    return isEnter(event) || key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
+/** Handles an event in place of an OlvValueDelegate, so that that sees the signals first. */
+class QtsDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::eventFilter;
+};
+
 } // namespace
 
 class Q_DECL_HIDDEN OlvValueDelegate::Private
@@ -93,6 +110,8 @@ public:
     /** The editor that @p part is, or is a part of; null for every other object. */
     OlvWidget *editorOf(QObject *part) const;
     void commit(OlvWidget *widget);
+    /** Has Qt handle an event of @p editor, but not store a text that its validator refuses. */
+    bool handleAsQt(OlvWidget *editor, QEvent *event);
 
     QHash<QObject *, Editor> editors;
     bool isStoring = false; ///< a value is being written, and the model tells of that
@@ -162,6 +181,34 @@ void OlvValueDelegate::Private::commit(OlvWidget *widget)
         return;
     }
     Q_EMIT q->commitData(widget);
+}
+
+bool OlvValueDelegate::Private::handleAsQt(OlvWidget *editor, QEvent *event)
+{
+    const bool isLeaving = event->type() == QEvent::FocusOut || event->type() == QEvent::Hide;
+    if (!isLeaving) {
+        if (!isLeavingKey(event)) {
+            return q->QStyledItemDelegate::eventFilter(editor, event);
+        }
+        const QPointer<QObject> self(q);
+        const QPointer<QObject> guarded(editor);
+        const bool isAcceptable = EditorValue::fixUp(editor);
+        return !isAcceptable || !self || !guarded
+            || q->QStyledItemDelegate::eventFilter(editor, event);
+    }
+    // Qt closes an editor that loses the focus also when its text is not stored, and decides itself
+    // whether the focus is lost: only its commitData() is held back
+    QtsDelegate delegate;
+    QObject::connect(&delegate, &QAbstractItemDelegate::commitData, q, [this, editor] {
+        const QPointer<QObject> self(q);
+        const QPointer<QObject> guarded(editor);
+        if (EditorValue::fixUp(editor) && self && guarded) {
+            Q_EMIT q->commitData(editor);
+        }
+    });
+    QObject::connect(&delegate, &QAbstractItemDelegate::closeEditor, q,
+                     &QAbstractItemDelegate::closeEditor);
+    return delegate.eventFilter(editor, event);
 }
 
 OlvValueDelegate::OlvValueDelegate(QObject *parent)
@@ -276,10 +323,6 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
         return probe->isHeard;
     }
     const QPointer<QObject> receiver(watched);
-    const auto handleAsQt = [&](QObject *widget) {
-        const bool isConsumed = QStyledItemDelegate::eventFilter(widget, event);
-        return isConsumed || !receiver; // what has gone must not get the event any more
-    };
     OlvWidget *editor = d->editorOf(watched);
     const bool isChange = event->type() == QEvent::DynamicPropertyChange
         && isOfValue(static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName());
@@ -288,7 +331,8 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
             Private::Editor &known = d->know(unserved);
             known.isChanged = known.isChanged || isChange;
         }
-        return handleAsQt(watched);
+        // what has gone must not get the event any more
+        return QStyledItemDelegate::eventFilter(watched, event) || !receiver;
     }
     const bool isKnob = watched != editor && dynamic_cast<SliderRound *>(watched);
     const QPointer<QObject> self(this);
@@ -326,8 +370,16 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
     if (!self || !guarded || isKnob) {
         return !receiver;
     }
-    // Qt gets Enter from the editor, to which it comes next: closing an editor twice is a warning
-    const bool isServed = watched == editor
-        || (isHandledByQt(event->type()) && !isEnter(event) && isFilterOf(this, editor));
-    return isServed && self && guarded ? handleAsQt(editor) : !receiver;
+    const bool isOfPart = watched != editor;
+    if (isOfPart && (!isHandledByQt(event->type()) || !isFilterOf(this, editor))) {
+        return !receiver;
+    }
+    if (!self || !guarded) {
+        return !receiver;
+    }
+    if (isOfPart && isEnter(event)) {
+        // Qt gets it from the editor, to which it comes next: closing an editor twice is a warning
+        return !EditorValue::fixUp(editor) || !receiver;
+    }
+    return d->handleAsQt(editor, event) || !receiver;
 }
