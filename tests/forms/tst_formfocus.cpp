@@ -59,6 +59,7 @@ private Q_SLOTS:
     void restoresTheOrder_data();
     void restoresTheOrder();
     void leavesAnOrderSetAfterwards();
+    void leavesAnOrderSetOnceItIsRestored();
     void isInTheTextOfALineEdit();
     void goesOnToTheTextOfTheLineEditThatHasIt();
     void leavesAPolicyOfTheApplication();
@@ -175,6 +176,19 @@ void TestFormFocus::leavesAnOrderSetAfterwards()
     delete support;
     QCOMPARE(form.save->nextInFocusChain(), form.password->lineEdit());
     QCOMPARE(set.indexOf(form.password->lineEdit()), set.indexOf(form.save) + 1);
+}
+
+void TestFormFocus::leavesAnOrderSetOnceItIsRestored()
+{
+    WidgetForm form;
+    QWidget::setTabOrder(form.password, form.name);
+    auto *support = new OlvFormSupport(&form);
+    support->setFeatures({});
+    QVERIFY(form.password->nextInFocusChain() != form.password->lineEdit());
+    QWidget::setTabOrder(form.password, form.password->lineEdit());
+    QCOMPARE(form.password->nextInFocusChain(), form.password->lineEdit());
+    delete support;
+    QCOMPARE(form.password->nextInFocusChain(), form.password->lineEdit());
 }
 
 void TestFormFocus::isInTheTextOfALineEdit()
