@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "heldexpose.h"
+#include "support.h"
 
 #include <QCoreApplication>
 #include <QExposeEvent>
@@ -37,4 +38,27 @@ bool HeldExpose::eventFilter(QObject *watched, QEvent *event)
     }
     m_painted = m_painted || event->type() == QEvent::Paint;
     return QObject::eventFilter(watched, event);
+}
+
+void measureFirstPaint(benchmark::State &state,
+                       const std::function<std::unique_ptr<QWidget>()> &makeWindow)
+{
+    settle();
+    while (state.KeepRunning()) {
+        auto window = makeWindow();
+        window->show();
+        state.PauseTiming();
+        HeldExpose expose(*window, *static_cast<QWidget *>(window->children().last()));
+        const bool waited = expose.waitFor();
+        state.ResumeTiming();
+        const bool painted = expose.handOver();
+        state.PauseTiming();
+        if (!waited || !painted) {
+            state.SkipWithError("the first paint did not come with the expose");
+            return;
+        }
+        window.reset();
+        settle();
+        state.ResumeTiming();
+    }
 }

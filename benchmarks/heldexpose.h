@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <QObject>
 #include <QRegion>
+
+#include <functional>
+#include <memory>
 
 class QWidget;
 
@@ -28,3 +33,10 @@ private:
     QRegion m_region;
     bool m_painted = false;
 };
+
+/**
+ * Times making a window and its first paint, which the expose event causes, but not the wait for
+ * the window system. The last child of the window is painted last.
+ */
+void measureFirstPaint(benchmark::State &state,
+                       const std::function<std::unique_ptr<QWidget>()> &makeWindow);

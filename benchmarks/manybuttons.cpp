@@ -81,29 +81,6 @@ std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count)
     return window;
 }
 
-/** Times the paint that the expose event causes, but not the wait for the window system. */
-void measureFirstPaint(benchmark::State &state, const Contestant &contestant, int count)
-{
-    settle();
-    while (state.KeepRunning()) {
-        auto window = makeWindow(contestant, count);
-        window->show();
-        state.PauseTiming();
-        HeldExpose expose(*window, *static_cast<QWidget *>(window->children().last()));
-        const bool waited = expose.waitFor();
-        state.ResumeTiming();
-        const bool painted = expose.handOver();
-        state.PauseTiming();
-        if (!waited || !painted) {
-            state.SkipWithError("the first paint did not come with the expose");
-            return;
-        }
-        window.reset();
-        settle();
-        state.ResumeTiming();
-    }
-}
-
 /** The heap in use while a window of @p count buttons is shown. */
 double heapOfShown(const Contestant &contestant, int count)
 {
@@ -133,11 +110,11 @@ void addManyButtons()
 {
     for (const Contestant &contestant : contestants) {
         for (const int count : buttonCounts) {
-            addBenchmark("many-buttons" + std::string(contestant.name) + '/'
-                             + std::to_string(count),
-                         [contestant, count](benchmark::State &state) {
-                             measureFirstPaint(state, contestant, count);
-                         });
+            addBenchmark(
+                "many-buttons" + std::string(contestant.name) + '/' + std::to_string(count),
+                [contestant, count](benchmark::State &state) {
+                    measureFirstPaint(state, [&] { return makeWindow(contestant, count); });
+                });
         }
         addBenchmark("button-heap" + std::string(contestant.name),
                      [contestant](benchmark::State &state) { measureHeap(state, contestant); })

@@ -25,25 +25,11 @@ constexpr int minute = 60000;     // milliseconds
 /** From nothing to the first paint, but for the wait for the window system. */
 void measureStart(benchmark::State &state, void (*makeWidgets)(QWidget *))
 {
-    settle();
-    while (state.KeepRunning()) {
+    measureFirstPaint(state, [makeWidgets] {
         auto window = std::make_unique<QWidget>();
         makeWidgets(window.get());
-        window->show();
-        state.PauseTiming();
-        HeldExpose expose(*window, *static_cast<QWidget *>(window->children().last()));
-        const bool waited = expose.waitFor();
-        state.ResumeTiming();
-        const bool painted = expose.handOver();
-        state.PauseTiming();
-        if (!waited || !painted) {
-            state.SkipWithError("the first paint did not come with the expose");
-            return;
-        }
-        window.reset();
-        settle();
-        state.ResumeTiming();
-    }
+        return window;
+    });
 }
 
 /** How often the event loop wakes up in the watched time, at its end included. */

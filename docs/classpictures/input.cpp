@@ -9,7 +9,7 @@
 namespace {
 
 /** One that is always to be had: pictures are made where there is nothing to register with. */
-class FreeShortcut : public OlvShortcut
+class PicturedShortcut : public OlvShortcut
 {
 public:
     using OlvShortcut::OlvShortcut;
@@ -45,13 +45,13 @@ std::function<void()> fillLineEdit(QWidget *stage)
 
 std::function<void()> fillShortcutEdit(QWidget *stage)
 {
-    addShortcutEdit(stage, new FreeShortcut(Qt::Key_A, true, true, false, false));
+    addShortcutEdit(stage, new PicturedShortcut(Qt::Key_A, true, true, false, false));
     return {};
 }
 
 std::function<void()> fillShortcut(QWidget *stage)
 {
-    auto *shortcut = new FreeShortcut(Qt::Key_F5, true, false, false, false);
+    auto *shortcut = new PicturedShortcut(Qt::Key_F5, true, false, false, false);
     OlvShortcutEdit *edit = addShortcutEdit(stage, shortcut);
     auto *said = new QLabel(stage);
     said->setGeometry(edit->geometry().translated(edit->width() + 16, 0));

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "freeshortcut.h"
+
 #include <OlvWidgets/OlvWidgets>
 
 #include <QApplication>
@@ -15,19 +17,6 @@ namespace {
 
 constexpr int patience = 60000; // milliseconds
 
-/** A shortcut that can always be had. */
-class FreeShortcut : public OlvShortcut
-{
-public:
-    explicit FreeShortcut(Qt::Key key)
-        : OlvShortcut(key, true, false, false, false)
-    { }
-    bool active() override
-    {
-        return true;
-    }
-};
-
 /** A window with one widget of each kind. */
 class Window : public QWidget
 {
@@ -39,7 +28,7 @@ public:
                                  QStringLiteral("FontAwesome"), this, 60, 60))
         , wifi(new OlvSwitch(this))
         , volume(new OlvSlider(this))
-        , record(new OlvShortcutEdit(new FreeShortcut(Qt::Key_F5), this))
+        , record(new OlvShortcutEdit(new FreeShortcut(Qt::Key_F5, true, false, false, false), this))
         , bar(new OlvControlBar({ u'\uf2d2', u'\uf103', u'\uf102', u'\uf068', u'\uf065', u'\uf00d',
                                   u'\uf066', u'\uf013' },
                                 this, { QStringLiteral("Settings") }))
@@ -82,10 +71,10 @@ public:
 };
 
 /** A program of its own that looks at this one over the bus. */
-class OtherProgram : public QProcess
+class AssistantProgram : public QProcess
 {
 public:
-    explicit OtherProgram(const QStringList &arguments)
+    explicit AssistantProgram(const QStringList &arguments)
     {
         setProcessChannelMode(QProcess::ForwardedErrorChannel);
         QStringList all{ QStringLiteral("-Wignore::DeprecationWarning"),
@@ -93,12 +82,12 @@ public:
                          QString::number(QCoreApplication::applicationPid()) };
         start(QStringLiteral("/usr/bin/python3"), all + arguments);
     }
-    ~OtherProgram() override
+    ~AssistantProgram() override
     {
         kill();
         waitForFinished();
     }
-    Q_DISABLE_COPY(OtherProgram)
+    Q_DISABLE_COPY(AssistantProgram)
 
     /** Waits, answering its questions meanwhile, until it has come to a good end. */
     bool succeeds()
@@ -160,7 +149,7 @@ void TestAccessibilityOnBus::theTreeIsRead()
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     m_window->record->setFocus();
-    OtherProgram reader({ QStringLiteral("tree") });
+    AssistantProgram reader({ QStringLiteral("tree") });
     QVERIFY(reader.succeeds());
     // Qt's bridge steps through a value by itself
     QCOMPARE(reader.lines(),
@@ -189,7 +178,7 @@ void TestAccessibilityOnBus::theTreeIsRead()
 void TestAccessibilityOnBus::aButtonIsPressed()
 {
     QSignalSpy clicked(m_window->save, &OlvButton::clicked);
-    OtherProgram presser(
+    AssistantProgram presser(
         { QStringLiteral("act"), QStringLiteral("Save"), QStringLiteral("Press") });
     QVERIFY(presser.succeeds());
     QCOMPARE(clicked.count(), 1);
@@ -198,7 +187,7 @@ void TestAccessibilityOnBus::aButtonIsPressed()
 void TestAccessibilityOnBus::aCheckableButtonIsToggled()
 {
     QSignalSpy toggled(m_window->bold, &OlvButton::toggled);
-    OtherProgram toggler(
+    AssistantProgram toggler(
         { QStringLiteral("act"), QStringLiteral("Bold"), QStringLiteral("Toggle") });
     QVERIFY(toggler.succeeds());
     QCOMPARE(toggled.count(), 1);
@@ -209,11 +198,11 @@ void TestAccessibilityOnBus::aTileIsPressedAndDoubleClicked()
 {
     QSignalSpy clicked(m_window->mail, &OlvIconButton::clicked);
     QSignalSpy doubleClicked(m_window->mail, &OlvIconButton::dClicked);
-    OtherProgram presser(
+    AssistantProgram presser(
         { QStringLiteral("act"), QStringLiteral("Mail"), QStringLiteral("Press") });
     QVERIFY(presser.succeeds());
     QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, patience);
-    OtherProgram clicker(
+    AssistantProgram clicker(
         { QStringLiteral("act"), QStringLiteral("Mail"), QStringLiteral("doubleClick") });
     QVERIFY(clicker.succeeds());
     QTRY_COMPARE_WITH_TIMEOUT(doubleClicked.count(), 1, patience);
@@ -223,7 +212,7 @@ void TestAccessibilityOnBus::aTileIsPressedAndDoubleClicked()
 void TestAccessibilityOnBus::aSwitchIsSwitched()
 {
     QSignalSpy changed(m_window->wifi, &OlvSwitch::changed);
-    OtherProgram toggler(
+    AssistantProgram toggler(
         { QStringLiteral("act"), QStringLiteral("Wi-Fi"), QStringLiteral("Toggle") });
     QVERIFY(toggler.succeeds());
     QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, patience);
@@ -234,7 +223,8 @@ void TestAccessibilityOnBus::aSliderIsSet()
 {
     const QWidget *knob = m_window->volume->findChild<QWidget *>();
     const int before = knob->x();
-    OtherProgram setter({ QStringLiteral("set"), QStringLiteral("Volume"), QStringLiteral("75") });
+    AssistantProgram setter(
+        { QStringLiteral("set"), QStringLiteral("Volume"), QStringLiteral("75") });
     QVERIFY(setter.succeeds());
     QCOMPARE(m_window->volume->getValue(), QVariant(75));
     QVERIFY(knob->x() > before);
@@ -243,7 +233,7 @@ void TestAccessibilityOnBus::aSliderIsSet()
 void TestAccessibilityOnBus::theBarIsPressed()
 {
     QSignalSpy custom(m_window->bar, &OlvControlBar::custom);
-    OtherProgram presser(
+    AssistantProgram presser(
         { QStringLiteral("act"), QStringLiteral("Settings"), QStringLiteral("Press") });
     QVERIFY(presser.succeeds());
     QCOMPARE(custom.count(), 1);
@@ -255,18 +245,18 @@ void TestAccessibilityOnBus::aLineEditIsFocused()
     QVERIFY(QTest::qWaitForWindowActive(m_window));
     auto *text = m_window->name->findChild<QLineEdit *>();
     m_window->record->setFocus();
-    OtherProgram focuser(
+    AssistantProgram focuser(
         { QStringLiteral("act"), QStringLiteral("User"), QStringLiteral("SetFocus") });
     QVERIFY(focuser.succeeds());
     QVERIFY(text->hasFocus());
-    OtherProgram reader({ QStringLiteral("tree") });
+    AssistantProgram reader({ QStringLiteral("tree") });
     QVERIFY(reader.succeeds());
     QVERIFY(reader.lines().contains(QStringLiteral("text|User|focusable focused|Li Wei|SetFocus")));
 }
 
 void TestAccessibilityOnBus::updatesAreHeard()
 {
-    OtherProgram listener({ QStringLiteral("hear") });
+    AssistantProgram listener({ QStringLiteral("hear") });
     // Updates are sent from when Qt has come to know that somebody listens. States come last.
     QTimer knocking;
     connect(&knocking, &QTimer::timeout, m_window->bold,
@@ -284,7 +274,7 @@ void TestAccessibilityOnBus::updatesAreHeard()
     m_window->volume->setValue(30);
     QTRY_VERIFY_WITH_TIMEOUT(hears("property-change:accessible-value|Volume|30 of 0 to 100"),
                              patience);
-    QVERIFY(m_window->record->setShortcut(new FreeShortcut(Qt::Key_F6)));
+    QVERIFY(m_window->record->setShortcut(new FreeShortcut(Qt::Key_F6, true, false, false, false)));
     QTRY_VERIFY_WITH_TIMEOUT(hears("text-changed:delete|Record|Ctrl+F5"), patience);
     QTRY_VERIFY_WITH_TIMEOUT(hears("text-changed:insert|Record|Ctrl+F6"), patience);
     m_window->wifi->setValue(true);

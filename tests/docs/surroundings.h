@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "freeshortcut.h"
+
 #include <OlvSystemInfo/OlvSystemInfo>
 #include <OlvWidgets/OlvWidgets>
 
@@ -134,17 +136,6 @@ public:
     QString checked;
 };
 
-/** Can be registered on every platform. */
-class FreeShortcut : public OlvShortcut
-{
-public:
-    using OlvShortcut::OlvShortcut;
-    bool active() override
-    {
-        return true;
-    }
-};
-
 class Recorder : public QWidget
 {
 public:
@@ -266,10 +257,10 @@ struct Table : QStandardItemModel
     }
 };
 
-class RecordForm : public QWidget
+class MappedForm : public QWidget
 {
 public:
-    explicit RecordForm(Table *model){
+    explicit MappedForm(Table *model){
 #include "OlvValueDelegate.inc"
     } OlvLineEdit *name = new OlvLineEdit(this);
     OlvSwitch *notify = new OlvSwitch(this);

@@ -110,7 +110,7 @@ private Q_SLOTS:
         Table table;
         table.setData(table.index(0, 1), true, Qt::EditRole);
         table.setData(table.index(0, 2), 60, Qt::EditRole);
-        RecordForm form(&table);
+        MappedForm form(&table);
         QVERIFY(form.notify->isChecked());
         QCOMPARE(form.volume->getValue(), QVariant(60));
         form.notify->setChecked(false);

@@ -2,6 +2,7 @@
 // A flow grid in a form that is laid out from the right to the left.
 #include "deferred.h"
 #include "gridscene.h"
+#include "onevent.h"
 
 #include <OlvButton>
 #include <OlvFormSupport>
@@ -11,14 +12,12 @@
 #include <QVBoxLayout>
 #include <QVector>
 
-#include <utility>
-
 namespace {
 
 /** Tiles of several widths, in rows that end in different places. */
-struct Scene : GridScene
+struct TileScene : GridScene
 {
-    Scene(Qt::LayoutDirection direction, bool embedded)
+    TileScene(Qt::LayoutDirection direction, bool embedded)
         : GridScene(embedded)
         , support(new OlvFormSupport(&window))
     {
@@ -82,15 +81,15 @@ void TestMirroredGrid::flowsFromTheRight_data()
 void TestMirroredGrid::flowsFromTheRight()
 {
     QFETCH(bool, embedded);
-    Scene ltr(Qt::LeftToRight, embedded);
-    Scene rtl(Qt::RightToLeft, embedded);
+    TileScene ltr(Qt::LeftToRight, embedded);
+    TileScene rtl(Qt::RightToLeft, embedded);
     QCOMPARE(rtl.places(), ltr.places());
-    for (Scene *scene : { &ltr, &rtl }) {
+    for (TileScene *scene : { &ltr, &rtl }) {
         scene->grid->resize(217, scene->grid->height());
         scene->grid->setMargin(4);
     }
     QCOMPARE(rtl.places(), ltr.places());
-    for (Scene *scene : { &ltr, &rtl }) {
+    for (TileScene *scene : { &ltr, &rtl }) {
         scene->grid->delWidget(scene->tiles.takeAt(3));
     }
     QCOMPARE(rtl.places(), ltr.places());
@@ -118,7 +117,7 @@ void TestMirroredGrid::keepsToTheEdgeInALayout()
 
 void TestMirroredGrid::scrollsAtTheLeft()
 {
-    Scene scene(Qt::LeftToRight, true);
+    TileScene scene(Qt::LeftToRight, true);
     const QRect before = barOf(*scene.grid)->geometry();
     scene.window.setLayoutDirection(Qt::RightToLeft);
     const QRect mirrored(scene.grid->width() - before.width() - before.x(), before.y(),
@@ -133,7 +132,7 @@ void TestMirroredGrid::scrollsAtTheLeft()
 void TestMirroredGrid::movesTheFocusToWhereTheKeyPoints()
 {
     for (const auto direction : { Qt::LeftToRight, Qt::RightToLeft }) {
-        Scene scene(direction, true);
+        TileScene scene(direction, true);
         for (const auto key : { Qt::Key_Left, Qt::Key_Right }) {
             QWidget *from = scene.tiles.at(1);
             from->setFocus();
@@ -147,7 +146,7 @@ void TestMirroredGrid::movesTheFocusToWhereTheKeyPoints()
 
 void TestMirroredGrid::followsTheDirectionAndLeavesNothingBehind()
 {
-    Scene scene(Qt::LeftToRight, true);
+    TileScene scene(Qt::LeftToRight, true);
     const QVector<QRect> before = scene.places();
     const QRect bar = barOf(*scene.grid)->geometry();
     const auto isAsBefore = [&] {
@@ -173,7 +172,7 @@ void TestMirroredGrid::followsTheDirectionAndLeavesNothingBehind()
 
 void TestMirroredGrid::movesATileThatIsListedTwiceOnce()
 {
-    Scene scene(Qt::LeftToRight, true);
+    TileScene scene(Qt::LeftToRight, true);
     scene.grid->addWidget(scene.tiles.first());
     const QVector<QRect> before = scene.places();
     scene.window.setLayoutDirection(Qt::RightToLeft);
@@ -182,25 +181,11 @@ void TestMirroredGrid::movesATileThatIsListedTwiceOnce()
 
 void TestMirroredGrid::standsADeletion()
 {
-    /** Deletes widgets at the first move of another. */
-    class Deleter : public QObject
-    {
-    public:
-        QList<QWidget *> victims;
-        bool eventFilter(QObject *watched, QEvent *event) override
-        {
-            if (event->type() == QEvent::Move) {
-                qDeleteAll(std::exchange(victims, {}));
-            }
-            return QObject::eventFilter(watched, event);
-        }
-    };
-    Scene scene(Qt::LeftToRight, true);
-    Deleter deleter;
-    deleter.victims = scene.tiles.mid(10);
-    scene.tiles.first()->installEventFilter(&deleter);
+    TileScene scene(Qt::LeftToRight, true);
+    OnEvent deletion(scene.tiles.first(), QEvent::Move,
+                     [victims = scene.tiles.mid(10)] { qDeleteAll(victims); });
     scene.window.setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(deleter.victims.isEmpty());
+    QVERIFY(deletion.happened());
     QCOMPARE(scene.grid->count(), 10);
 }
 

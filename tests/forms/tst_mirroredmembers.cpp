@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Which widgets are mirrored and when, and what is left of that.
 #include "deferred.h"
+#include "onevent.h"
 #include "pixels.h"
 #include "sizedlineedit.h"
 #include "sizedswitch.h"
@@ -11,7 +12,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -169,22 +169,6 @@ void TestMirroredMembers::standsADeletionWhileItMovesParts()
 {
     QFETCH(QString, part);
     QFETCH(QString, victim);
-    /** Deletes widgets at the first move of another. */
-    class Deleter : public QObject
-    {
-    public:
-        QVector<QPointer<QObject>> victims;
-        bool hasDeleted = false;
-        bool eventFilter(QObject *watched, QEvent *event) override
-        {
-            if (event->type() == QEvent::Move && !std::exchange(hasDeleted, true)) {
-                for (const QPointer<QObject> &one : qAsConst(victims)) {
-                    delete one;
-                }
-            }
-            return QObject::eventFilter(watched, event);
-        }
-    };
     WidgetForm form;
     form.setLayoutDirection(Qt::RightToLeft);
     auto *support = new OlvFormSupport(&form, OlvFormSupport::Keyboard);
@@ -194,20 +178,24 @@ void TestMirroredMembers::standsADeletionWhileItMovesParts()
                                            { QStringLiteral("text"), editorOf(*form.password) },
                                            { QStringLiteral("button"), buttonOf(*form.password) } };
     QWidget *moved = parts.value(part);
-    Deleter deleter;
+    QVector<QPointer<QObject>> victims;
     if (victim == QLatin1String("support")) {
-        deleter.victims.append(support);
+        victims.append(support);
     } else {
         const auto all = form.findChildren<QWidget *>();
         for (QWidget *one : all) {
             if (one != moved && one != moved->parentWidget()) {
-                deleter.victims.append(one);
+                victims.append(one);
             }
         }
     }
-    moved->installEventFilter(&deleter);
+    OnEvent deletion(moved, QEvent::Move, [victims] {
+        for (const QPointer<QObject> &one : victims) {
+            delete one;
+        }
+    });
     support->setFeatures(OlvFormSupport::AllFeatures);
-    QVERIFY(std::all_of(deleter.victims.cbegin(), deleter.victims.cend(),
+    QVERIFY(std::all_of(victims.cbegin(), victims.cend(),
                         [](const QPointer<QObject> &one) { return !one; }));
     QVERIFY(!form.grab().isNull());
 }

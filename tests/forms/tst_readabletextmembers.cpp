@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // When the colours of texts are given, and what is left of that.
 #include "deferred.h"
+#include "onevent.h"
 #include "pixels.h"
 #include "resolvemask.h"
 #include "sizedlineedit.h"
@@ -9,8 +10,6 @@
 #include <QApplication>
 #include <QStyleFactory>
 #include <QTest>
-
-#include <utility>
 
 namespace {
 
@@ -324,21 +323,6 @@ void TestReadableTextMembers::standsADeletion()
 {
     QFETCH(QString, cause);
     QFETCH(QString, victim);
-    /** Deletes something when it hears of another palette. */
-    class Deleter : public QObject
-    {
-    public:
-        QPointer<QObject> victim;
-        bool isArmed = false;
-        bool eventFilter(QObject *watched, QEvent *event) override
-        {
-            const QPointer<QObject> receiver(watched);
-            if (event->type() == QEvent::PaletteChange && std::exchange(isArmed, false)) {
-                delete victim;
-            }
-            return !receiver;
-        }
-    };
     QApplication::setPalette(withText(Qt::white));
     WidgetForm form;
     form.show();
@@ -349,10 +333,8 @@ void TestReadableTextMembers::standsADeletion()
                                    : OlvFormSupport::ReadableText | OlvFormSupport::Features());
     const QHash<QString, QObject *> victims{ { QStringLiteral("support"), support },
                                              { QStringLiteral("next"), form.password } };
-    Deleter deleter;
-    deleter.victim = victims.value(victim);
-    deleter.isArmed = true;
-    form.name->lineEdit()->installEventFilter(&deleter);
+    const QPointer<QObject> deleted(victims.value(victim));
+    OnEvent deletion(form.name->lineEdit(), QEvent::PaletteChange, [deleted] { delete deleted; });
     if (cause == QLatin1String("palette")) {
         setApplicationPalette(withText(Qt::yellow));
     } else if (cause == QLatin1String("taken")) {
@@ -360,8 +342,8 @@ void TestReadableTextMembers::standsADeletion()
     } else {
         support->setFeatures(OlvFormSupport::AllFeatures); // is to be faded from now on
     }
-    QVERIFY(!deleter.isArmed);
-    QVERIFY(!deleter.victim);
+    QVERIFY(deletion.happened());
+    QVERIFY(!deleted);
     QVERIFY(!form.grab().isNull());
 }
 
