@@ -4,8 +4,8 @@
 #include "buttons/buttonmetrics_p.h"
 #include "buttons/buttonsproperties_p.h"
 #include "buttons/buttonstate_p.h"
-#include "buttons/glyphcolors_p.h"
 #include "painting/canvas_p.h"
+#include "painting/colors_p.h"
 #include "painting/shape_p.h"
 #include "support/childaddress_p.h"
 
@@ -203,7 +203,7 @@ QColor OlvIconButton::penColor()
         color.setRed(color.red() <= halfRed ? halfRed : 0);
         return color;
     }
-    return QColor(restingGlyph);
+    return QColor(Colors::restingGlyph);
 }
 
 bool isChecked(OlvIconButton *button)

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <OlvWidgets/buttons.h>
+#include <OlvWidgets/foundation.h>
 
 #include "buttons/buttonmetrics_p.h"
-#include "buttons/glyphcolors_p.h"
 #include "buttons/togglesheet_p.h"
+#include "painting/colors_p.h"
 #include "support/accessibility_p.h"
 
 #include <QPointer>
@@ -23,9 +24,11 @@ OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font,
     setFont(font);
     setCheckable(true);
     resize(ButtonMetrics::glyphSideLength, ButtonMetrics::glyphSideLength);
-    setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(198,198,198);}"
-                                 "QPushButton:hover{color:rgb(32,32,32)}"
-                                 "QPushButton:disabled{color:rgb(32,32,32)}"));
+    setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
+                                 "QPushButton:hover{color:rgb(%2)}"
+                                 "QPushButton:disabled{color:rgb(%2)}")
+                      .arg(OlvColorToString(QColor(Colors::restingGlyph)),
+                           OlvColorToString(QColor(Colors::emphasized))));
 }
 
 OlvSimpleIconButton::OlvSimpleIconButton(QWidget *parent)
@@ -34,7 +37,7 @@ OlvSimpleIconButton::OlvSimpleIconButton(QWidget *parent)
 
 void OlvSimpleIconButton::setToggle(const QString &checkedText)
 {
-    setStyleSheet(toggleSheet(restingToggle));
+    setStyleSheet(toggleSheet(Colors::restingToggle));
     // an event filter may delete the button when either property changes
     const QPointer<OlvSimpleIconButton> self(this);
     setProperty(uncheckedProperty, text());

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <OlvWidgets/foundation.h>
+
+#include "painting/colors_p.h"
+
 #include <QColor>
 #include <QString>
 
@@ -8,10 +12,8 @@
  */
 inline QString toggleSheet(const QColor &resting)
 {
-    return QStringLiteral("QPushButton{border:none;color:rgb(%1,%2,%3);}"
-                          "QPushButton:hover{color:rgb(32,32,32)}"
-                          "QPushButton:checked{color:rgb(32,32,32)}")
-        .arg(resting.red())
-        .arg(resting.green())
-        .arg(resting.blue());
+    return QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
+                          "QPushButton:hover{color:rgb(%2)}"
+                          "QPushButton:checked{color:rgb(%2)}")
+        .arg(OlvColorToString(resting), OlvColorToString(QColor(Colors::emphasized)));
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/disabledlook_p.h"
 
-#include "buttons/glyphcolors_p.h"
 #include "forms/formmember_p.h"
+#include "painting/colors_p.h"
 
 #include <QGraphicsEffect>
 #include <QPainter>
@@ -26,7 +26,7 @@ protected:
             // the style sheet of a button of a glyph makes a disabled one darker
             QPainter glyph(&pixels);
             glyph.setCompositionMode(QPainter::CompositionMode_SourceIn);
-            glyph.fillRect(QRect(QPoint(), pixels.size()), QColor(restingGlyph));
+            glyph.fillRect(QRect(QPoint(), pixels.size()), QColor(Colors::restingGlyph));
         }
         // Qt restores the painter afterwards
         painter->setWorldTransform(QTransform());

@@ -4,12 +4,12 @@
 #include <OlvWidgets/buttons.h>
 #include <OlvWidgets/input.h>
 
-#include "buttons/glyphcolors_p.h"
 #include "buttons/togglesheet_p.h"
 #include "forms/disabledlook_p.h"
 #include "forms/formmember_p.h"
 #include "input/inputlook_p.h"
 #include "input/inputproperties_p.h"
+#include "painting/colors_p.h"
 #include "painting/contrast_p.h"
 #include "support/qtversion_p.h"
 
@@ -225,14 +225,14 @@ void takeText(FormMember &member, QLineEdit *text)
 /** The style sheets of password buttons, shared by all buttons: a text of its own is 288 bytes. */
 const QString &restingSheet()
 {
-    static const QString sheet = toggleSheet(restingToggle);
+    static const QString sheet = toggleSheet(Colors::restingToggle);
     return sheet;
 }
 
 const QString &readableSheet()
 {
     static const QString sheet =
-        toggleSheet(Contrast::atLeast(Contrast::readable, QColor(restingToggle), ground));
+        toggleSheet(Contrast::atLeast(Contrast::readable, QColor(Colors::restingToggle), ground));
     return sheet;
 }
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <OlvWidgets/foundation.h>
 #include <OlvWidgets/frame.h>
 
 #include "frame/controlbarbutton_p.h"
+#include "painting/colors_p.h"
 #include "support/accessibility_p.h"
 
+#include <QColor>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QSpacerItem>
@@ -38,18 +41,24 @@ constexpr std::array<WindowButton, 6> windowButtons{ {
     { OlvControlBar::Close, QT_TRANSLATE_NOOP("OlvControlBar", "关闭") },
 } };
 
+/** A style sheet with the colour of glyphs at rest in place of %1, and of others in place of %2. */
+QString withColors(const QString &sheet)
+{
+    return sheet.arg(OlvColorToString(QColor(Colors::restingGlyph)),
+                     OlvColorToString(QColor(Colors::emphasized)));
+}
+
 QString actionStyleSheet()
 {
-    return QStringLiteral(
-        "QPushButton{border:none;color:rgb(198,198,198);}"
-        "QPushButton:hover{color:rgb(32,32,32);background-color:rgb(198,198,198)}");
+    return withColors(QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
+                                     "QPushButton:hover{color:rgb(%2);background-color:rgb(%1)}"));
 }
 
 QString toggleStyleSheet()
 {
-    return QStringLiteral("QPushButton{border:none;color:rgb(198,198,198)}"
-                          "QPushButton:hover{color:rgb(32,32,32);background-color:rgb(198,198,198)}"
-                          "QPushButton:checked{color:rgb(32,32,32)}");
+    return withColors(QStringLiteral("QPushButton{border:none;color:rgb(%1)}"
+                                     "QPushButton:hover{color:rgb(%2);background-color:rgb(%1)}"
+                                     "QPushButton:checked{color:rgb(%2)}"));
 }
 
 /** The state that a button stands for; null when an application wrote an index of no state. */

@@ -20,7 +20,6 @@ constexpr char visibleProperty[] = "Visible";
 constexpr char invisibleProperty[] = "Invisible";
 constexpr char stateProperty[] = "state";
 
-constexpr QRgb iconColor = qRgb(184, 186, 188);
 constexpr QRgb focusedIconColor = qRgb(18, 183, 245);
 
 QString normalState()
@@ -198,7 +197,7 @@ void OlvLineEdit::paintEvent(QPaintEvent * /*event*/)
         drawFrame(painter, size());
     }
     const bool isNormal = property(stateProperty).toString() == normalState();
-    painter.setPen(d->look.textColor(QColor(isNormal ? iconColor : focusedIconColor)));
+    painter.setPen(d->look.textColor(QColor(isNormal ? Colors::restingToggle : focusedIconColor)));
     const int column = InputMetrics::bounded(property(iconWidthProperty).toInt());
     painter.drawText(QRect(mirror.placed(0, column), 0, column, height()), Qt::AlignCenter,
                      property(InputProperties::icon).toString());

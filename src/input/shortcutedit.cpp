@@ -5,6 +5,7 @@
 #include "input/inputmetrics_p.h"
 #include "input/shortcutcapture_p.h"
 #include "painting/canvas_p.h"
+#include "painting/colors_p.h"
 #include "painting/flipped_p.h"
 #include "painting/shape_p.h"
 #include "support/owntooltip_p.h"
@@ -23,7 +24,6 @@ constexpr char captureProperty[] = "Temp";
 
 constexpr int frameInset = 2;
 constexpr int frameWidth = 1;
-constexpr QRgb focusedColor = qRgb(32, 32, 32);
 
 void drawFrame(QPainter &painter, QSize size, const QColor &color)
 {
@@ -240,7 +240,7 @@ void OlvShortcutEdit::changeEvent(QEvent *event)
 void OlvShortcutEdit::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    const QColor color = hasFocus() ? QColor(focusedColor) : QColor(Qt::gray);
+    const QColor color = hasFocus() ? QColor(Colors::emphasized) : QColor(Qt::gray);
     if (d->look.mirror.isOn) {
         drawFlipped(painter, size(), [&](QPainter &flipped) { drawFrame(flipped, size(), color); });
     } else {
