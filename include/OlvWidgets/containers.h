@@ -126,7 +126,7 @@ public:
 
     /** Sets the margin around and the gap between the widgets (15 pixels at first) and reflows. */
     void setMargin(int margin);
-    /** Stores a spacing (20 pixels at first), which the arrangement does not read, and reflows. */
+    /** Reflows. The number is ignored: the margin is the gap between the widgets as well. */
     void setSpacing(int spacing);
 
     /** Puts every widget into its place, and adjusts the scroll bar or the window. */

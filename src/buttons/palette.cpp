@@ -30,8 +30,9 @@ QStringList inWords(const ButtonPalette &palette)
 }
 
 /**
- * The shades that the application set, the primary ones at first. They are only kept: no scheme
- * draws with them. Never destroyed: a program may set them while it destroys its statics.
+ * The shades that the application set, the primary ones at first. No scheme draws with them, but
+ * OlvButton::setColor() promises that the process keeps them, as a copy that shares the caller's
+ * list. Never destroyed: a program may set them while it destroys its statics.
  */
 QStringList &customShades()
 {

@@ -2,6 +2,7 @@
 #include "containers/gridlayout_p.h"
 
 #include "containers/gridscrollbar_p.h"
+#include "support/childaddress_p.h"
 #include "support/pixels_p.h"
 
 #include <QCoreApplication>
@@ -26,14 +27,6 @@ constexpr int settlingTime = 300; // milliseconds
 bool isInWindow(const QWidget *parent)
 {
     return !parent || !parent->parent() || (int(parent->windowFlags()) & windowBits) != 0;
-}
-
-/** The child, unless its destructor has run, or @p property no longer holds its address. */
-template <typename Child> Child *named(const QPointer<QObject> &child, const QVariant &property)
-{
-    const bool isNamed =
-        child && property.toULongLong() == reinterpret_cast<qulonglong>(child.data());
-    return isNamed ? qobject_cast<Child *>(child.data()) : nullptr;
 }
 
 QString emptyText()
@@ -220,9 +213,8 @@ void OlvGridLayout::setMargin(int margin)
     reUi();
 }
 
-void OlvGridLayout::setSpacing(int spacing)
+void OlvGridLayout::setSpacing(int /*spacing*/)
 {
-    d->spacing = spacing;
     reUi();
 }
 
@@ -260,7 +252,8 @@ void OlvGridLayout::reUi()
 
 void OlvGridLayout::resized()
 {
-    if (auto *timer = named<QTimer>(d->resizeTimer, property(resizeTimerProperty))) {
+    QObject *object = ifAtAddress(d->resizeTimer, property(resizeTimerProperty));
+    if (auto *timer = qobject_cast<QTimer *>(object)) { // none once its destructor has run
         timer->start();
     }
 }
@@ -319,7 +312,8 @@ bool OlvGridLayout::isSubWindow() const
 
 QScrollBar *OlvGridLayout::scrollBar() const
 {
-    return named<QScrollBar>(d->scrollBar, property(scrollBarProperty));
+    QObject *object = ifAtAddress(d->scrollBar, property(scrollBarProperty));
+    return qobject_cast<QScrollBar *>(object); // null once its destructor has run
 }
 
 void OlvGridLayout::makeScrollBar()

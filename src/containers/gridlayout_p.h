@@ -5,6 +5,7 @@
 
 #include "containers/gridscrollbar_p.h"
 #include "containers/tilelist_p.h"
+#include "support/mirror_p.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -32,10 +33,10 @@ public:
     /** Where the scroll bar stands in the viewport of a grid of @p width. */
     int placeOfBar(int width) const
     {
-        return tiles.isMirrored() ? barDistance - GridScrollBar::width : width - barDistance;
+        const Mirror mirror{ tiles.isMirrored(), width };
+        return mirror.placed(width - barDistance, GridScrollBar::width);
     }
 
-    int spacing = 20;
     TileList tiles;
     QPointer<QObject> emptyLabel;
     QString emptyText; // as the grid has set it

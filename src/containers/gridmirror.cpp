@@ -2,7 +2,7 @@
 #include "containers/gridmirror_p.h"
 
 #include "containers/gridlayout_p.h"
-#include "support/pixels_p.h"
+#include "support/mirror_p.h"
 
 #include <QScrollBar>
 #include <QSet>
@@ -30,7 +30,7 @@ void GridMirror::set(OlvGridLayout *grid, bool isOn)
     // moving sends events, whose receivers may delete the grid and the widgets
     for (const QPointer<QWidget> &widget : qAsConst(moved)) {
         if (widget) {
-            widget->move(toPixels(qint64(width) - widget->width() - widget->x()), widget->y());
+            widget->move(Mirror::reflected(widget->x(), widget->width(), width), widget->y());
         }
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "containers/tilelist_p.h"
 
+#include "support/mirror_p.h"
 #include "support/pixels_p.h"
 
 #include <algorithm>
@@ -129,8 +130,9 @@ int TileList::arrange(const QPointer<QWidget> &grid) const
             continue;
         }
         flow = next(flow, widget->width(), m_margin);
-        const qint64 x = m_isMirrored ? grid->width() - widget->width() - flow.left : flow.left;
-        const bool isMoved = moveTo(widget, QPoint(toPixels(x), toPixels(flow.top)));
+        const int x = m_isMirrored ? Mirror::reflected(flow.left, widget->width(), grid->width())
+                                   : toPixels(flow.left);
+        const bool isMoved = moveTo(widget, QPoint(x, toPixels(flow.top)));
         if (isMoved && !grid) {
             return 0;
         }

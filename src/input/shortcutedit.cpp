@@ -8,6 +8,7 @@
 #include "painting/colors_p.h"
 #include "painting/flipped_p.h"
 #include "painting/shape_p.h"
+#include "support/childaddress_p.h"
 #include "support/owntooltip_p.h"
 
 #include <QKeyEvent>
@@ -105,9 +106,8 @@ OlvShortcutEdit::~OlvShortcutEdit()
 OlvShortcut *OlvShortcutEdit::shortcut()
 {
     // An application may write the properties: that can hide the shortcut, but not name another.
-    const bool isHeld = property(hasShortcutProperty).toBool()
-        && property(shortcutProperty).toULongLong() == reinterpret_cast<qulonglong>(d->held.data());
-    return isHeld ? d->held.data() : nullptr;
+    return property(hasShortcutProperty).toBool() ? ifAtAddress(d->held, property(shortcutProperty))
+                                                  : nullptr;
 }
 
 QVariant OlvShortcutEdit::getValue()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QVariant>
 
 /**
@@ -22,4 +23,12 @@ template <typename Child> Child *childAtAddress(const QObject *parent, const QVa
         }
     }
     return nullptr;
+}
+
+/** The object, unless it is gone or @p property no longer holds its address. */
+template <typename Object>
+Object *ifAtAddress(const QPointer<Object> &object, const QVariant &property)
+{
+    const bool isNamed = property.toULongLong() == reinterpret_cast<qulonglong>(object.data());
+    return isNamed ? object.data() : nullptr;
 }
