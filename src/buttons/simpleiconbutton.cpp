@@ -14,6 +14,20 @@ namespace {
 constexpr char uncheckedProperty[] = "deable";
 constexpr char checkedProperty[] = "enable";
 
+/**
+ * Shared by all buttons. Never destroyed: a program may make buttons while it destroys its statics.
+ */
+const QString &styleSheetAtFirst()
+{
+    static const auto *const sheet =
+        new QString(QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
+                                   "QPushButton:hover{color:rgb(%2)}"
+                                   "QPushButton:disabled{color:rgb(%2)}")
+                        .arg(OlvColorToString(QColor(Colors::restingGlyph)),
+                             OlvColorToString(QColor(Colors::emphasized))));
+    return *sheet;
+}
+
 } // namespace
 
 OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font, QWidget *parent)
@@ -24,11 +38,7 @@ OlvSimpleIconButton::OlvSimpleIconButton(const QString &text, const QFont &font,
     setFont(font);
     setCheckable(true);
     resize(ButtonMetrics::glyphSideLength, ButtonMetrics::glyphSideLength);
-    setStyleSheet(QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
-                                 "QPushButton:hover{color:rgb(%2)}"
-                                 "QPushButton:disabled{color:rgb(%2)}")
-                      .arg(OlvColorToString(QColor(Colors::restingGlyph)),
-                           OlvColorToString(QColor(Colors::emphasized))));
+    setStyleSheet(styleSheetAtFirst());
 }
 
 OlvSimpleIconButton::OlvSimpleIconButton(QWidget *parent)

@@ -48,17 +48,24 @@ QString withColors(const QString &sheet)
                      OlvColorToString(QColor(Colors::emphasized)));
 }
 
-QString actionStyleSheet()
+// The style sheets are shared by all bars, and never destroyed: a program may make a bar while it
+// destroys its statics.
+
+const QString &actionStyleSheet()
 {
-    return withColors(QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
-                                     "QPushButton:hover{color:rgb(%2);background-color:rgb(%1)}"));
+    static const auto *const sheet = new QString(
+        withColors(QStringLiteral("QPushButton{border:none;color:rgb(%1);}"
+                                  "QPushButton:hover{color:rgb(%2);background-color:rgb(%1)}")));
+    return *sheet;
 }
 
-QString toggleStyleSheet()
+const QString &toggleStyleSheet()
 {
-    return withColors(QStringLiteral("QPushButton{border:none;color:rgb(%1)}"
-                                     "QPushButton:hover{color:rgb(%2);background-color:rgb(%1)}"
-                                     "QPushButton:checked{color:rgb(%2)}"));
+    static const auto *const sheet = new QString(
+        withColors(QStringLiteral("QPushButton{border:none;color:rgb(%1)}"
+                                  "QPushButton:hover{color:rgb(%2);background-color:rgb(%1)}"
+                                  "QPushButton:checked{color:rgb(%2)}")));
+    return *sheet;
 }
 
 /** The state that a button stands for; null when an application wrote an index of no state. */
