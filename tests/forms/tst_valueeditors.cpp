@@ -31,6 +31,7 @@ private Q_SLOTS:
     void keepsTheTypeOfAColumn();
     void triesAgainWhatTheModelRefused();
     void showsWhatTheModelChangesAtTheSameTime();
+    void showsWhatTheModelChangesOverAValueThatWaits();
     void writesASwitchBackAfterTheModelCameToEqualIt();
     void writesNothingOverARecordThatItDoesNotShow();
     void writesWhatTheUserDoesWhereNoRecordIsShown();
@@ -163,6 +164,19 @@ void TestValueEditors::showsWhatTheModelChangesAtTheSameTime()
     });
     releaseMouse(form.toggle);
     QCOMPARE(form.slider.getValue(), QVariant(5));
+}
+
+/** As Qt's own line edit does: the newest value of the record is shown. */
+void TestValueEditors::showsWhatTheModelChangesOverAValueThatWaits()
+{
+    LateForm form;
+    form.mapper.toFirst();
+    QTest::keyClicks(form.line.lineEdit(), QStringLiteral("typed "));
+    form.slider.setSliderPosition(70);
+    form.model.setData(form.model.index(0, 0), QStringLiteral("newer"));
+    form.model.setData(form.model.index(0, 2), 55, Qt::EditRole);
+    QCOMPARE(form.line.getValue(), QVariant(QStringLiteral("newer")));
+    QCOMPARE(form.slider.getValue().toInt(), 55);
 }
 
 void TestValueEditors::writesASwitchBackAfterTheModelCameToEqualIt()
