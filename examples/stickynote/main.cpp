@@ -20,7 +20,9 @@ public:
         panel->setAttribute(Qt::WA_DeleteOnClose);
         const auto *note = new Note(panel, key);
         panel->stay(OlvFlexWidget::StayTop); // shows it
-        panel->move(note->m_settings.value(QStringLiteral("place"), place).toPoint());
+        if (note->m_hasPlace) {
+            panel->move(note->m_settings.value(QStringLiteral("place"), place).toPoint());
+        }
     }
 
 private:
@@ -54,7 +56,9 @@ private:
         connect(pin, &QPushButton::clicked, panel, [=](bool on) {
             const QPoint place = panel->pos();
             panel->stay(on ? OlvFlexWidget::StayTop : OlvFlexWidget::StayNormal);
-            panel->move(place);
+            if (m_hasPlace) {
+                panel->move(place);
+            }
         });
         connect(add, &QPushButton::clicked, panel,
                 [=] { open(QUuid::createUuid().toString(), panel->pos() + QPoint(40, 40)); });
@@ -84,7 +88,9 @@ private:
         m_settings.remove(QString()); // an empty note is not kept
         if (!m_text->toPlainText().isEmpty()) {
             m_settings.setValue(QStringLiteral("text"), m_text->toPlainText());
-            m_settings.setValue(QStringLiteral("place"), m_panel->pos());
+            if (m_hasPlace) {
+                m_settings.setValue(QStringLiteral("place"), m_panel->pos());
+            }
         }
         m_settings.sync();
     }
@@ -94,6 +100,8 @@ private:
     QSettings m_settings;
     QTimer m_settling;
     OlvPluginEventFilter m_moves;
+    /** On Wayland a program neither knows nor sets where its windows are. */
+    bool m_hasPlace = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 };
 
 int main(int argc, char **argv)
