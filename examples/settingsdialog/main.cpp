@@ -87,13 +87,9 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("OlvWidgets"));
     QApplication::setApplicationName(QStringLiteral("settingsdialog"));
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QString catalogues = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    const QString catalogues = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
     QTranslator texts; // the library's own texts in the user's language
-    if (texts.load(QLocale(), QStringLiteral("olvwidgets"), QStringLiteral("_"), catalogues)) {
+    if (texts.load(QLocale(), QStringLiteral("olvwidgets"), QStringLiteral("_"),
+                   QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&texts);
     }
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
