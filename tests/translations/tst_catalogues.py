@@ -70,9 +70,10 @@ class Catalogues(unittest.TestCase):
         catalogue = ElementTree.parse(ROOT / CATALOGUE)
         known = {source.text for source in catalogue.iter('source')} | FONTS
         found = set()
-        for folder in ('src', 'systeminfo'):
-            for path in (ROOT / folder).rglob('*.cpp'):
-                found.update(CHINESE_LITERAL.findall(path.read_text()))
+        for folder in ('include', 'src', 'systeminfo'):
+            for pattern in ('*.cpp', '*.h'):
+                for path in (ROOT / folder).rglob(pattern):
+                    found.update(CHINESE_LITERAL.findall(path.read_text()))
         self.assertTrue(found)
         self.assertLessEqual(found, known)
 
