@@ -65,12 +65,9 @@ public:
  * @image html OlvResizeItem.png
  *
  * @code
- * for (QObject *child : window->children()) {
- *     auto *handle = dynamic_cast<OlvResizeItem *>(child);
- *     if (handle && handle->type() == OlvResizeItem::Corner) {
- *         handle->setToolTip(tr("Drag to resize"));
- *     }
- * }
+ * // once the window is shown
+ * QWidget *corner = window->childAt(window->rect().bottomRight());
+ * corner->setToolTip(tr("Drag to resize"));
  * @endcode
  */
 class OLVWIDGETS_EXPORT OlvResizeItem : public QWidget
@@ -243,8 +240,8 @@ public:
     ~OlvControlBar() override;
 
     /**
-     * The window button @p state, to hide it for example, or to name it; null for what is none, and
-     * once the application has deleted it.
+     * The window button @p state, to hide it for example, or to name it; null for an invalid value,
+     * and once the application has deleted it.
      */
     QPushButton *button(WindowState state) const;
     /**

@@ -20,16 +20,12 @@ class OlvSlider;
  *
  * @image html SliderRound.png
  *
- * The slider creates it; an application reaches it only to look at where it stands. At rest it is
- * 20 by 20 pixels, 5 pixels in from its logical position; while any mouse button is held it is 30
- * by 30 about the same centre. Its logical x runs from 0 to maxX().
+ * The slider creates it, and an application moves it through the slider. At rest it is 20 by 20
+ * pixels, 5 pixels in from its logical position; while any mouse button is held it is 30 by 30
+ * about the same centre. Its logical x runs from 0 to maxX().
  *
  * @code
- * for (QObject *child : slider->children()) {
- *     if (auto *knob = dynamic_cast<SliderRound *>(child)) {
- *         bubble->move(slider->pos() + QPoint(knob->x(), -bubble->height())); // above the knob
- *     }
- * }
+ * slider->setSliderPosition(40); // the knob moves there
  * @endcode
  */
 class OLVWIDGETS_EXPORT SliderRound : public QWidget
@@ -90,8 +86,10 @@ private:
  * (qulonglong), holds the address of the knob and is the library's own.
  *
  * Dragging changes the value silently, through setValue(), and emits nothing: read it with
- * getValue() when it is wanted, or override setValue() to follow the drag. setValue() in turn
- * stores the value and leaves the knob where it is; setSliderPosition() moves the knob as well.
+ * getValue() when it is wanted, or map the slider to a model by an OlvValueDelegate, which stores
+ * the value when a drag ends. A subclass follows the drag itself by overriding setValue().
+ * setValue() in turn stores the value and leaves the knob where it is; setSliderPosition() moves
+ * the knob as well.
  *
  * @code
  * auto *volume = new OlvSlider(this);
@@ -148,14 +146,12 @@ protected:
  *
  * @image html SwitchRound.png
  *
- * The switch creates and moves it; an application reaches it only to look at where it stands.
+ * The switch creates and moves it, and an application sets its place and its colour through the
+ * switch.
  *
  * @code
- * for (QObject *child : wifi->children()) {
- *     if (auto *knob = dynamic_cast<SwitchRound *>(child)) {
- *         mark->move(wifi->pos() + knob->geometry().center()); // in the middle of the knob
- *     }
- * }
+ * wifi->setChecked(true); // the knob stands at the end
+ * wifi->setColorRound(QColor(255, 193, 7));
  * @endcode
  */
 class OLVWIDGETS_EXPORT SwitchRound : public QWidget
@@ -221,7 +217,8 @@ private:
  *
  * Accessibility: a check box, called by its accessible name, else by a label whose buddy it is. The
  * actions "Toggle" and "Press" both do what a click does, and nothing until the animation under way
- * has ended; it is told to be checked or not once it stands so. The keyboard does not switch it.
+ * has ended; the new checked state is reported when the animation has ended. The keyboard does not
+ * switch it.
  *
  * @code
  * auto *wifi = new OlvSwitch(this);
