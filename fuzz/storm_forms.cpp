@@ -114,7 +114,7 @@ public:
                  "hovered", "type",     "switch", "progress", "isCheckable" };
     }
 
-    /** Layouts, queued shows and the end of an editor are Qt's, which stands no deletion there. */
+    /** Layouts, queued shows, the end of an editor: Qt's own code crashes on a deletion there. */
     bool isQtAtWork() const override
     {
         return Storm::isDelivering({ QEvent::ChildPolished, QEvent::DeferredDelete,

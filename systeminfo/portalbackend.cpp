@@ -244,7 +244,7 @@ void PortalBackend::activate(PortalSession *session, const QString &id)
     }
 }
 
-/** What was bound or pending in a session, or in all of them for null, is so no longer. */
+/** Drops the bound and pending shortcuts of @p ended; null: of all sessions. */
 void PortalBackend::lose(PortalSession *ended, const QString &reason)
 {
     Emissions emissions;

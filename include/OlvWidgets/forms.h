@@ -14,7 +14,7 @@ class QWidget;
 
 /**
  * @file forms.h
- * Forms: the library's widgets at home in them, and bound to data.
+ * Support for the library's widgets in forms and item views.
  */
 
 /**
@@ -164,7 +164,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  *
  * A record is shown at once: a switch does not slide (OlvSwitch::setChecked()), and the knob of a
  * slider stands at the percentage (OlvSlider::setSliderPosition()). A shortcut editor shows the
- * shortcut whose text is stored, where that can be had.
+ * shortcut whose text is stored, where that can be registered.
  *
  * What the user has done is submitted under QDataWidgetMapper::AutoSubmit as it happens: a switch
  * when its slide begins, with the state that it slides to, so that nothing is lost when the next
@@ -188,7 +188,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(OlvFormSupport::Features)
  * | OlvSwitch       | a bool, a number, "true", "false"        | off                              |
  * | OlvSlider       | a number, rounded, bounded to 0 to 100   | 0                                |
  * | OlvLineEdit     | what converts to a string                | an empty text                    |
- * | OlvShortcutEdit | the text of a shortcut that can be had   | no shortcut                      |
+ * | OlvShortcutEdit | the text of a registrable shortcut       | no shortcut                      |
  * | OlvButton       | a bool, as QVariant::toBool() has it     | false, or what toBool() says     |
  * | OlvIconButton   | any value; a click makes it a bool       | themselves                       |
  * | others          | what their setValue() takes              | setValue() of an invalid value   |

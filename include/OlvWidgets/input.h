@@ -132,10 +132,10 @@ private:
  * While it has the focus it notes the modifiers that are held and the last other key that was
  * pressed, Escape and Backspace included; releasing a key that is no modifier makes an OlvShortcut
  * of what was noted, and setShortcut() takes it. Modifiers alone make none. The shortcut is shown
- * as text; a combination that cannot be had leaves the one before in place, without a signal. Where
- * the desktop answers later (OlvShortcut::Pending), the one before stays until it does. The tool
- * tip is "请直接在键盘上输入新的快捷键" (press the new shortcut on the keyboard) at first, or
- * what a QTranslator makes of it, and follows another language.
+ * as text; a combination that cannot be registered leaves the one before in place, without a
+ * signal. Where the desktop answers later (OlvShortcut::Pending), the one before stays until it
+ * does. The tool tip is "请直接在键盘上输入新的快捷键" (press the new shortcut on the keyboard) at
+ * first, or what a QTranslator makes of it, and follows another language.
  *
  * The value is read as a string, the text of the shortcut or "nullptr" where there is none, but set
  * as an address: see setValue(). Three dynamic properties are the library's own: "HasOlvShortcut"

@@ -28,7 +28,7 @@ public:
     void give(const QPointer<QWidget> &widget);
     /** Takes that back. */
     void take(const QPointer<QWidget> &widget);
-    /** Restores the order of the tabs among those that it has been taken from. */
+    /** Restores the tab order of members that lost the keyboard feature. */
     void restoreTabOrder();
 
     /** Does what @p event asks for that came to a member; returns whether it is done with. */

@@ -34,7 +34,7 @@ int cornerRadius(const QWidget *widget, FormKind kind)
     }
 }
 
-/** Whether the focus only goes to come back: to another window, or to a menu. */
+/** Whether the focus is lost only temporarily: to another window, or to a menu. */
 bool isForAWhile(Qt::FocusReason reason)
 {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason

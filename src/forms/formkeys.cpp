@@ -284,10 +284,10 @@ void FormKeys::cancelPress()
     const QPointer<QWidget> pressed(std::exchange(m_pressed, nullptr));
     const bool hasComeIn = m_hasComeIn; // a receiver of the events may delete this
     if (qobject_cast<OlvSwitch *>(pressed)) {
-        return; // shows nothing of the press
+        return; // has no pressed look
     }
     if (pressed && !pressed->isEnabled()) {
-        // no event of the mouse gets there
+        // mouse events do not reach a disabled widget
         pressed->setProperty(ButtonsProperties::state, ButtonState::resting());
         if (pressed && hasComeIn) {
             pressed->setProperty(ButtonsProperties::hovered, false);

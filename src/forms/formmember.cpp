@@ -17,7 +17,7 @@ template <class Widget> bool isOne(const QWidget *widget)
     return qobject_cast<const Widget *>(widget);
 }
 
-/** What the widgets of a kind are, at the least. */
+/** Maps classes to kinds. */
 struct KindOfClass
 {
     FormKind kind;

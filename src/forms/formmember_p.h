@@ -32,7 +32,7 @@ enum class FormKind : quint8 {
 /** What @p widget is to a form. */
 FormKind formKindOf(const QWidget *widget);
 
-/** The text in a line edit, whose events are a support's business, too; null for other widgets. */
+/** The text in a line edit, whose events the support filters as well; null for other widgets. */
 QLineEdit *textOf(const QWidget *widget, FormKind kind);
 /** The password button of a line edit; null when the application has deleted it. */
 OlvSimpleIconButton *passwordButton(const OlvLineEdit *edit);

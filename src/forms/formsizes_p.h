@@ -16,11 +16,14 @@ QWidgetList laidOutIn(const QWidget *container);
 
 /**
  * Gives a member, which is laid out, its natural size as its minimum size, and a size policy, as
- * far as the application has set neither; gives it again when it has changed. Afterwards the
- * member may have been deleted.
+ * far as the application has set neither; gives it again when it has changed. The member may have
+ * been deleted afterwards.
  */
 void give(FormMember &member);
-/** Takes back what was given, unless the application has changed it. The same holds. */
+/**
+ * Takes back what was given, unless the application has changed it. The member may have been
+ * deleted afterwards.
+ */
 void take(FormMember &member);
 /** Whether @p event, which came to a member, may have changed its natural size. */
 bool mayChange(const QEvent *event);

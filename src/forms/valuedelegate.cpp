@@ -94,7 +94,7 @@ public:
         QVariant shown; ///< the value as it was when the record was shown or stored last
         QPersistentModelIndex record;
         bool isServed = false;  ///< what the user does in it is submitted
-        bool isChanged = false; ///< since its record was shown or stored, or since it is known
+        bool isChanged = false; ///< the user changed it since the record was last shown or stored
         bool isLoading = false;
         bool isDragged = false;
     };
@@ -114,7 +114,7 @@ public:
     bool handleAsQt(OlvWidget *editor, QEvent *event);
 
     QHash<QObject *, Editor> editors;
-    bool isStoring = false; ///< a value is being written, and the model tells of that
+    bool isStoring = false; ///< setData() is running; ignore the dataChanged() it causes
 
 private:
     OlvValueDelegate *q;
@@ -331,7 +331,7 @@ bool OlvValueDelegate::eventFilter(QObject *watched, QEvent *event)
             Private::Editor &known = d->know(unserved);
             known.isChanged = known.isChanged || isChange;
         }
-        // what has gone must not get the event any more
+        // the receiver was deleted; consume the event
         return QStyledItemDelegate::eventFilter(watched, event) || !receiver;
     }
     const bool isKnob = watched != editor && dynamic_cast<SliderRound *>(watched);

@@ -7,7 +7,7 @@
 #include <QPointer>
 
 namespace {
-/** The handle is at the bottom right: the name is the one that the property has always had. */
+/** A historical name; the handle is at the bottom right. */
 constexpr char cornerProperty[] = "LeftBottom";
 } // namespace
 

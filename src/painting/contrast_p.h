@@ -20,7 +20,7 @@ double ratio(const QColor &one, const QColor &other);
 QColor seen(const QColor &color, const QColor &ground);
 /**
  * @p color, mixed with as little black or white as gives it a contrast of @p least on @p ground;
- * black or white itself, whichever contrasts more, where no mixture does.
+ * if no mixture reaches @p least: black or white, the one with more contrast.
  */
 QColor atLeast(double least, const QColor &color, const QColor &ground);
 

@@ -7,7 +7,8 @@
 #include <functional>
 #include <utility>
 
-/** Does something, once, when an event of a type comes to an object, before that hears of it. */
+/** Does something, once, when an event of a type comes to an object, before the object receives it.
+ */
 class OnEvent : public QObject
 {
 public:
