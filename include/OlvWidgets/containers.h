@@ -126,7 +126,10 @@ public:
 
     /** Sets the margin around and the gap between the widgets (15 pixels at first) and reflows. */
     void setMargin(int margin);
-    /** Reflows. The number is ignored: the margin is the gap between the widgets as well. */
+    /**
+     * Stores a spacing (20 pixels at first) and reflows. The arrangement does not read it: the
+     * margin is the gap between the widgets as well.
+     */
     void setSpacing(int spacing);
 
     /** Puts every widget into its place, and adjusts the scroll bar or the window. */

@@ -213,8 +213,9 @@ void OlvGridLayout::setMargin(int margin)
     reUi();
 }
 
-void OlvGridLayout::setSpacing(int /*spacing*/)
+void OlvGridLayout::setSpacing(int spacing)
 {
+    d->spacing = spacing;
     reUi();
 }
 

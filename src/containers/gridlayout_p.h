@@ -37,6 +37,7 @@ public:
         return mirror.placed(width - barDistance, GridScrollBar::width);
     }
 
+    int spacing = 20; // kept for the application; the margin is the gap as well
     TileList tiles;
     QPointer<QObject> emptyLabel;
     QString emptyText; // as the grid has set it
