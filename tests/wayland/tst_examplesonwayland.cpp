@@ -6,6 +6,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QVector>
+
+#include <algorithm>
+#include <cstring>
 
 #include <sys/syscall.h>
 
@@ -71,16 +75,80 @@ private:
     {
         return m_program.state() == QProcess::NotRunning;
     }
+    /** Opens a file of /proc that tells of the program. */
+    bool open(QFile &file, const char *name) const
+    {
+        file.setFileName(
+            QStringLiteral("/proc/%1/%2").arg(m_program.processId()).arg(QLatin1String(name)));
+        return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    /** The libraries whose code the words on the program's stack point to, innermost first. */
+    QByteArrayList librariesOnStack(quint64 stackPointer) const
+    {
+        struct Code
+        {
+            quint64 begin;
+            quint64 end;
+            QByteArray file;
+        };
+        QFile maps;
+        QFile memory;
+        if (!open(maps, "maps") || !open(memory, "mem") || !memory.seek(qint64(stackPointer))) {
+            return {};
+        }
+        QVector<Code> codes;
+        const QByteArrayList lines = maps.readAll().split('\n');
+        for (const QByteArray &line : lines) {
+            // begin-end rights offset device inode file
+            const QByteArrayList parts = line.simplified().split(' ');
+            if (parts.size() == 6 && parts.at(1).contains('x')) {
+                const QByteArrayList ends = parts.first().split('-');
+                codes.append({ ends.first().toULongLong(nullptr, 16),
+                               ends.last().toULongLong(nullptr, 16),
+                               parts.last().mid(parts.last().lastIndexOf('/') + 1) });
+            }
+        }
+        QByteArrayList libraries;
+        constexpr int depth = 4096; // bytes
+        const QByteArray stack = memory.read(depth);
+        for (int at = 0; at + int(sizeof(quint64)) <= stack.size(); at += int(sizeof(quint64))) {
+            quint64 word = 0;
+            std::memcpy(&word, stack.constData() + at, sizeof(word));
+            const auto code = std::find_if(codes.cbegin(), codes.cend(), [=](const Code &each) {
+                return word >= each.begin && word < each.end;
+            });
+            if (code != codes.cend()) {
+                libraries.append(code->file);
+            }
+        }
+        return libraries;
+    }
     /**
-     * Whether the program waits for a thread, not for events. The application object waits for
-     * Qt's threads of Wayland in its destructor, which now and then wait for one another for ever
-     * in Qt 5.15.8: they do so in programs without this library, too.
+     * Whether Qt's plugin for Wayland waits for a thread. The destructor of the application object
+     * waits for the threads of the plugin, which now and then deadlock in Qt 5.15.8: they do so in
+     * programs without this library, too. Other deadlocks have other callers than the plugin.
      */
     bool hangsInQt() const
     {
-        QFile call(QStringLiteral("/proc/%1/syscall").arg(m_program.processId()));
-        return call.open(QIODevice::ReadOnly)
-            && call.readAll().startsWith(QByteArray::number(SYS_futex) + ' ');
+        QFile file;
+        if (!open(file, "syscall")) {
+            return false;
+        }
+        // the number, six arguments, the stack pointer and the program counter
+        const QByteArrayList call = file.readAll().simplified().split(' ');
+        if (call.size() != 9 || call.first().toInt() != SYS_futex) {
+            return false;
+        }
+        const auto isPlugin = [](const QByteArray &library) {
+            return library.startsWith("libQt5WaylandClient.");
+        };
+        const QByteArrayList libraries = librariesOnStack(call.at(7).toULongLong(nullptr, 16));
+        for (const QByteArray &library : libraries) {
+            if (isPlugin(library) || library.startsWith("libOlv")) {
+                return isPlugin(library);
+            }
+        }
+        return false;
     }
     /** Drags until a colour begins at a place, and is so wide; the pointer may hang out below. */
     void dragTo(QPoint from, QPoint to, QColor color, const QRect &expected)
