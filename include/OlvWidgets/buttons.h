@@ -47,7 +47,7 @@
  * Accessibility: a button, or a check box while it is checkable, called by its accessible name,
  * else by its caption, else (a glyph of an icon font says nothing) by its tool tip. The actions
  * "Press" and, while it is checkable, "Toggle" are both a click of the mouse. The keyboard does not
- * press it.
+ * press it without a form support (OlvFormSupport::Keyboard).
  *
  * @code
  * auto *save = new OlvButton(tr("Save"), this);
@@ -163,7 +163,7 @@ private:
  * Accessibility: a button, or a check box while it is checkable, called by its accessible name,
  * else by its caption, else by its tool tip. The actions "Press" and, while it is checkable,
  * "Toggle" are both a click of the mouse, which counts like any other; "doubleClick" is two of them
- * at once. The keyboard does not press it.
+ * at once. The keyboard does not press it without a form support (OlvFormSupport::Keyboard).
  *
  * @code
  * auto *mail = new OlvIconButton(QChar(0xf0e0), tr("Mail"), "FontAwesome", this, 80, 80);

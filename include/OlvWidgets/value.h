@@ -44,7 +44,11 @@ public:
 
     /** The largest logical x of a drag, in the slider's coordinates: its width less 30 pixels. */
     int maxX() const;
-    /** Sets the largest logical x; the knob stays where it is until the next drag. */
+    /**
+     * Sets the largest logical x. The knob stays where it is until the next drag, but for two: one
+     * that OlvSlider::setSliderPosition() has moved, while no drag is under way, and one that is
+     * mirrored (OlvFormSupport::Mirroring). Those move to the percentage that they stand for.
+     */
     void setMaxX(int maxX);
     /**
      * Drags the knob to @p progress percent, within 0 to 100, as assistive programs do it: moves it
@@ -100,15 +104,17 @@ private:
  *
  * A drag to the far left gives exactly 0, to the far right exactly 100; between them the percentage
  * is cut off towards 0. After a resize the knob keeps its place until the next drag brings it
- * within the track. A slider exactly 30 pixels wide has room for 0 alone: it gives 0 until the
- * pointer pulls to the right, then 100. In a narrower one the end of the track lies left of its
- * start: a drag jumps to that end and gives 100, but for one still further to the left, which gives
- * 0.
+ * within the track, unless setSliderPosition() has been called or the slider is mirrored
+ * (OlvFormSupport::Mirroring): then it moves to the percentage that it was brought to last. A
+ * slider exactly 30 pixels wide has room for 0 alone: it gives 0 until the pointer pulls to the
+ * right, then 100. In a narrower one the end of the track lies left of its start: a drag jumps to
+ * that end and gives 100, but for one still further to the left, which gives 0.
  *
  * Accessibility: a slider, called by its accessible name, else by a label whose buddy it is, with a
  * value from 0 to 100 in steps of 1. Setting that value is a drag to it: the knob moves to where a
  * drag would give the same percentage, or to the next pixel on a track with fewer pixels than
- * percentages, and setValue() is called once. The keyboard does not move it.
+ * percentages, and setValue() is called once. The keyboard does not move it without a form
+ * support (OlvFormSupport::Keyboard).
  */
 class OLVWIDGETS_EXPORT OlvSlider : public OlvWidget
 {
@@ -137,7 +143,7 @@ public:
 protected:
     /** Draws the track: one bar in one colour, whatever the value. */
     void paintEvent(QPaintEvent *event) override;
-    /** Sets how far the knob may go; neither moves it nor changes the value. */
+    /** Sets how far the knob may go, by SliderRound::setMaxX(); does not change the value. */
     void resizeEvent(QResizeEvent *event) override;
 };
 
@@ -211,14 +217,16 @@ private:
  * | "closeColor" | string    | "19,206,102"   | colour string of the track while it is on         |
  * | "round"      | qulonglong |               | the address of the knob; the library's own        |
  *
- * The knob keeps its place when the switch is resized, until the next animation. Mouse releases,
- * resizes and timer events are handled by listeners that consume them: a subclass does not get its
- * mouseReleaseEvent(), resizeEvent() and timerEvent().
+ * The knob keeps its place when the switch is resized, until the next animation, unless
+ * setChecked() has been called or the switch is mirrored (OlvFormSupport::Mirroring): then it stays
+ * at its end. While a mirrored knob slides, it moves to where it would be by then in a switch of
+ * the new width. Mouse releases, resizes and timer events are handled by listeners that consume
+ * them: a subclass does not get its mouseReleaseEvent(), resizeEvent() and timerEvent().
  *
  * Accessibility: a check box, called by its accessible name, else by a label whose buddy it is. The
  * actions "Toggle" and "Press" both do what a click does, and nothing until the animation under way
  * has ended; the new checked state is reported when the animation has ended. The keyboard does not
- * switch it.
+ * switch it without a form support (OlvFormSupport::Keyboard).
  *
  * @code
  * auto *wifi = new OlvSwitch(this);
