@@ -72,7 +72,7 @@ void TestDisabledLook::isTheEnabledOneFaded_data()
               return new OlvShortcutEdit(parent);
           } },
     };
-    for (const qreal ratio : { 1.0, 2.0 }) {
+    for (const qreal ratio : { 1.0, 1.5, 2.0 }) {
         for (const auto &kind : kinds) {
             QTest::addRow("%s at %g", kind.first, ratio) << kind.second << ratio;
         }
