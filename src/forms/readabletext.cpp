@@ -222,18 +222,21 @@ void takeText(FormMember &member, QLineEdit *text)
     }
 }
 
-/** The style sheets of password buttons, shared by all buttons: a text of its own is 288 bytes. */
+/**
+ * The style sheets of password buttons, shared by all buttons: a text of its own is 288 bytes.
+ * Never destroyed: a program may delete a form while it destroys its statics.
+ */
 const QString &restingSheet()
 {
-    static const QString sheet = toggleSheet(Colors::restingToggle);
-    return sheet;
+    static const auto *const sheet = new QString(toggleSheet(Colors::restingToggle));
+    return *sheet;
 }
 
 const QString &readableSheet()
 {
-    static const QString sheet =
-        toggleSheet(Contrast::atLeast(Contrast::readable, QColor(Colors::restingToggle), ground));
-    return sheet;
+    static const auto *const sheet = new QString(
+        toggleSheet(Contrast::atLeast(Contrast::readable, QColor(Colors::restingToggle), ground)));
+    return *sheet;
 }
 
 /** Changes the colour of a password button's glyph, unless the application has restyled it. */
