@@ -170,8 +170,9 @@ public:
  *
  * @code
  * // six glyphs of the window buttons, the one of "restore", one for each tip
- * const QList<QChar> icons{ u'\uf2d2', u'\uf103', u'\uf102', u'\uf068', u'\uf065', u'\uf00d',
- * u'\uf066', u'\uf013' }; auto *bar = new OlvControlBar(icons, window, { tr("Settings") });
+ * const QList<QChar> icons{ u'\uf2d2', u'\uf103', u'\uf102', u'\uf068',
+ *                           u'\uf065', u'\uf00d', u'\uf066', u'\uf013' };
+ * auto *bar = new OlvControlBar(icons, window, { tr("Settings") });
  * connect(bar, &OlvControlBar::changed, window, [=](OlvControlBar::WindowState state, bool on) {
  *     if (state == OlvControlBar::Max) {
  *         on ? window->showMaximized() : window->showNormal();

@@ -146,7 +146,9 @@ OlvControlBar::~OlvControlBar() = default;
 
 QPushButton *OlvControlBar::button(WindowState state) const
 {
-    return d->at(d->customCount() + state);
+    const int index = state; // an application may have cast any number
+    const bool isState = index >= 0 && index < int(windowButtons.size());
+    return isState ? d->at(d->customCount() + index) : nullptr;
 }
 
 QPushButton *OlvControlBar::customButton(int index) const

@@ -7,6 +7,8 @@
 #include <QSpacerItem>
 #include <QTest>
 
+#include <limits>
+
 namespace {
 
 QList<QChar> icons(int count)
@@ -343,7 +345,9 @@ void TestControlBar::namesItsButtons()
                               OlvControlBar::Min, OlvControlBar::Max, OlvControlBar::Close }) {
         QCOMPARE(same.button(state), bar.windowButton(state));
     }
-    QVERIFY(!same.button(OlvControlBar::WindowState(6)));
+    for (const int invalid : { -1, 6, std::numeric_limits<int>::max() }) {
+        QVERIFY(!same.button(OlvControlBar::WindowState(invalid)));
+    }
 
     QPointer<QPushButton> whileItGoes(same.button(OlvControlBar::Min));
     connect(bar.windowButton(OlvControlBar::Min), &QObject::destroyed, this,
