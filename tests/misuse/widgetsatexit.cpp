@@ -150,6 +150,29 @@ int leaveToAStaticApplication(int argc, char **argv)
     return 0;
 }
 
+/** The button of a form's line edit that shows the password. */
+const OlvSimpleIconButton *passwordButton(const QWidget &form)
+{
+    return form.findChild<OlvLineEdit *>()->findChild<OlvSimpleIconButton *>();
+}
+
+int leaveASupportedForm(int argc, char **argv)
+{
+    static const QApplication application(argc, argv);
+    static QWidget form;
+    static QString sheet;
+    static const AtEnd end{ [] {
+        if (passwordButton(form)->styleSheet() != sheet) { // which the support has restored
+            std::_Exit(EXIT_FAILURE);
+        }
+    } };
+    static std::unique_ptr<OlvFormSupport> support;
+    fill(&form);
+    sheet = passwordButton(form)->styleSheet();
+    support = std::make_unique<OlvFormSupport>(&form);
+    return passwordButton(form)->styleSheet() == sheet ? EXIT_FAILURE : 0;
+}
+
 int leaveThemUndestroyed(int argc, char **argv)
 {
     static const QApplication application(argc, argv);
@@ -254,6 +277,7 @@ constexpr Case cases[] = {
     { "leaveToStaticPointers", leaveToStaticPointers },
     { "leaveToAStaticParent", leaveToAStaticParent },
     { "leaveToAStaticApplication", leaveToAStaticApplication },
+    { "leaveASupportedForm", leaveASupportedForm },
     { "leaveThemUndestroyed", leaveThemUndestroyed },
     { "exitInASlot", exitInASlot },
     { "exitInASlotOfTheirs", exitInASlotOfTheirs },
