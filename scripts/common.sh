@@ -39,6 +39,14 @@ qt6_test_packages=(
 # what scripts/packages needs besides
 common_package_packages=("${docs_packages[@]}" dpkg-dev file gzip lintian)
 
+# What scripts/python needs besides. Shiboken reads the headers with Clang 14, and takes its own from this
+# package.
+python_packages=(
+    "${display_packages[@]}"
+    libpyside2-dev libshiboken2-dev libclang-common-14-dev mypy
+    python3-pyside2.qtwidgets python3-pyside2.qttest python3-pyside2.qtsql libqt5sql5-sqlite
+)
+
 # the version of libclang-rt is the one of Debian 12's package "clang"
 fuzz_packages=(clang libclang-rt-14-dev)
 
