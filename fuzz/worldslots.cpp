@@ -144,8 +144,10 @@ void World::hear(const QAccessibleEvent &update)
 
 bool World::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_depth >= deepest || isGuarded() || m_isDying || !standsDeletion(*watched, *event)
-        || !m_dice.oneIn(24)) {
+    // Qt sends Enter to a widget whose child goes under the pointer, even while it is destroyed
+    // itself: a filter that deleted it, or what it is in, would destroy it twice
+    if (m_depth >= deepest || isGuarded() || m_isDying || isDestroying()
+        || !standsDeletion(*watched, *event) || !m_dice.oneIn(24)) {
         return QObject::eventFilter(watched, event);
     }
     ++m_depth;
