@@ -10,6 +10,9 @@
 #include <QScrollArea>
 #include <QSlider>
 #include <QTimer>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QInputDevice>
+#endif
 
 #include <cstdlib>
 #include <memory>
@@ -267,6 +270,18 @@ int useThemInOneApplicationAfterTheOther(int argc, char **argv)
     return 0;
 }
 
+/**
+ * Has Qt 6 make its list of input devices before the application. A mouse event that a program
+ * makes itself has Qt add one that is a child of the application and looks into the list when it is
+ * destroyed: programs of plain Qt with a static application crash there without this.
+ */
+void makeListOfDevices()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QInputDevice::devices();
+#endif
+}
+
 struct Case
 {
     const char *name;
@@ -294,6 +309,7 @@ constexpr Case cases[] = {
 int main(int argc, char **argv)
 {
     arePlain = argc > 2;
+    makeListOfDevices();
     for (const Case &known : cases) {
         if (argc > 1 && qstrcmp(argv[1], known.name) == 0) {
             return known.run(argc, argv);
