@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QMetaType>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -68,9 +69,30 @@ public:
     bool notify(QObject *receiver, QEvent *event) override;
 };
 
-/** A row for each thing that the listener hears of each deed. */
+/** Something that the listener hears of a deed, and deletes the widget at. */
+struct Deletion
+{
+    int subject = 0;
+    int deed = 0;
+    QString receiver;
+    int type = 0;
+    int number = 0; ///< of those of its type that are about the receiver
+    /** The type of the event or update that Qt touches the widget after; 0 if Qt's own widgets are
+     * known to stand the deletion. */
+    int followed = 0;
+    QString name; ///< without that of the subject
+};
+
+/** All of them, in the order in which they are heard. */
+QVector<Deletion> deletions(const QVector<Subject> &subjects, Listener listener);
+/** Whether the widget is deleted, and all else lives on. */
+bool survives(const QVector<Subject> &subjects, Listener listener, const Deletion &deletion);
+
+/** A row for each deletion that Qt's own widgets stand. */
 void addRows(const QVector<Subject> &subjects, Listener listener);
-/** Does what a row says; fails unless the widget is deleted, and all else lives on. */
+/** Fails unless the deletion of the row is survived. */
 void check(const QVector<Subject> &subjects, Listener listener);
 
 } // namespace DeletionTable
+
+Q_DECLARE_METATYPE(DeletionTable::Deletion)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "subjects.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 
 using namespace DeletionTable;
 
@@ -27,6 +29,18 @@ QVector<Subject> DeletionTable::plainSubjects()
             widget->show();
         }
     };
+    const auto translate = [](QWidget *widget) {
+        QEvent event(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(widget, &event);
+    };
+    const auto makeScrolled = [](QWidget *parent) {
+        auto *scrolled = new QWidget(parent);
+        new QScrollBar(scrolled);
+        return scrolled;
+    };
+    const auto scroll = [](QWidget *widget) {
+        widget->findChild<QScrollBar *>()->setValue(3);
+    };
     return {
         { QStringLiteral("QWidget"),
           [](QWidget *parent) { return new QWidget(parent); },
@@ -46,6 +60,8 @@ QVector<Subject> DeletionTable::plainSubjects()
           {
               call<QWidget>("deletion of one",
                             [](QWidget *widget) { delete widget->findChild<QLineEdit *>(); }),
+              call<QWidget>("a new one", [](QWidget *widget) { new QWidget(widget); }),
+              { QStringLiteral("another language"), translate, nullptr, true, true },
           } },
         { QStringLiteral("QLineEdit"),
           [](QWidget *parent) -> QWidget * { return new QLineEdit(parent); },
@@ -59,6 +75,16 @@ QVector<Subject> DeletionTable::plainSubjects()
                                 [](QPushButton *button) { button->setChecked(true); }),
               call<QPushButton>("setCheckable",
                                 [](QPushButton *button) { button->setCheckable(false); }),
+          } },
+        { QStringLiteral("QWidget with a QScrollBar"),
+          makeScrolled,
+          {
+              { QStringLiteral("value of the scroll bar"),
+                scroll,
+                nullptr,
+                false,
+                false,
+                { QAccessible::ValueChanged } },
           } },
     };
 }
