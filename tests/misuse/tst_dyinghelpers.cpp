@@ -176,8 +176,11 @@ void TestDyingHelpers::standWhatComesMeanwhile()
     QFETCH(int, place);
     QFETCH(bool, parentGoes);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // a click on one button of the bar unchecks another, which looks for the checked one among its
+    // siblings with findChildren(): with Qt 6.4 that crashes while their parent deletes them, with
+    // plain push buttons in a plain widget, too
     if (place > 0 && qstrcmp(kinds().at(index).name, "control bar, mouse") == 0) {
-        QSKIP("a push button of Qt 6 that is clicked looks at siblings that have gone");
+        QSKIP("Qt looks for buttons among siblings that have gone");
     }
 #endif
     QWidget window;
