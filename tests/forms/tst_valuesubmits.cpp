@@ -275,7 +275,7 @@ void TestValueSubmits::submitsADragOfTwoButtonsOnce()
 
     sendToKnob(slider, QEvent::MouseButtonRelease, 10, released, held);
     QCOMPARE(RecordDatabase::stored(0, VolumeColumn), chosen);
-    const int writings = written.size();
+    const auto writings = written.size();
     QVERIFY(writings > 0);
     for (const int x : { 30, 60, 1000 }) {
         sendToKnob(slider, QEvent::MouseMove, x, Qt::NoButton, held);
