@@ -36,8 +36,10 @@ qt6_test_packages=(
     "${qt6_designer_packages[@]}"
     qt6-wayland qt6-base-private-dev libqt6sql6-sqlite libqt6svg6-dev
 )
-# what scripts/packages needs besides
-common_package_packages=("${docs_packages[@]}" dpkg-dev file gzip lintian)
+# what makes Debian packages; debian/control says what these are built with
+package_packages=(debhelper dpkg-dev git lintian xz-utils)
+# what tries them in an empty Debian
+package_test_packages=(autopkgtest debootstrap)
 
 # What scripts/python needs besides. Shiboken reads the headers with Clang 14, and takes its own from this
 # package.
@@ -51,19 +53,17 @@ python_packages=(
 fuzz_packages=(clang libclang-rt-14-dev)
 
 # use_qt 5|6: sets what is installed and built to those of that version of Qt: `build_packages`,
-# `test_packages`, `package_packages`, and `qt_preset`, which the names of its presets begin with.
+# `test_packages`, and `qt_preset`, which the names of its presets begin with.
 use_qt() {
     case $1 in
     5)
         build_packages=("${common_build_packages[@]}" "${qt5_build_packages[@]}")
         test_packages=("${common_test_packages[@]}" "${qt5_test_packages[@]}")
-        package_packages=("${common_package_packages[@]}" "${qt5_designer_packages[@]}")
         qt_preset=
         ;;
     6)
         build_packages=("${common_build_packages[@]}" "${qt6_build_packages[@]}")
         test_packages=("${common_test_packages[@]}" "${qt6_test_packages[@]}")
-        package_packages=("${common_package_packages[@]}" "${qt6_designer_packages[@]}")
         qt_preset=qt6-
         ;;
     *) fail "--qt takes 5 or 6, not $1" ;;
@@ -98,19 +98,30 @@ install_packages() {
         fi
     done
     [ ${#missing[@]} -eq 0 ] && return
+    printf 'Installing: %s\n' "${missing[*]}"
+    run_apt install "${missing[@]}"
+}
+
+# install_build_dependencies [-PPROFILE]: what the debian/control of the current folder asks for and is
+# missing.
+install_build_dependencies() {
+    dpkg-checkbuilddeps "$@" 2>/dev/null || run_apt build-dep "$@" ./
+}
+
+# run_apt COMMAND ARGUMENT...: apt-get as root.
+run_apt() {
     local as_root=()
     if [ "$(id -u)" -ne 0 ]; then
         command -v sudo >/dev/null ||
-            fail "these Debian packages are missing, and installing them takes root or sudo:
-    apt-get install ${missing[*]}"
+            fail "Debian packages are missing, and installing them takes root or sudo:
+    apt-get $*"
         as_root=(sudo)
     fi
-    printf 'Installing: %s\n' "${missing[*]}"
     # an outdated package list names versions that the archive no longer has
-    "${as_root[@]}" apt-get update -q || fail "apt-get update failed; needed: ${missing[*]}"
+    "${as_root[@]}" apt-get update -q || fail "apt-get update failed; needed: $*"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -q -y --no-install-recommends "${missing[@]}" ||
-        fail "apt-get could not install: ${missing[*]}"
+        apt-get "$1" -q -y --no-install-recommends "${@:2}" ||
+        fail "apt-get could not $*"
 }
 
 # build_preset PRESET: configures and builds build/PRESET.
