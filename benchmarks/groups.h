@@ -10,6 +10,7 @@ void addFlowGrid();
 void addForms();
 void addGridFilter();
 void addManyButtons();
+void addSliderDrag();
 void addSwitchAndSlider();
 void addSwitchTicks();
 void addTextFitting();

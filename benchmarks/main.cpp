@@ -20,6 +20,7 @@ int main(int argc, char **argv)
         return 1;
     }
     addButtons();
+    addSliderDrag();
     addSwitchAndSlider();
     addButtonEvents();
     addSwitchTicks();

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int buttonCounts[] = { 1000, 3000, 10000 };
 constexpr int heapButtonCount = 1000;
+constexpr int sharedCaptionCount = 10;
 constexpr QSize buttonSize(120, 36);
 constexpr QSize windowSize(1280, 1024);
 
@@ -60,9 +61,11 @@ constexpr Contestant contestants[] = {
     { "/button-sheets", makeStyledButton, false },
 };
 
-/** All buttons lie side by side within the window, one above the other where it has no more room.
+/**
+ * All buttons lie side by side within the window, one above the other where it has no more room.
+ * No more than @p captionCount captions are different.
  */
-std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count)
+std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count, int captionCount)
 {
     auto window = std::make_unique<QWidget>();
     window->resize(windowSize);
@@ -73,7 +76,7 @@ std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count)
     const int rows = windowSize.height() / buttonSize.height();
     for (int i = 0; i < count; ++i) {
         const int place = i % (columns * rows);
-        QWidget *button = contestant.makeButton(i, window.get());
+        QWidget *button = contestant.makeButton(i % captionCount, window.get());
         button->setGeometry(QRect(
             QPoint(place % columns * buttonSize.width(), place / columns * buttonSize.height()),
             buttonSize));
@@ -84,9 +87,18 @@ std::unique_ptr<QWidget> makeWindow(const Contestant &contestant, int count)
 /** The heap in use while a window of @p count buttons is shown. */
 double heapOfShown(const Contestant &contestant, int count)
 {
-    const auto window = makeWindow(contestant, count);
+    const auto window = makeWindow(contestant, count, heapButtonCount);
     showAndWait(*window);
     return heapInUse();
+}
+
+void addFirstPaint(const std::string &name, const Contestant &contestant, int count,
+                   int captionCount)
+{
+    addBenchmark(
+        name + contestant.name + '/' + std::to_string(count), [=](benchmark::State &state) {
+            measureFirstPaint(state, [&] { return makeWindow(contestant, count, captionCount); });
+        });
 }
 
 void measureHeap(benchmark::State &state, const Contestant &contestant)
@@ -110,12 +122,9 @@ void addManyButtons()
 {
     for (const Contestant &contestant : contestants) {
         for (const int count : buttonCounts) {
-            addBenchmark(
-                "many-buttons" + std::string(contestant.name) + '/' + std::to_string(count),
-                [contestant, count](benchmark::State &state) {
-                    measureFirstPaint(state, [&] { return makeWindow(contestant, count); });
-                });
+            addFirstPaint("many-buttons", contestant, count, count);
         }
+        addFirstPaint("many-buttons-shared-captions", contestant, 1000, sharedCaptionCount);
         addBenchmark("button-heap" + std::string(contestant.name),
                      [contestant](benchmark::State &state) { measureHeap(state, contestant); })
             ->Iterations(1);

@@ -5,6 +5,22 @@
 
 #include <utility>
 
+namespace {
+
+constexpr QColor blue(64, 158, 255);
+
+PreparedPair preparePair(const PreparedDrawing &track, const PreparedDrawing &knob,
+                         const QRect &knobGeometry, QWidget *parent)
+{
+    PreparedPair pair;
+    pair.track = new PreparedWidget(track, parent);
+    pair.knob = new PreparedWidget(knob, pair.track);
+    pair.knob->setGeometry(knobGeometry);
+    return pair;
+}
+
+} // namespace
+
 PreparedWidget::PreparedWidget(PreparedDrawing drawing, QWidget *parent)
     : QWidget(parent)
     , m_drawing(std::move(drawing))
@@ -26,4 +42,31 @@ void PreparedWidget::paintEvent(QPaintEvent * /*event*/)
         painter.setFont(m_drawing.font);
         painter.drawText(m_drawing.captionRect, Qt::AlignCenter, m_drawing.caption);
     }
+}
+
+PreparedPair prepareSwitch(QWidget *parent)
+{
+    PreparedDrawing track;
+    track.brush = QColor(220, 223, 230);
+    track.rect = QRectF(0, 0, 50, 24);
+    track.radius = 12;
+    PreparedDrawing knob;
+    knob.brush = QColor(Qt::white);
+    knob.rect = QRectF(2, 2, 20, 20);
+    knob.radius = PreparedDrawing::ellipse;
+    return preparePair(track, knob, QRect(0, 0, 24, 24), parent);
+}
+
+PreparedPair prepareSlider(QWidget *parent)
+{
+    PreparedDrawing track;
+    track.brush = blue;
+    track.rect = QRectF(15, 10, 170, 10);
+    track.radius = 5;
+    PreparedDrawing knob;
+    knob.pen = QPen(blue, 2.0);
+    knob.brush = QColor(Qt::white);
+    knob.rect = QRectF(2, 2, 16, 16);
+    knob.radius = PreparedDrawing::ellipse;
+    return preparePair(track, knob, QRect(5, 5, 20, 20), parent);
 }

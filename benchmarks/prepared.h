@@ -40,3 +40,14 @@ protected:
 private:
     PreparedDrawing m_drawing;
 };
+
+/** A track with its knob, which is a child of it and stands at the start. */
+struct PreparedPair
+{
+    QWidget *track = nullptr;
+    QWidget *knob = nullptr;
+};
+
+/** They draw what an OlvSwitch that is off, 50 by 24 pixels, and an OlvSlider, 200 by 30, draw. */
+PreparedPair prepareSwitch(QWidget *parent);
+PreparedPair prepareSlider(QWidget *parent);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "groups.h"
+#include "prepared.h"
 #include "support.h"
 
 #include <OlvWidgets/value.h>
@@ -10,6 +11,8 @@
 #include <QTimerEvent>
 #include <QVariantAnimation>
 #include <QVector>
+
+#include <ctime>
 
 namespace {
 
@@ -85,6 +88,56 @@ private:
     bool m_on = false;
 };
 
+/** The library's two widgets, a track and the knob that moves on it, with prepared drawings. */
+class TwoWidgetSwitch : public QObject
+{
+public:
+    explicit TwoWidgetSwitch(QWidget *parent)
+        : QObject(parent)
+        , m_pair(prepareSwitch(parent))
+    { }
+
+    void setGeometry(const QRect &geometry)
+    {
+        m_pair.track->setGeometry(geometry);
+    }
+
+    void start()
+    {
+        m_timer.start(tickInterval, this);
+    }
+
+    int timerId() const
+    {
+        return m_timer.timerId();
+    }
+
+    bool isOn() const
+    {
+        return m_on;
+    }
+
+protected:
+    void timerEvent(QTimerEvent * /*event*/) override
+    {
+        const int travel = m_pair.track->width() - m_pair.knob->width();
+        const int way = travel * ++m_tick / tickCount;
+        m_pair.knob->move(m_on ? travel - way : way, 0);
+        m_pair.track->update();
+        if (m_tick == tickCount) {
+            m_timer.stop();
+            m_tick = 0;
+            m_on = !m_on;
+        }
+    }
+
+private:
+    QBasicTimer m_timer;
+    PreparedPair m_pair;
+    int m_tick = 0;
+    bool m_on = false;
+};
+
 void tick(QObject &receiver, int timerId, QWidget &window)
 {
     QTimerEvent event(timerId);
@@ -112,22 +165,22 @@ void toggleLibrary(benchmark::State &state)
     }
 }
 
-void toggleHandWritten(benchmark::State &state)
+template <typename Switch> void toggleOther(benchmark::State &state)
 {
     QWidget window;
-    auto *handWritten = new HandWrittenSwitch(&window);
-    handWritten->setGeometry(switchGeometry);
+    auto *other = new Switch(&window);
+    other->setGeometry(switchGeometry);
     showAndWait(window);
     bool on = false;
     while (state.KeepRunning()) {
         on = !on;
-        handWritten->start();
-        const int timerId = handWritten->timerId();
+        other->start();
+        const int timerId = other->timerId();
         for (int i = 0; i < tickCount; ++i) {
-            tick(*handWritten, timerId, window);
+            tick(*other, timerId, window);
         }
     }
-    if (handWritten->isOn() != on) {
+    if (other->isOn() != on) {
         state.SkipWithError("the switch did not arrive");
     }
 }
@@ -176,9 +229,9 @@ void startOne(OlvSwitch *library)
     library->setValue(!library->getValue().toBool());
 }
 
-void startOne(HandWrittenSwitch *handWritten)
+template <typename Switch> void startOne(Switch *other)
 {
-    handWritten->start();
+    other->start();
 }
 
 int timerOf(const OlvSwitch *library)
@@ -186,29 +239,45 @@ int timerOf(const OlvSwitch *library)
     return library->property("timerId").toInt();
 }
 
-int timerOf(const HandWrittenSwitch *handWritten)
+template <typename Switch> int timerOf(const Switch *other)
 {
-    return handWritten->timerId();
+    return other->timerId();
 }
 
-/** All slide side by side, and the window is painted once a tick. */
+/** One tick of all, which are painted once after it; returns its processor time in milliseconds. */
+template <typename Switch> double tickAll(const QVector<Switch *> &switches, QWidget &window)
+{
+    const std::clock_t begin = std::clock();
+    for (Switch *one : switches) {
+        QTimerEvent event(timerOf(one));
+        QCoreApplication::sendEvent(one, &event);
+    }
+    paintUpdates(window);
+    return 1000.0 * double(std::clock() - begin) / CLOCKS_PER_SEC;
+}
+
+/** All slide side by side. A tick that takes longer than the time to the next one delays it. */
 template <typename Switch> void toggleMany(benchmark::State &state)
 {
     QWidget window;
     const QVector<Switch *> switches = makeMany<Switch>(window);
     showAndWait(window);
+    double busy = 0;
+    int delayed = 0;
     while (state.KeepRunning()) {
         for (Switch *one : switches) {
             startOne(one);
         }
         for (int i = 0; i < tickCount; ++i) {
-            for (Switch *one : switches) {
-                QTimerEvent event(timerOf(one));
-                QCoreApplication::sendEvent(one, &event);
-            }
-            paintUpdates(window);
+            const double milliseconds = tickAll(switches, window);
+            busy += milliseconds;
+            delayed += milliseconds > tickInterval ? 1 : 0;
         }
     }
+    const double ticks = double(state.iterations()) * tickCount;
+    const double ticksPerSecond = 1000.0 / tickInterval;
+    state.counters["busy"] = busy / ticks * ticksPerSecond;
+    state.counters["delayed"] = delayed / ticks * ticksPerSecond;
 }
 
 } // namespace
@@ -216,8 +285,10 @@ template <typename Switch> void toggleMany(benchmark::State &state)
 void addSwitchTicks()
 {
     addBenchmark("switch-ticks/library", toggleLibrary);
-    addBenchmark("switch-ticks/handwritten", toggleHandWritten);
+    addBenchmark("switch-ticks/handwritten", toggleOther<HandWrittenSwitch>);
+    addBenchmark("switch-ticks/two-widgets", toggleOther<TwoWidgetSwitch>);
     addBenchmark("switch-ticks/animation", toggleAnimated);
     addBenchmark("many-switches/library", toggleMany<OlvSwitch>);
     addBenchmark("many-switches/handwritten", toggleMany<HandWrittenSwitch>);
+    addBenchmark("many-switches/two-widgets", toggleMany<TwoWidgetSwitch>);
 }

@@ -60,10 +60,18 @@ TARGETS = [
     Ratio("button-events-painted", "fusion", None),
     Ratio("button-events-painted", "sheet", None),
     Ratio("switch-ticks", "handwritten", 1.0),
+    Ratio("switch-ticks", "two-widgets", 1.0),
     Ratio("switch-ticks", "animation", 0.35),
-    Ratio("many-switches", "handwritten", 1.0),
-    Ratio("slider-drag", "fusion", 1.05),
-    Ratio("slider-drag", "sheet", 0.6),
+    Ratio("many-switches", "two-widgets", 1.0),
+    Ratio("many-switches", "handwritten", None),
+    Counter("many-switches", "busy", "processor milliseconds a second", 1000),
+    Counter("many-switches", "delayed", "delayed ticks a second", 0),
+    Ratio("slider-drag", "two-widgets", 1.1),
+    Ratio("slider-drag", "fusion", None),
+    Ratio("slider-drag", "sheet", None),
+    Ratio("slider-drag-painted", "two-widgets", 0.7),
+    Ratio("slider-drag-painted", "fusion", 1.05),
+    Ratio("slider-drag-painted", "sheet", 0.4),
     Ratio("filter-listener", "override", 1.3),
     Ratio("filter-none", "override", 1.1),
     Counter("filter-listener", "allocations", "heap allocations a call", 0),
@@ -81,6 +89,8 @@ TARGETS = [
     Ratio("many-buttons", "button-sheets", 0.3, 1000),
     Ratio("many-buttons", "button-sheets", 0.3, 10000),
     Slope("many-buttons", 1.1),
+    Ratio("many-buttons-shared-captions", "window-sheet", 0.4, 1000),
+    Ratio("many-buttons-shared-captions", "button-sheets", 0.25, 1000),
     Ratio("program-start", "sheet", None),
     Ratio("window-start", "sheet", 1.0),
     Ratio("window-widen", "fusion", None),
@@ -115,10 +125,9 @@ TARGETS = [
             Ratio("grid-add-list", "flow-layout", None, size, compared="moves"),
         )
     ),
-    Ratio("grid-scroll-step", "scroll-area", 1.6, 1000),
-    Ratio("grid-scroll-step", "scroll-area", 1.2, 10000),
     *(
-        Ratio("grid-scroll-step", contestant, limit, size, compared="opaque")
+        Ratio("grid-scroll-step", contestant, limit, size, compared)
+        for compared in ("library", "opaque")
         for size in (1000, 10000)
         for contestant, limit in (("scroll-area", None), ("laid-over", 1.1))
     ),
