@@ -1,21 +1,23 @@
 # SPDX-License-Identifier: MIT
-"""Uses the example as its user does."""
+"""Uses the example as its user does, and the code in the guide."""
 
 import os
+import re
 import subprocess
 import sys
 import tempfile
 import unittest
 from pathlib import Path
 
-EXAMPLES = Path(__file__).parents[1] / 'examples'
+PROJECT = Path(__file__).parents[2]
+EXAMPLES = PROJECT / 'python' / 'examples'
 sys.path.insert(0, str(EXAMPLES))
 
-from PySide2.QtCore import Qt
+from PySide2.QtCore import QPoint, Qt
 from PySide2.QtSql import QSqlDatabase, QSqlQuery
 from PySide2.QtTest import QTest
 
-from OlvWidgets import OlvButton, OlvLineEdit, OlvSlider, OlvSwitch
+from OlvWidgets import OlvButton, OlvLineEdit, OlvSlider, OlvSwitch, OlvWidget
 import settingsdialog
 from support import TestCase, click, settle
 
@@ -96,6 +98,36 @@ class Program(unittest.TestCase):
     def test_program_has_at_most_60_lines(self):
         for file in EXAMPLES.glob('*.py'):
             self.assertLessEqual(len(file.read_text().splitlines()), 60)
+
+
+class Documentation(TestCase):
+    def code(self, file):
+        return re.findall(r'^```python\n(.*?)^```', (PROJECT / file).read_text(), re.S | re.M)
+
+    def test_code_of_the_front_page(self):
+        code, = self.code('README.md')
+        names = {'dialog': settingsdialog.QDialog()}
+        exec(code, names)
+        names['save'].click()
+        self.assertEqual(names['dialog'].result(), settingsdialog.QDialog.Accepted)
+
+    def test_widget_of_the_guide(self):
+        program, widget = self.code('docs/guides/python.md')
+        compile(program, 'program', 'exec')
+        names = {'OlvWidget': OlvWidget}
+        exec(widget, names)
+        rating, values = names['Rating'](), []
+        rating.resize(100, 20)
+        rating.valueChanged.connect(values.append)
+        QTest.mouseClick(rating, Qt.LeftButton, Qt.NoModifier, QPoint(50, 10))
+        self.assertEqual((values, rating.getValue()), ([3], 3))
+
+    def test_program_of_the_guide(self):
+        program, widget = self.code('docs/guides/python.md')
+        timer = 'from PySide2.QtCore import QTimer\nQTimer.singleShot(0, save.click)\n'
+        code = program.replace('save.show()\n', 'save.show()\n' + timer)
+        self.assertIn(timer, code)
+        subprocess.run([sys.executable, '-B', '-c', code], check=True, timeout=60)
 
 
 if __name__ == '__main__':
