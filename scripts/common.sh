@@ -23,7 +23,7 @@ common_test_packages=(
     weston xwayland xdotool x11-xkb-utils x11-xserver-utils wmctrl
     libxcb-keysyms1-dev libxcb-xtest0-dev
     at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
-    dpkg-dev abigail-tools python3
+    dpkg-dev abigail-tools xz-utils python3
 )
 qt5_designer_packages=(qttools5-dev)
 # CMake's package of Designer looks for that of OpenGL, on which Debian's does not depend.
