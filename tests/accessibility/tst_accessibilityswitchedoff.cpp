@@ -82,7 +82,7 @@ QVector<Changing> changings()
 Q_DECLARE_METATYPE(SwitchOff)
 Q_DECLARE_METATYPE(Changing)
 
-/** Accessibility that is switched off by whoever hears of a change, while the library tells it. */
+/** Accessibility that the listener switches off while the library tells it of a change. */
 class TestAccessibilitySwitchedOff : public QObject
 {
     Q_OBJECT

@@ -32,7 +32,7 @@ private Q_SLOTS:
     void tellsOfClicks();
     void tellsOfPropertiesThatAreOverwritten_data();
     void tellsOfPropertiesThatAreOverwritten();
-    void survivesItsDeletionByWhoeverHearsOfAChange();
+    void survivesItsDeletionByAListenerToAChange();
 };
 
 void TestAccessibleButton::isCalledByItsCaption()
@@ -214,7 +214,7 @@ void TestAccessibleButton::tellsOfPropertiesThatAreOverwritten()
     QCOMPARE(assistant.heardOf(&button), QStringList{ told });
 }
 
-void TestAccessibleButton::survivesItsDeletionByWhoeverHearsOfAChange()
+void TestAccessibleButton::survivesItsDeletionByAListenerToAChange()
 {
     const Assistant assistant;
     static QPointer<OlvButton> button;

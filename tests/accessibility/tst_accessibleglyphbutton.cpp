@@ -58,7 +58,7 @@ private Q_SLOTS:
     void buttonsOfABarAreToggled();
     void maximiseTellsItsNewName();
     void exclusionIsTold();
-    void survivesDeletionByWhoeverHearsOfItsGlyph();
+    void survivesDeletionByAListenerToItsGlyph();
     void otherPushButtonsAreAsQtHasThem();
     void glyphsAreNoNames_data();
     void glyphsAreNoNames();
@@ -181,7 +181,7 @@ void TestAccessibleGlyphButton::exclusionIsTold()
     QVERIFY(!accessible(bar.windowButton(OlvControlBar::Top))->state().checked);
 }
 
-void TestAccessibleGlyphButton::survivesDeletionByWhoeverHearsOfItsGlyph()
+void TestAccessibleGlyphButton::survivesDeletionByAListenerToItsGlyph()
 {
     const Assistant assistant;
     static QPointer<Bar> bar;

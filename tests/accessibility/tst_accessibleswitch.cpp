@@ -30,7 +30,7 @@ private Q_SLOTS:
     void ignoresTogglesBehindAClick();
     void isToggledBesideOtherTimers();
     void disabledIsNotToggled();
-    void survivesItsDeletionByWhoeverHearsThatItHasSwitched();
+    void survivesItsDeletionByAListenerWhenItSwitches();
     void tellsWhenItHasSwitched();
     void tellsOfAnOverwrittenProperty();
 };
@@ -109,7 +109,7 @@ void TestAccessibleSwitch::disabledIsNotToggled()
     QVERIFY(isResting(widget));
 }
 
-void TestAccessibleSwitch::survivesItsDeletionByWhoeverHearsThatItHasSwitched()
+void TestAccessibleSwitch::survivesItsDeletionByAListenerWhenItSwitches()
 {
     const Assistant assistant;
     static QPointer<OlvSwitch> widget;

@@ -251,7 +251,7 @@ void TestFramelessEditor::tellsThatItCouldNotSave()
     answer(QStringLiteral("Open"), name);
     awaitWindow(name);
     write(QStringLiteral("er"));
-    // root may write to every file, but nobody can write to a folder
+    // root may write to every file, but a folder cannot be written to
     QVERIFY(QFile::remove(m_editor->path(name)) && QDir().mkdir(m_editor->path(name)));
     press(Save);
     awaitDialog();

@@ -133,7 +133,7 @@ void TestMirroring::keepsTheKnobAtItsValueWhenResized()
     Stage<OlvSlider> stage(Qt::RightToLeft);
     QWidget *knob = knobOf(*stage.widget);
     stage.widget->resize(300, 30);
-    QCOMPARE(stage.placeOf(knob), 5); // nobody has touched it
+    QCOMPARE(stage.placeOf(knob), 5); // it has not been moved
     QWindow *window = stage.windowHandle();
     QTest::mousePress(window, Qt::LeftButton, {}, knob->mapTo(&stage, QPoint(10, 10)));
     QTest::mouseMove(window, pointAt(stage.widget, 140)); // 135 of 270 pixels

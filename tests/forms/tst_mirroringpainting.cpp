@@ -179,7 +179,7 @@ void TestMirroringPainting::leavesGlyphsReadable()
 
 void TestMirroringPainting::leavesShortcutsReadable()
 {
-    /** One that can be had without a server. */
+    /** One that registers without a server. */
     class Shortcut : public OlvShortcut
     {
     public:

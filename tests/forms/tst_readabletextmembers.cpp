@@ -79,7 +79,7 @@ void TestReadableTextMembers::comesOnceATextHasItsStyle()
     QApplication::setPalette(withText(Qt::white));
     WidgetForm form;
     new OlvFormSupport(&form);
-    QCOMPARE(textColor(form.name), QColor(Qt::white)); // nobody can see it yet
+    QCOMPARE(textColor(form.name), QColor(Qt::white)); // it is not shown yet
     form.show();
     QVERIFY(isDark(textColor(form.name)));
     new OlvLineEdit(&form);

@@ -151,7 +151,7 @@ void TestValueDelegate::storesWhatTheUserDoes_data()
         { "button", StarredColumn, [](RecordForm &form) { click(*form.starred); }, { 1, 0, 1 } },
         { "shortcut edit",
           KeysColumn,
-          // no combination can be had on this platform: one that can stands for what is pressed
+          // no combination can be registered on this platform, so that a fake one stands for it
           [](RecordForm &form) {
               form.keys->setShortcut(new FakeShortcut(QStringLiteral("Ctrl+F6")));
           },

@@ -19,7 +19,7 @@ void TestUnloading::aPluginOfWidgetsMayBeUnloaded()
     QVERIFY(paint);
     QVERIFY(paint() > 2);
     QVERIFY(plugin.unload());
-    // whoever listened to it is in the library; what Qt keeps of it is looked at when the program
+    // the listener is code of the library; what Qt keeps of the connection is read when the program
     // ends
     Q_EMIT qGuiApp->fontDatabaseChanged();
     QCoreApplication::processEvents();

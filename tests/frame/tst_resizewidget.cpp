@@ -92,7 +92,7 @@ void TestResizeWidget::handlesAreShownTogetherWithTheTarget()
     QVERIFY(handles.right->isVisible() && handles.bottom->isVisible()
             && handles.corner->isVisible());
 
-    // nobody shows those of a target that is shown already
+    // nothing shows the handles of a target that is shown already
     QWidget shown;
     shown.show();
     const OlvResizeWidget after(&shown, 5);

@@ -72,7 +72,7 @@ void TestShortcutCapture::notesKeys()
     QSignalSpy changed(&edit, &OlvShortcutEdit::shortcutChanged);
     play(edit, events);
     QCOMPARE(textOf(captureOf(edit)), capture);
-    // without an X server no combination can be had
+    // without an X server no combination can be registered
     QCOMPARE(changed.count(), 0);
     QCOMPARE(edit.shortcut(), nullptr);
 }

@@ -28,7 +28,7 @@ void TestShortcutEditPainting::showsTheOldTextUntilARepaint()
     edit.setShortcut(new FakeShortcut(QStringLiteral("one")));
     edit.clear();
     QCOMPARE(watch.take(), {});
-    // the keyboard's way repaints, whether the combination can be had or not
+    // the keyboard's way repaints, whether the combination is free or not
     play(edit, QStringLiteral("+a -a"));
     QCOMPARE(watch.takeWhole(), 1);
 }

@@ -51,8 +51,8 @@ private Q_SLOTS:
     void knobKeepsItsFirstInsetUntilTheFirstResize();
     void consumesItsEvents();
     void getValueReturnsThePropertyAsItStands();
-    void survivesDeletionByWhoeverFiltersItsProperties_data();
-    void survivesDeletionByWhoeverFiltersItsProperties();
+    void survivesDeletionByAFilterOfItsProperties_data();
+    void survivesDeletionByAFilterOfItsProperties();
     void survivesHostileProperties_data();
     void survivesHostileProperties();
     void survivesTheLossOfItsKnob();
@@ -165,7 +165,7 @@ void TestSwitch::getValueReturnsThePropertyAsItStands()
     QVERIFY(!toggle.getValue().isValid());
 }
 
-void TestSwitch::survivesDeletionByWhoeverFiltersItsProperties_data()
+void TestSwitch::survivesDeletionByAFilterOfItsProperties_data()
 {
     QTest::addColumn<QByteArray>("property");
     QTest::addColumn<QVariant>("value");
@@ -174,7 +174,7 @@ void TestSwitch::survivesDeletionByWhoeverFiltersItsProperties_data()
     QTest::newRow("when it has switched") << QByteArray("switch") << QVariant(true);
 }
 
-void TestSwitch::survivesDeletionByWhoeverFiltersItsProperties()
+void TestSwitch::survivesDeletionByAFilterOfItsProperties()
 {
     QFETCH(const QByteArray, property);
     QFETCH(const QVariant, value);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A shortcut editor on a table of a database, where combinations can be had.
+// A shortcut editor on a table of a database, on a server that can grab combinations.
 #include "recordform.h"
 #include "shortcutkeys.h"
 
