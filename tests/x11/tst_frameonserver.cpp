@@ -163,7 +163,7 @@ void TestFrameOnServer::popUpOpensBesideAMovedWindow()
     drag({ 150, 110 }, { 250, 150 }, { 250, 150 }, { 0, 0 });
     QWidget popUp(m_window.get(), Qt::Popup);
     popUp.resize(120, 60);
-    popUp.move(m_window->mapToGlobal({ 200, 150 }));
+    popUp.move(m_window->mapToGlobal(QPoint(200, 150)));
     popUp.show();
     QTRY_COMPARE(m_input.geometryOf(popUp.windowHandle()->winId()), QRect(550, 400, 120, 60));
     m_input.moveTo(popUp, popUp.rect().center());
