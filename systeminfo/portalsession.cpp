@@ -29,6 +29,9 @@ PortalSession::PortalSession(const QDBusConnection &connection, const QString &t
     , m_token(token)
     , m_path(Portal::objectPath(connection, "session", token))
 {
+    // a slot that takes one cannot be connected before with Qt 6, which registers a type at its
+    // first use
+    qRegisterMetaType<QDBusObjectPath>();
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<PortalShortcuts>();
     m_connection.connect(QLatin1String(Portal::service), QLatin1String(Portal::path),
