@@ -7,15 +7,25 @@
 
 namespace {
 
+/** White space that QString::toInt() accepts around a number: with Qt 6 that of ASCII alone. */
+bool isSkipped(char16_t character)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return character <= u' ' && QChar(character).isSpace();
+#else
+    return QChar(character).isSpace();
+#endif
+}
+
 /** A part of a colour string, read as the documentation says: an integer, or 0. */
 long long partOf(const std::u16string &part)
 {
     size_t begin = 0;
     size_t end = part.size();
-    while (begin < end && QChar(part[begin]).isSpace()) {
+    while (begin < end && isSkipped(part[begin])) {
         ++begin;
     }
-    while (end > begin && QChar(part[end - 1]).isSpace()) {
+    while (end > begin && isSkipped(part[end - 1])) {
         --end;
     }
     bool isNegative = false;
