@@ -24,14 +24,25 @@
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QTimerEvent>
+#include <QVector>
 #include <QWheelEvent>
 #include <QWidget>
 
 namespace {
 
+/** The events that are being sent, the outermost first. */
+QVector<const QEvent *> &sentEvents()
+{
+    static QVector<const QEvent *> events;
+    return events;
+}
+
 bool send(QObject *receiver, QEvent &event)
 {
-    return QCoreApplication::sendEvent(receiver, &event);
+    sentEvents().append(&event);
+    const bool isHandled = QCoreApplication::sendEvent(receiver, &event);
+    sentEvents().removeLast();
+    return isHandled;
 }
 
 Qt::MouseButton button(Dice &dice)
@@ -232,6 +243,11 @@ void sendHover(Dice &dice, QWidget *receiver)
 }
 
 } // namespace
+
+bool Events::isSending(const QEvent &event)
+{
+    return sentEvents().contains(&event);
+}
 
 void Events::sendAny(Dice &dice, QWidget *receiver)
 {

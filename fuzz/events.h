@@ -2,12 +2,15 @@
 #pragma once
 
 class Dice;
+class QEvent;
 class QObject;
 class QWidget;
 
 /** Events of every kind, sent as Qt would send them; the receiver may be gone after each. */
 namespace Events {
 
+/** Whether an event is one of these, and not one that Qt or the library sends. */
+bool isSending(const QEvent &event);
 /** Mouse, key, wheel, focus, enter and leave, timer, input method, drag and drop, changes. */
 void sendAny(Dice &dice, QWidget *receiver);
 /** The pointer comes in, presses and releases: what widgets take for a click. */

@@ -127,9 +127,6 @@ void World::adopt(QWidget *widget)
 
 void World::forget(QObject *dying)
 {
-    if (dying->isWidgetType()) {
-        m_dying.append(static_cast<QWidget *>(dying));
-    }
     // a QPointer is cleared only at the end of the destructor, and the children are about to follow
     const auto isDoomed = [dying](const QObject *object) {
         while (object && object != dying) {
@@ -150,12 +147,6 @@ void World::forget(QObject *dying)
     if (isDoomed(m_target)) {
         m_target = nullptr;
     }
-}
-
-bool World::isDestroying()
-{
-    prune(m_dying);
-    return !m_dying.isEmpty();
 }
 
 bool World::isGuarded() const

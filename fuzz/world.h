@@ -101,8 +101,6 @@ private:
     void act(QWidget *widget);
     void actRarely(QWidget *widget);
     void forget(QObject *dying);
-    /** Whether the destructor of a widget is running. */
-    bool isDestroying();
     void destroy(QObject *object);
     QWidget *target();
     QWidget *within(QWidget *widget);
@@ -132,12 +130,11 @@ private:
     QVector<QPointer<QWidget>> m_widgets;
     QVector<qulonglong> m_addresses;
     QVector<QPointer<QTimer>> m_timers;
-    QVector<QPointer<QWidget>> m_dying;
     QPointer<QWidget> m_target;
     int m_depth = 0;
     int m_guards = 0;
     int m_strikes = 0;
-    bool m_isDying = false; // a slot of destroyed() is running further up the stack
+    bool m_isDying = false; // a destructor is running further up the stack
     bool m_isShowingTip = false;
     bool m_isMaking = false; // the constructor of a widget may be at work
     StormAssistant m_assistant;

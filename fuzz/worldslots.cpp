@@ -31,9 +31,11 @@ bool standsDeletion(const QObject &object, const QEvent &event)
     }
     case QEvent::Enter:
     case QEvent::Leave:
+    case QEvent::MouseMove:
+        // Qt sends its own while it hides or destroys the widget, or one within it
+        return Events::isSending(event);
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
     case QEvent::Wheel:
@@ -144,10 +146,8 @@ void World::hear(const QAccessibleEvent &update)
 
 bool World::eventFilter(QObject *watched, QEvent *event)
 {
-    // Qt sends Enter to a widget whose child goes under the pointer, even while it is destroyed
-    // itself: a filter that deleted it, or what it is in, would destroy it twice
-    if (m_depth >= deepest || isGuarded() || m_isDying || isDestroying()
-        || !standsDeletion(*watched, *event) || !m_dice.oneIn(24)) {
+    if (m_depth >= deepest || isGuarded() || m_isDying || !standsDeletion(*watched, *event)
+        || !m_dice.oneIn(24)) {
         return QObject::eventFilter(watched, event);
     }
     ++m_depth;
