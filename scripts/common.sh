@@ -38,8 +38,8 @@ qt6_test_packages=(
 )
 # what makes Debian packages; debian/control says what these are built with
 package_packages=(debhelper dpkg-dev git lintian xz-utils)
-# what tries them in an empty Debian
-package_test_packages=(autopkgtest debootstrap)
+# what tries them in an empty Debian, and checks what distributors look at
+package_test_packages=(autopkgtest debootstrap reuse)
 
 # What scripts/python needs besides. Shiboken reads the headers with Clang 14, and takes its own from this
 # package.
