@@ -1,0 +1,7 @@
+# SPDX-License-Identifier: MIT
+class ConanException(Exception):
+    pass
+
+
+class ConanInvalidConfiguration(ConanException):
+    pass
