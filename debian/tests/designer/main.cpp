@@ -18,8 +18,8 @@ int main(int argc, char **argv)
     form.open(QIODevice::ReadOnly);
 
     const std::unique_ptr<QWidget> wifi(QUiLoader().load(&form));
-    const QString kind = wifi ? QString::fromLatin1(wifi->metaObject()->className())
-                              : QStringLiteral("nothing");
+    const QString kind =
+        wifi ? QString::fromLatin1(wifi->metaObject()->className()) : QStringLiteral("nothing");
     QTextStream(stdout) << "loaded: " << kind << '\n';
     return kind == QLatin1String("OlvSwitch") ? 0 : 1;
 }
