@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "shortcutkeys.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QSignalSpy>
 #include <QThread>
 
 #include <atomic>
+#include <functional>
 #include <memory>
+#include <mutex>
+#include <queue>
 #include <thread>
 #include <vector>
 
@@ -30,6 +35,51 @@ private:
 
 namespace {
 
+/**
+ * Functions that are run in the thread that it was moved to. They are handed over under a lock of
+ * its own, because the thread sanitizer cannot see the one of Qt's events.
+ */
+class Functions : public QObject
+{
+public:
+    Functions() = default;
+    ~Functions() override
+    {
+        // the end of a QThread is as invisible
+        const std::lock_guard<std::mutex> lock(m_mutex);
+    }
+    Q_DISABLE_COPY(Functions)
+
+    void add(std::function<void()> function)
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_waiting.push(std::move(function));
+        }
+        QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    }
+
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::User) {
+            next()();
+        }
+        return QObject::event(event);
+    }
+
+private:
+    std::function<void()> next()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        std::function<void()> function = std::move(m_waiting.front());
+        m_waiting.pop();
+        return function;
+    }
+
+    std::mutex m_mutex;
+    std::queue<std::function<void()>> m_waiting;
+};
+
 /** A thread with an event loop, which ends with this object. */
 class Worker
 {
@@ -37,7 +87,7 @@ public:
     Worker()
     {
         m_thread.start();
-        m_context.moveToThread(&m_thread);
+        m_functions.moveToThread(&m_thread);
     }
     ~Worker()
     {
@@ -51,14 +101,14 @@ public:
         return &m_thread;
     }
     /** Runs something in the thread; returns at once. */
-    template <typename Function> void run(Function function)
+    void run(std::function<void()> function)
     {
-        QMetaObject::invokeMethod(&m_context, function, Qt::QueuedConnection);
+        m_functions.add(std::move(function));
     }
 
 private:
     QThread m_thread;
-    QObject m_context;
+    Functions m_functions;
 };
 
 void makeAndDestroy(int rounds, std::atomic<int> *active)
