@@ -125,8 +125,9 @@ private:
     }
     /**
      * Whether Qt's plugin for Wayland waits for a thread. The destructor of the application object
-     * waits for the threads of the plugin, which now and then deadlock in Qt 5.15.8: they do so in
-     * programs without this library, too. Other deadlocks have other callers than the plugin.
+     * waits for the threads of the plugin, which now and then deadlock in Qt 5.15.8, in programs
+     * without this library, too, and in Qt 6.4.2. Other deadlocks have other callers than the
+     * plugin.
      */
     bool hangsInQt() const
     {
@@ -140,7 +141,7 @@ private:
             return false;
         }
         const auto isPlugin = [](const QByteArray &library) {
-            return library.startsWith("libQt5WaylandClient.");
+            return library.startsWith("libQt" QT_STRINGIFY(QT_VERSION_MAJOR) "WaylandClient.");
         };
         const QByteArrayList libraries = librariesOnStack(call.at(7).toULongLong(nullptr, 16));
         for (const QByteArray &library : libraries) {
