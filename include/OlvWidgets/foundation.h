@@ -36,8 +36,8 @@ OLVWIDGETS_EXPORT QRgb OlvColorToRgb(QColor color);
  * The opaque colour that a colour string names, as OlvColorToString() writes it.
  *
  * A part that is no decimal integer, and a part that is missing, is 0; white space around a number
- * is ignored, and so is everything after the third part. A number outside 0 to 255 gives an invalid
- * colour, with a warning of QColor's.
+ * (with Qt 6 only that of ASCII) is ignored, and so is everything after the third part. A number
+ * outside 0 to 255 gives an invalid colour, with a warning of QColor's.
  */
 OLVWIDGETS_EXPORT QColor OlvColorFromString(QString text);
 
