@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QExposeEvent>
+#include <QPaintEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -32,11 +33,20 @@ bool HeldExpose::handOver()
 
 bool HeldExpose::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Expose) {
+    const bool isExpose = event->type() == QEvent::Expose;
+    const bool isPaint = event->type() == QEvent::Paint;
+    if (watched == m_window.windowHandle() && (isExpose || isPaint)) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        // a paint event of the window follows, which has the region
+        if (isPaint) {
+            m_region += static_cast<QPaintEvent *>(event)->region();
+        }
+#else
         m_region += static_cast<QExposeEvent *>(event)->region();
+#endif
         return true;
     }
-    m_painted = m_painted || event->type() == QEvent::Paint;
+    m_painted = m_painted || isPaint;
     return QObject::eventFilter(watched, event);
 }
 

@@ -83,6 +83,15 @@ void dragLibrary(benchmark::State &state, Painting painting)
     dragKnob(state, painting, window, *slider, *slider->childAt(QPoint(15, 15)));
 }
 
+int xOf(const QMouseEvent &mouse)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return int(mouse.position().x());
+#else
+    return int(mouse.localPos().x());
+#endif
+}
+
 /** Has a knob follow the mouse, and its track know how far it is, as the library's slider does. */
 class KnobDragger : public QObject
 {
@@ -100,11 +109,11 @@ public:
         switch (event->type()) {
         case QEvent::MouseButtonPress:
             knob.setGeometry(knob.x() - 5, 0, 30, 30);
-            m_pressX = int(mouse->localPos().x());
+            m_pressX = xOf(*mouse);
             return true;
         case QEvent::MouseMove: {
             const int end = m_slider.track->width() - knob.width();
-            const int x = qBound(0, knob.x() + int(mouse->localPos().x()) - m_pressX, end);
+            const int x = qBound(0, knob.x() + xOf(*mouse) - m_pressX, end);
             knob.move(x, 0);
             m_slider.track->setProperty("progress", x * 100 / end);
             return true;
