@@ -92,10 +92,13 @@ QPalette ownOf(const QPalette &palette, const TextColors *colors)
     return own;
 }
 
-/** The colours that were given last, when they are the same: a form has many texts alike. */
+/**
+ * The colours that were given last, when they are the same: a form has many texts alike. What this
+ * file keeps in statics is never destroyed: a program may use a form while it destroys its own.
+ */
 std::shared_ptr<const TextColors> shared(const TextColors &colors)
 {
-    static std::weak_ptr<const TextColors> latest;
+    static auto &latest = *new std::weak_ptr<const TextColors>;
     std::shared_ptr<const TextColors> same = latest.lock();
     if (same && same->given == colors.given && same->own == colors.own
         && QtVersion::resolveMask(same->own) == QtVersion::resolveMask(colors.own)) {
@@ -137,7 +140,7 @@ QColor disabled(const QColor &color, double strong, bool fades)
  */
 QBrush sharedBrush(const QColor &color)
 {
-    static QCache<QRgb, QBrush> brushes(maxBrushes);
+    static auto &brushes = *new QCache<QRgb, QBrush>(maxBrushes);
     if (const QBrush *brush = brushes.object(color.rgba())) {
         return *brush;
     }
@@ -222,10 +225,7 @@ void takeText(FormMember &member, QLineEdit *text)
     }
 }
 
-/**
- * The style sheets of password buttons, shared by all buttons: a text of its own is 288 bytes.
- * Never destroyed: a program may delete a form while it destroys its statics.
- */
+/** The style sheets of password buttons, shared by all buttons: a text of its own is 288 bytes. */
 const QString &restingSheet()
 {
     static const auto *const sheet = new QString(toggleSheet(Colors::restingToggle));

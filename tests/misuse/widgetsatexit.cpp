@@ -162,15 +162,19 @@ const OlvSimpleIconButton *passwordButton(const QWidget &form)
 int leaveASupportedForm(int argc, char **argv)
 {
     static const QApplication application(argc, argv);
+    QApplication::setPalette(QPalette(Qt::white, Qt::black)); // texts are white
     static QWidget form;
     static QString sheet;
     static const AtEnd end{ [] {
-        if (passwordButton(form)->styleSheet() != sheet) { // which the support has restored
+        const bool isRestored = passwordButton(form)->styleSheet() == sheet;
+        const OlvFormSupport again(&form); // what the library has made since has ended, if it does
+        if (!isRestored || passwordButton(form)->styleSheet() == sheet) {
             std::_Exit(EXIT_FAILURE);
         }
     } };
     static std::unique_ptr<OlvFormSupport> support;
     fill(&form);
+    form.show(); // texts are given colours once their style sheets have been applied
     sheet = passwordButton(form)->styleSheet();
     support = std::make_unique<OlvFormSupport>(&form);
     return passwordButton(form)->styleSheet() == sheet ? EXIT_FAILURE : 0;
