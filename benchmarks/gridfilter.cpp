@@ -3,6 +3,8 @@
 #include "groups.h"
 #include "support.h"
 
+#include <OlvWidgets/buttons.h>
+
 #include <QCoreApplication>
 
 #include <ctime>
@@ -11,6 +13,12 @@ namespace {
 
 constexpr int tileCount = 2000;
 constexpr int hitDistance = 18; // 112 of 2,000 tiles are left
+
+QWidget *makeIconButton(QWidget *parent)
+{
+    return new OlvIconButton(QLatin1Char('M'), QStringLiteral("Mail"),
+                             QStringLiteral("FontAwesome"), parent, 80, 80);
+}
 
 bool isHit(int index)
 {
@@ -75,7 +83,7 @@ void filterLibrary(benchmark::State &state)
 {
     LibraryGrid grid;
     grid.content->setRetainSizeWhenHidden(false);
-    const Tiles tiles = makeTiles(tileCount, grid.content);
+    const Tiles tiles = makeTiles(tileCount, grid.content, makeIconButton);
     grid.add(tiles);
     showAndWait(grid.window);
     measureFiltering(state, grid.window, tiles, grid.content->width(), [&](bool all) {
@@ -87,7 +95,7 @@ void filterLibrary(benchmark::State &state)
 void filterBare(benchmark::State &state)
 {
     BareTiles bare;
-    const Tiles tiles = makeTiles(tileCount, bare.content);
+    const Tiles tiles = makeTiles(tileCount, bare.content, makeIconButton);
     const int width = bare.content->width();
     const QVector<QPoint> places = flowPositions(tiles, width, defaultGap);
     const QVector<QPoint> hitPlaces = flowPositions(hitsOf(tiles), width, defaultGap);

@@ -127,8 +127,10 @@ def row(target, value):
         form = "{:,.0f}"
     else:
         form = "{:.3f}" if isinstance(target, Ratio) and value < 1 else "{:.2f}"
-    met = ("yes" if value <= target.limit else "no") if limit else ""
-    return case, against, form.format(value), limit, met
+    shown = form.format(value)
+    # the digits that are shown decide, so that no row contradicts itself
+    met = ("yes" if float(shown.replace(",", "")) <= target.limit else "no") if limit else ""
+    return case, against, shown, limit, met
 
 
 def table(results):

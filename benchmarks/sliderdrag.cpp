@@ -105,15 +105,15 @@ public:
     bool eventFilter(QObject *object, QEvent *event) override
     {
         QWidget &knob = *m_slider.knob;
-        auto *mouse = static_cast<QMouseEvent *>(event);
         switch (event->type()) {
         case QEvent::MouseButtonPress:
             knob.setGeometry(knob.x() - 5, 0, 30, 30);
-            m_pressX = xOf(*mouse);
+            m_pressX = xOf(*static_cast<QMouseEvent *>(event));
             return true;
         case QEvent::MouseMove: {
             const int end = m_slider.track->width() - knob.width();
-            const int x = qBound(0, knob.x() + xOf(*mouse) - m_pressX, end);
+            const int x =
+                qBound(0, knob.x() + xOf(*static_cast<QMouseEvent *>(event)) - m_pressX, end);
             knob.move(x, 0);
             m_slider.track->setProperty("progress", x * 100 / end);
             return true;

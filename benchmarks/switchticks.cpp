@@ -12,6 +12,7 @@
 #include <QVariantAnimation>
 #include <QVector>
 
+#include <algorithm>
 #include <ctime>
 
 namespace {
@@ -244,6 +245,16 @@ template <typename Switch> int timerOf(const Switch *other)
     return other->timerId();
 }
 
+bool isOn(OlvSwitch *library)
+{
+    return library->isChecked();
+}
+
+template <typename Switch> bool isOn(Switch *other)
+{
+    return other->isOn();
+}
+
 /** One tick of all, which are painted once after it; returns its processor time in milliseconds. */
 template <typename Switch> double tickAll(const QVector<Switch *> &switches, QWidget &window)
 {
@@ -264,7 +275,9 @@ template <typename Switch> void toggleMany(benchmark::State &state)
     showAndWait(window);
     double busy = 0;
     int delayed = 0;
+    bool on = false;
     while (state.KeepRunning()) {
+        on = !on;
         for (Switch *one : switches) {
             startOne(one);
         }
@@ -273,6 +286,10 @@ template <typename Switch> void toggleMany(benchmark::State &state)
             busy += milliseconds;
             delayed += milliseconds > tickInterval ? 1 : 0;
         }
+    }
+    if (!std::all_of(switches.cbegin(), switches.cend(),
+                     [=](Switch *one) { return isOn(one) == on; })) {
+        state.SkipWithError("a switch did not arrive");
     }
     const double ticks = double(state.iterations()) * tickCount;
     const double ticksPerSecond = 1000.0 / tickInterval;
