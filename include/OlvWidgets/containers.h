@@ -32,8 +32,8 @@ class QScrollBar;
  *
  * An empty grid shows "空", or its translation. The widgets are made as children of the grid, sized
  * and shown by the application; the grid moves them. Only delWidget() and clear() delete one, and
- * only takeWidget() gives one back. A widget that the application deletes leaves the grid by itself,
- * and its place is taken at the next reflow.
+ * only takeWidget() gives one back. A widget that the application deletes leaves the grid by
+ * itself, and its place is taken at the next reflow.
  *
  * The grid is transparent, so that a scroll step repaints all visible tiles. Where it lies on a
  * plain background, setAutoFillBackground(true) lets Qt shift the pixels instead, which is several
