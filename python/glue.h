@@ -31,7 +31,9 @@ inline QList<QChar> olvGlyphs(PyObject *texts)
     const Py_ssize_t count = PySequence_Size(texts);
     for (Py_ssize_t i = 0; i < count && !PyErr_Occurred(); ++i) {
         Shiboken::AutoDecRef text(PySequence_GetItem(texts, i));
-        glyphs.append(olvGlyph(text));
+        if (!text.isNull()) {
+            glyphs.append(olvGlyph(text));
+        }
     }
     return glyphs;
 }

@@ -60,6 +60,13 @@ class WrongArguments(TestCase):
     def test_glyph_that_is_no_text(self):
         self.assertRaises(TypeError, OlvControlBar, ['a', 3])
 
+    def test_glyphs_that_cannot_be_read(self):
+        class Unreadable(list):
+            def __getitem__(self, index):
+                raise LookupError(index)
+
+        self.assertRaises(LookupError, OlvControlBar, Unreadable(['a', 'b']))
+
     def test_unknown_names(self):
         button = OlvButton()
         self.assertRaises(AttributeError, lambda: button.setPicture)

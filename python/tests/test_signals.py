@@ -205,6 +205,18 @@ class Callables(TestCase):
         QTest.keyClick(widget, Qt.Key_A)
         self.assertDeleted(events[0])
 
+    def test_event_that_python_passes_on_stays_valid(self):
+        class PassesOn(QWidget):
+            def keyPressEvent(self, event):
+                listener.eventFilter(self, event)
+                texts.append(event.text())
+
+        listener = OlvPluginEventFilter()
+        events, texts = [], []
+        listener.addEventListener(QEvent.KeyPress, events.append)
+        QTest.keyClick(PassesOn(), Qt.Key_A)
+        self.assertEqual((len(events), texts), (1, ['a']))
+
     def test_listener_deletes_the_filter_or_the_object(self):
         for victim in 0, 1:
             widget = QWidget()

@@ -178,11 +178,11 @@ class Overrides(TestCase):
         self.assertRaises(RuntimeError, Hollow().isChecked)
 
     def test_override_deletes_the_widget(self):
-        class Suicidal(OlvSlider):
+        class DeletesItself(OlvSlider):
             def setValue(self, value):
                 shiboken2.delete(self)
 
-        slider = Suicidal()
+        slider = DeletesItself()
         slider.setSliderPosition(40)
         self.assertDeleted(slider)
 
