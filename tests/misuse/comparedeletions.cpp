@@ -6,6 +6,8 @@
 // library's widgets that it does not match are left out.
 #include "subjects.h"
 
+#include <OlvSwitch>
+
 #include <QRegularExpression>
 #include <QSet>
 #include <QTextStream>
@@ -31,6 +33,16 @@ bool isClean(Listener listener, const Deletion &deletion)
     }
     int status = 0;
     return waitpid(child, &status, 0) == child && status == 0;
+}
+
+/** Prints a stack with functions of the library, by which a reader of valgrind's log can tell that
+ * it would know one. */
+void printOwnStack()
+{
+    OlvSwitch toggle;
+    QObject::connect(&toggle, &OlvSwitch::changed, &toggle,
+                     [] { VALGRIND_PRINTF_BACKTRACE("a stack of the library\n"); });
+    toggle.setChecked(true);
 }
 
 struct Figures
@@ -136,6 +148,7 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "run this under valgrind\n";
         return EXIT_FAILURE;
     }
+    printOwnStack();
     Comparison comparison(QCoreApplication::arguments().value(1));
     const bool filters = comparison.compare("event filters", Listener::EventFilter);
     const bool updates = comparison.compare("listeners to updates", Listener::UpdateHandler);
