@@ -9,6 +9,9 @@
 
 namespace {
 
+/** The largest side of a window, whose pixels the platform allocates. */
+constexpr int largestWindow = 1200;
+
 /** A widget in a grid that may delete others when it is moved or resized. */
 class Tile : public QWidget
 {
@@ -80,6 +83,7 @@ public:
             Storm::check(!grid->insWidget(grid, nullptr), "nothing goes before nothing");
             Storm::check(!grid->delWidget(nullptr), "nothing is not in a grid");
             Storm::check(!grid->insWidget(nullptr, world.anyWidget()), "nothing is not inserted");
+            checkOrder(world.dice(), grid);
         } else if (auto *panel = qobject_cast<OlvFlexWidget *>(widget)) {
             Storm::check(panel->minimumSize() == QSize(50, 50), "a panel has a smallest size");
         }
@@ -99,37 +103,70 @@ private:
         return tile;
     }
 
+    static void checkOrder(Dice &dice, OlvGridLayout *grid)
+    {
+        const QList<QWidget *> none;
+        Storm::check(!grid->takeWidget(nullptr), "nothing is not taken");
+        Storm::check(!grid->delWidget(none), "an empty list deletes nothing");
+        Storm::check(!grid->insWidget(none, nullptr), "an empty list does not go before nothing");
+        Storm::check(grid->indexOf(nullptr) == -1, "nothing has no index");
+        Storm::check(grid->indexOf(grid) == -1, "a grid is not in itself");
+        const int count = grid->count();
+        const int index = dice.coin() ? dice.between(-1, count) : dice.number();
+        QWidget *tile = grid->widgetAt(index);
+        Storm::check((tile != nullptr) == (index >= 0 && index < count),
+                     "a grid has a widget at each index below its count");
+        Storm::check(!tile || (grid->indexOf(tile) >= 0 && grid->indexOf(tile) <= index),
+                     "a widget is found at the first of its indices");
+    }
+
     static void callGrid(World &world, OlvGridLayout *grid)
     {
         Dice &dice = world.dice();
-        QWidget *one = other(world, grid);
-        QWidget *two = other(world, grid);
-        switch (dice.below(10)) {
+        switch (dice.below(16)) {
         case 0:
-            grid->addWidget(one);
-            break;
         case 1:
-            grid->addWidget(QList<QWidget *>{ one, nullptr, two, one });
-            break;
         case 2:
-            grid->insWidget(one, two);
+            add(world, grid);
             break;
         case 3:
         case 4:
             if (!world.isGuarded()) {
-                grid->delWidget(one);
+                remove(world, grid);
             }
             break;
         case 5:
-            grid->setMargin(dice.number());
+            if (!world.isGuarded()) {
+                take(world, grid);
+            }
             break;
         case 6:
-            grid->setSpacing(dice.number());
+            if (!world.isGuarded()) {
+                putBack(world, grid);
+            }
             break;
         case 7:
-            grid->resized();
+            grid->ensureVisible(dice.oneIn(8) ? grid->parentWidget() : world.anyWidget());
             break;
         case 8:
+            retain(world, grid);
+            break;
+        case 9:
+        case 10:
+            if (!world.isGuarded()) {
+                showSome(world, grid);
+            }
+            break;
+        case 11:
+            grid->setMargin(dice.number());
+            break;
+        case 12:
+            grid->setSpacing(dice.number());
+            break;
+        case 13:
+            grid->resized();
+            break;
+        case 14:
             turnScrollBar(dice, grid);
             break;
         default:
@@ -142,6 +179,144 @@ private:
     {
         QWidget *found = world.anyWidget();
         return found && found != grid && !found->isAncestorOf(grid) ? found : nullptr;
+    }
+
+    /** At most five widgets of the grid, other widgets, null ones, and some of these again. */
+    static QList<QWidget *> someWidgets(World &world, OlvGridLayout *grid)
+    {
+        Dice &dice = world.dice();
+        QList<QWidget *> widgets;
+        for (int i = dice.below(6); i > 0; --i) {
+            // a widget of the grid may be half destroyed while a Guard exists
+            if (!world.isGuarded() && dice.oneIn(3)) {
+                widgets.append(grid->widgetAt(dice.between(-1, grid->count())));
+            } else if (!widgets.isEmpty() && dice.oneIn(4)) {
+                widgets.append(dice.pick(widgets));
+            } else {
+                widgets.append(dice.oneIn(6) ? nullptr : other(world, grid));
+            }
+        }
+        return widgets;
+    }
+
+    static void add(World &world, OlvGridLayout *grid)
+    {
+        Dice &dice = world.dice();
+        const QPointer<OlvGridLayout> alive(grid);
+        const int before = grid->count();
+        QList<QWidget *> widgets = someWidgets(world, grid);
+        switch (dice.below(4)) {
+        case 0:
+            widgets = { other(world, grid) };
+            grid->addWidget(widgets.first());
+            break;
+        case 1:
+            grid->addWidget(widgets);
+            break;
+        case 2:
+            widgets = { other(world, grid) };
+            grid->insWidget(widgets.first(), other(world, grid));
+            break;
+        default:
+            grid->insWidget(widgets, grid->widgetAt(dice.between(-1, before)));
+        }
+        if (alive && world.isUndisturbed()) {
+            const int most = before + widgets.size() - widgets.count(nullptr);
+            Storm::check(alive->count() <= most, "no more widgets are in a grid than were added");
+        }
+    }
+
+    static void remove(World &world, OlvGridLayout *grid)
+    {
+        const QPointer<OlvGridLayout> alive(grid);
+        switch (world.dice().below(8)) {
+        case 0:
+            grid->clear();
+            Storm::check(!alive || !world.isUndisturbed() || alive->count() == 0,
+                         "a grid is empty once it is cleared");
+            break;
+        case 1:
+        case 2:
+        case 3:
+            grid->delWidget(someWidgets(world, grid));
+            break;
+        default:
+            grid->delWidget(other(world, grid));
+        }
+    }
+
+    /** Takes a widget out, which the world keeps: it is added again, or deleted, like any other. */
+    static void take(World &world, OlvGridLayout *grid)
+    {
+        Dice &dice = world.dice();
+        const QPointer<OlvGridLayout> alive(grid);
+        const QPointer<QWidget> wanted(
+            dice.oneIn(4) ? world.anyWidget() : grid->widgetAt(dice.between(-1, grid->count())));
+        if (wanted) {
+            releaseFocus(wanted);
+        }
+        QWidget *taken = alive ? alive->takeWidget(wanted) : nullptr;
+        if (!taken) {
+            return;
+        }
+        Storm::check(taken == wanted, "the widget that is taken is the one that was asked for");
+        if (alive && world.isUndisturbed()) {
+            Storm::check(alive->indexOf(taken) == -1, "what is taken is not in the grid");
+            Storm::check(taken->parentWidget() != alive, "what is taken is no child of the grid");
+        }
+        if (taken->isWindow()) {
+            taken->setMaximumSize(largestWindow, largestWindow);
+        }
+    }
+
+    /** Makes a widget, which may have been taken out of another grid, a child and adds it. */
+    static void putBack(World &world, OlvGridLayout *grid)
+    {
+        const QPointer<OlvGridLayout> alive(grid);
+        const QPointer<QWidget> widget(other(world, grid));
+        if (!widget) {
+            return;
+        }
+        {
+            const World::Guard guard(world);
+            releaseFocus(widget);
+            widget->setParent(grid);
+        }
+        if (alive && widget) {
+            alive->addWidget(widget);
+        }
+    }
+
+    /** Otherwise Qt keeps a hidden child as the focus widget of the window that it has left. */
+    static void releaseFocus(QWidget *widget)
+    {
+        QWidget *focused = widget->window()->focusWidget();
+        if (focused && (focused == widget || widget->isAncestorOf(focused))) {
+            focused->clearFocus();
+        }
+    }
+
+    static void retain(World &world, OlvGridLayout *grid)
+    {
+        const QPointer<OlvGridLayout> alive(grid);
+        const bool retains = world.dice().coin();
+        grid->setRetainSizeWhenHidden(retains);
+        Storm::check(!alive || !world.isUndisturbed() || alive->retainSizeWhenHidden() == retains,
+                     "a grid knows whether it retains the sizes of hidden widgets");
+    }
+
+    /** Shows or hides some of the widgets of the grid, which may reflow it in the event loop. */
+    static void showSome(World &world, OlvGridLayout *grid)
+    {
+        Dice &dice = world.dice();
+        const World::Guard guard(world);
+        const QPointer<OlvGridLayout> alive(grid);
+        const bool isShown = dice.coin();
+        for (int i = dice.between(1, 4); i > 0 && alive; --i) {
+            if (QWidget *tile = alive->widgetAt(dice.between(-1, alive->count()))) {
+                tile->setVisible(isShown);
+            }
+        }
     }
 
     static void turnScrollBar(Dice &dice, OlvGridLayout *grid)
@@ -164,12 +339,12 @@ private:
             static constexpr std::array<OlvFlexWidget::OlvStayType, 3> types{
                 OlvFlexWidget::StayNormal, OlvFlexWidget::StayTop, OlvFlexWidget::StayBottom
             };
-            panel->setMaximumSize(1200, 1200);
+            panel->setMaximumSize(largestWindow, largestWindow);
             panel->stay(dice.pick(types));
             break;
         }
         case 1:
-            panel->setMaximumSize(1200, 1200);
+            panel->setMaximumSize(largestWindow, largestWindow);
             panel->toggleTool();
             break;
         case 2:
