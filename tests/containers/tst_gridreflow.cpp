@@ -7,6 +7,8 @@
 
 namespace {
 
+using Tiles = QList<QWidget *>;
+
 /** Counts the reflows, each of which has to put it into its place: it does not stay there. */
 class ReflowCounter : public QWidget
 {
@@ -39,6 +41,35 @@ private:
     int m_reflows = 0;
 };
 
+/** Counts the reflows of an empty grid, each of which makes it as high as its viewport again. */
+class EmptyReflowCounter : public QObject
+{
+public:
+    explicit EmptyReflowCounter(OlvGridLayout *grid)
+        : m_grid(grid)
+    {
+        grid->installEventFilter(this); // clazy:exclude=install-event-filter
+    }
+    int reflows() const
+    {
+        return m_reflows;
+    }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize && m_grid->height() != otherHeight) {
+            ++m_reflows;
+            m_grid->resize(m_grid->width(), otherHeight);
+        }
+        return false;
+    }
+
+private:
+    static constexpr int otherHeight = 77;
+    OlvGridLayout *m_grid;
+    int m_reflows = 0;
+};
+
 /** What a program does to a grid, or to the second of its widgets. */
 using Change = void (*)(OlvGridLayout *grid, QWidget *tile);
 
@@ -55,6 +86,7 @@ private Q_SLOTS:
     void makingAGridReflowsNothing();
     void changesReflowOnce_data();
     void changesReflowOnce();
+    void clearReflowsOnce();
     void aBurstOfResizesGivesOneReflow_data();
     void aBurstOfResizesGivesOneReflow();
     void settlesInAWindowThatItResizes();
@@ -102,6 +134,30 @@ void TestGridReflow::changesReflowOnce_data()
         [](OlvGridLayout *grid, QWidget *) { grid->insWidget(makeTile(grid, 30), grid); });
     row("delWidget", 1, [](OlvGridLayout *grid, QWidget *tile) { grid->delWidget(tile); });
     row("delWidget of none", 0, [](OlvGridLayout *grid, QWidget *) { grid->delWidget(grid); });
+    row("insWidget with a list", 1, [](OlvGridLayout *grid, QWidget *tile) {
+        grid->insWidget({ makeTile(grid, 30), nullptr, makeTile(grid, 30) }, tile);
+    });
+    row("insWidget with an empty list", 1,
+        [](OlvGridLayout *grid, QWidget *tile) { grid->insWidget(Tiles(), tile); });
+    row("insWidget with a list before none", 0,
+        [](OlvGridLayout *grid, QWidget *) { grid->insWidget({ makeTile(grid, 30) }, grid); });
+    row("delWidget with a list", 1, [](OlvGridLayout *grid, QWidget *tile) {
+        auto *another = makeTile(grid, 30);
+        grid->addWidget(another);
+        static_cast<ReflowCounter *>(grid->widgetAt(0))->take();
+        grid->delWidget({ another, grid, tile });
+    });
+    row("delWidget with a list of none", 0, [](OlvGridLayout *grid, QWidget *) {
+        grid->delWidget({ grid, nullptr });
+    });
+    row("takeWidget", 1, [](OlvGridLayout *grid, QWidget *tile) { delete grid->takeWidget(tile); });
+    row("takeWidget of none", 0,
+        [](OlvGridLayout *grid, QWidget *) { QVERIFY(!grid->takeWidget(grid)); });
+    row("setRetainSizeWhenHidden", 1,
+        [](OlvGridLayout *grid, QWidget *) { grid->setRetainSizeWhenHidden(false); });
+    row("setRetainSizeWhenHidden to the same", 0,
+        [](OlvGridLayout *grid, QWidget *) { grid->setRetainSizeWhenHidden(true); });
+    row("ensureVisible", 0, [](OlvGridLayout *grid, QWidget *tile) { grid->ensureVisible(tile); });
     row("setMargin", 1, [](OlvGridLayout *grid, QWidget *) { grid->setMargin(20); });
     row("setSpacing", 1, [](OlvGridLayout *grid, QWidget *) { grid->setSpacing(20); });
     row("reUi", 1, [](OlvGridLayout *grid, QWidget *) { grid->reUi(); });
@@ -124,6 +180,21 @@ void TestGridReflow::changesReflowOnce()
     counter->take();
     change(scene.grid, tile);
     QCOMPARE(counter->take(), reflows);
+}
+
+void TestGridReflow::clearReflowsOnce()
+{
+    GridScene scene(true);
+    scene.grid->addWidget({ makeTile(scene.grid, 40), makeTile(scene.grid, 50) });
+    scene.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.window));
+    const EmptyReflowCounter counter(scene.grid);
+    scene.grid->clear();
+    QCOMPARE(counter.reflows(), 1);
+    scene.grid->clear();
+    QCOMPARE(counter.reflows(), 1);
+    scene.grid->reUi();
+    QCOMPARE(counter.reflows(), 2);
 }
 
 void TestGridReflow::aBurstOfResizesGivesOneReflow_data()

@@ -8,6 +8,9 @@
 #include <OlvFlexWidget>
 
 #include <QAccessible>
+#include <QPointer>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,16 +31,39 @@ void fill(OlvGridLayout *grid)
     grid->addWidget({ makeTile(grid, 50), makeTile(grid, 60, 300) });
 }
 
-QWidget *firstTile(OlvGridLayout *grid)
+/** The tiles that are left, also of a grid that has taken one out. */
+QWidgetList tilesOf(const OlvGridLayout *grid)
 {
-    const QWidgetList children =
-        grid->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *child : children) {
-        if (!qobject_cast<QLabel *>(child)) {
-            return child;
-        }
+    QWidgetList tiles = grid->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    tiles.erase(std::remove_if(tiles.begin(), tiles.end(),
+                               [](QWidget *child) { return qobject_cast<QLabel *>(child); }),
+                tiles.end());
+    return tiles;
+}
+
+QWidget *firstTile(const OlvGridLayout *grid)
+{
+    return tilesOf(grid).value(0);
+}
+
+QWidget *lastTile(const OlvGridLayout *grid)
+{
+    return grid->widgetAt(grid->count() - 1);
+}
+
+void hideFirstTile(OlvGridLayout *grid)
+{
+    if (QWidget *tile = firstTile(grid)) {
+        tile->hide();
     }
-    return nullptr;
+}
+
+void hideTiles(OlvGridLayout *grid)
+{
+    const QWidgetList tiles = tilesOf(grid);
+    for (QWidget *tile : tiles) {
+        tile->hide();
+    }
 }
 
 void fire(QTimer *timer)
@@ -52,15 +78,97 @@ QVector<int> followedByScrollBar()
     return { QAccessible::ValueChanged };
 }
 
-/** What is done to a grid, which is the widget that is deleted, or lies in it. */
-QVector<Deed> gridDeeds(OlvGridLayout *(*find)(QWidget *))
+using Find = OlvGridLayout *(*)(QWidget *widget);
+using Act = void (*)(OlvGridLayout *grid);
+
+Deed toGrid(const char *name, Find find, Act act, Act prepare = nullptr)
 {
-    const auto to = [=](const char *name, void (*act)(OlvGridLayout *)) -> Deed {
-        return { QString::fromLatin1(name), [=](QWidget *widget) {
-                    act(find(widget));
-                } };
+    const auto on = [find](Act each) {
+        return [=](QWidget *widget) {
+            each(find(widget));
+        };
     };
+    Deed deed{ QString::fromLatin1(name), on(act) };
+    if (prepare) {
+        deed.prepare = on(prepare);
+    }
+    return deed;
+}
+
+/** Several tiles at once, and those that the application takes back. */
+QVector<Deed> deedsToTiles(Find find)
+{
+    Deed taking = toGrid("takeWidget", find,
+                         [](OlvGridLayout *grid) { delete grid->takeWidget(firstTile(grid)); });
+    taking.followed = { QEvent::ParentAboutToChange };
     return {
+        toGrid("addWidget with a list", find,
+               [](OlvGridLayout *grid) {
+                   grid->addWidget({ makeTile(grid, 40), nullptr, makeTile(grid, 90) });
+               }),
+        toGrid("insWidget with a list", find,
+               [](OlvGridLayout *grid) {
+                   grid->insWidget({ makeTile(grid, 40), nullptr, makeTile(grid, 90) },
+                                   firstTile(grid));
+               }),
+        toGrid("delWidget with a list", find,
+               [](OlvGridLayout *grid) {
+                   grid->delWidget({ lastTile(grid), nullptr, firstTile(grid) });
+               }),
+        taking,
+        toGrid("clear", find, [](OlvGridLayout *grid) { grid->clear(); }),
+    };
+}
+
+/** Tiles that are hidden or out of sight. */
+QVector<Deed> deedsToHiddenTiles(Find find)
+{
+    const auto closeGaps = [](OlvGridLayout *grid) {
+        grid->setRetainSizeWhenHidden(false);
+    };
+    QVector<Deed> deeds{
+        toGrid(
+            "setRetainSizeWhenHidden", find,
+            [](OlvGridLayout *grid) { grid->setRetainSizeWhenHidden(false); }, hideFirstTile),
+        toGrid(
+            "setRetainSizeWhenHidden while all are hidden", find,
+            [](OlvGridLayout *grid) { grid->setRetainSizeWhenHidden(false); }, hideTiles),
+        toGrid(
+            "reflow after a tile is hidden", find,
+            [](OlvGridLayout *grid) {
+                const QPointer<OlvGridLayout> alive(grid);
+                hideFirstTile(grid);
+                if (alive) {
+                    QCoreApplication::sendPostedEvents(alive, QEvent::LayoutRequest);
+                }
+            },
+            closeGaps),
+        toGrid("ensureVisible", find,
+               [](OlvGridLayout *grid) { grid->ensureVisible(lastTile(grid)); }),
+        toGrid(
+            "ensureVisible after a tile is hidden", find,
+            [](OlvGridLayout *grid) {
+                const QPointer<OlvGridLayout> alive(grid);
+                hideFirstTile(grid);
+                if (alive) {
+                    alive->ensureVisible(lastTile(alive));
+                }
+            },
+            closeGaps),
+    };
+    for (Deed &deed : deeds) {
+        deed.followed = followedByScrollBar();
+    }
+    return deeds;
+}
+
+/** What is done to a grid, which is the widget that is deleted, or lies in it. */
+QVector<Deed> gridDeeds(Find find)
+{
+    const auto to = [=](const char *name, Act act) {
+        return toGrid(name, find, act);
+    };
+    const QVector<Deed> deeds{
         to("addWidget", [](OlvGridLayout *grid) { grid->addWidget(makeTile(grid, 40)); }),
         to("insWidget",
            [](OlvGridLayout *grid) { grid->insWidget(makeTile(grid, 40), firstTile(grid)); }),
@@ -88,6 +196,7 @@ QVector<Deed> gridDeeds(OlvGridLayout *(*find)(QWidget *))
               find(widget)->resized();
           } },
     };
+    return deeds + deedsToTiles(find) + deedsToHiddenTiles(find);
 }
 
 QVector<Deed> gridAlone()

@@ -17,6 +17,11 @@ QVector<Subject> DeletionTable::plainSubjects()
         new QPushButton(QStringLiteral("text"), group);
         return group;
     };
+    const auto takeOne = [](QWidget *group) {
+        const QPointer<QWidget> one(group->findChild<QLineEdit *>());
+        one->setParent(nullptr);
+        delete one;
+    };
     const auto makeButton = [](QWidget *parent) -> QWidget * {
         auto *button = new QPushButton(QStringLiteral("text"), parent);
         button->setCheckable(true);
@@ -61,6 +66,12 @@ QVector<Subject> DeletionTable::plainSubjects()
               call<QWidget>("deletion of one",
                             [](QWidget *widget) { delete widget->findChild<QLineEdit *>(); }),
               call<QWidget>("a new one", [](QWidget *widget) { new QWidget(widget); }),
+              { QStringLiteral("setParent of one"),
+                takeOne,
+                nullptr,
+                false,
+                false,
+                { QEvent::ParentAboutToChange } },
               { QStringLiteral("another language"), translate, nullptr, true, true },
           } },
         { QStringLiteral("QLineEdit"),
