@@ -146,7 +146,7 @@ private:
             }
             break;
         case 7:
-            grid->ensureVisible(dice.oneIn(8) ? grid->parentWidget() : world.anyWidget());
+            reveal(world, grid);
             break;
         case 8:
             retain(world, grid);
@@ -293,6 +293,24 @@ private:
         QWidget *focused = widget->window()->focusWidget();
         if (focused && (focused == widget || widget->isAncestorOf(focused))) {
             focused->clearFocus();
+        }
+    }
+
+    /** Scrolls to a widget, also while a reflow is due because others have been hidden. */
+    static void reveal(World &world, OlvGridLayout *grid)
+    {
+        Dice &dice = world.dice();
+        const QPointer<OlvGridLayout> alive(grid);
+        if (!world.isGuarded() && dice.coin()) {
+            showSome(world, grid);
+        }
+        if (!alive) {
+            return;
+        }
+        if (world.isGuarded() || dice.oneIn(4)) {
+            grid->ensureVisible(dice.oneIn(8) ? grid->parentWidget() : world.anyWidget());
+        } else {
+            grid->ensureVisible(grid->widgetAt(dice.between(-1, grid->count())));
         }
     }
 
