@@ -46,6 +46,8 @@ private Q_SLOTS:
     void showsThatNothingIsLeft();
     void survivesItsDeletion_data();
     void survivesItsDeletion();
+    void survivesDeletionsBeforeItScrolls_data();
+    void survivesDeletionsBeforeItScrolls();
 };
 
 void TestGridHiding::keepsThePlacesAtFirst()
@@ -221,6 +223,34 @@ void TestGridHiding::survivesItsDeletion()
     }
     QCoreApplication::processEvents();
     QVERIFY(!watched);
+}
+
+void TestGridHiding::survivesDeletionsBeforeItScrolls_data()
+{
+    QTest::addColumn<bool>("ofGrid");
+    QTest::newRow("of the widget to show") << false;
+    QTest::newRow("of the grid") << true;
+}
+
+void TestGridHiding::survivesDeletionsBeforeItScrolls()
+{
+    QFETCH(bool, ofGrid);
+    HidingScene scene(100);
+    const QPointer<QWidget> grid(scene.grid);
+    const QPointer<QWidget> wanted(scene.tiles.at(90));
+    QScrollBar *bar = barOf(*scene.grid);
+    // not a child of the grid: Qt goes on to use a tile that it moves
+    QWidget *mover = makeTile(scene.viewport, 50);
+    mover->show();
+    scene.grid->insWidget(mover, scene.tiles.at(50));
+    const OnEvent onMove(mover, QEvent::Move, [&] { delete (ofGrid ? grid : wanted); });
+    // so that ensureVisible() has to reflow first
+    scene.tiles.at(0)->hide();
+    scene.grid->ensureVisible(wanted);
+    QVERIFY(onMove.happened());
+    QVERIFY(!wanted);
+    QCOMPARE(grid.isNull(), ofGrid);
+    QCOMPARE(bar->value(), 0);
 }
 
 QTEST_MAIN(TestGridHiding)
