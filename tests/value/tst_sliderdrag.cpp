@@ -235,7 +235,7 @@ void TestSliderDrag::keepsTheKnobsPlaceOnResizeUntilTheNextDrag()
 
 void TestSliderDrag::survivesASetValueThatDeletesTheSlider()
 {
-    class Suicidal : public OlvSlider
+    class DeletesItself : public OlvSlider
     {
     public:
         void setValue(const QVariant & /*value*/) override
@@ -243,7 +243,7 @@ void TestSliderDrag::survivesASetValueThatDeletesTheSlider()
             delete this;
         }
     };
-    const QPointer<OlvSlider> slider(new Suicidal);
+    const QPointer<OlvSlider> slider(new DeletesItself);
     dragTo(*slider, 50);
     QVERIFY(slider.isNull());
 }
