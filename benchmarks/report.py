@@ -24,7 +24,7 @@ PICTURE = "pictures/cost-against-size.png"
 
 
 class Results:
-    """The medians over all repetitions."""
+    """What all repetitions measured."""
 
     def __init__(self, paths):
         runs = defaultdict(list)
@@ -48,11 +48,17 @@ class Results:
             size = next((int(part) for part in rest if part.isdigit()), None)
             runs[case, contestant, size].append(run)
 
-    def median(self, case, contestant, size, counter=None):
-        """None where nothing was measured."""
+    def cost(self, case, contestant, size, counter=None):
+        """The least time, or the median of a counter; None where nothing was measured.
+
+        What else the machine does only adds to a time, so that the least one is the nearest.
+        """
         runs = self._runs.get((case, contestant, size), [])
-        values = [run[counter] if counter else nanoseconds(run) for run in runs]
-        return statistics.median(values) if values else None
+        if not runs:
+            return None
+        if counter:
+            return statistics.median(run[counter] for run in runs)
+        return min(nanoseconds(run) for run in runs)
 
     def repetitions(self):
         return max((len(runs) for runs in self._runs.values()), default=0)
@@ -65,9 +71,12 @@ class Results:
     def curves(self):
         """{case: {contestant: [(size, nanoseconds)]}} of the cases that have several sizes."""
         curves = defaultdict(lambda: defaultdict(list))
+        sizes = defaultdict(set)
+        for case, _, size in self._runs:
+            sizes[case].add(size)
         for case, contestant, size in self._runs:
-            if size is not None:
-                curves[case][contestant].append((size, self.median(case, contestant, size)))
+            if len(sizes[case]) > 1:
+                curves[case][contestant].append((size, self.cost(case, contestant, size)))
         for contestants in curves.values():
             for points in contestants.values():
                 points.sort()
@@ -96,10 +105,10 @@ def measured(results, target):
         points = results.curves()[target.case]["library"]
         return slope(points) if len(points) > 1 else None
     if isinstance(target, Counter):
-        return results.median(target.case, target.contestant, None, target.counter)
+        return results.cost(target.case, target.contestant, None, target.counter)
     counter = COUNTED_CASES.get(target.case)
-    compared = results.median(target.case, target.compared, target.size, counter)
-    other = results.median(target.case, target.contestant, target.size, counter)
+    compared = results.cost(target.case, target.compared, target.size, counter)
+    other = results.cost(target.case, target.contestant, target.size, counter)
     return compared / other if compared is not None and other else None
 
 
