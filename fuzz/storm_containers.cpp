@@ -221,7 +221,7 @@ private:
             grid->insWidget(widgets, grid->widgetAt(dice.between(-1, before)));
         }
         if (alive && world.isUndisturbed()) {
-            const int most = before + widgets.size() - widgets.count(nullptr);
+            const auto most = before + widgets.size() - widgets.count(nullptr);
             Storm::check(alive->count() <= most, "no more widgets are in a grid than were added");
         }
     }

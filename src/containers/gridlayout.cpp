@@ -243,7 +243,9 @@ void OlvGridLayout::reUi()
         if (self && !isSubWindow()) {
             fitScrollBar();
         } else if (QWidget *parent = self ? parentWidget() : nullptr) {
-            parent->resize(parent->width(), height() + 2 * windowBorder);
+            // Qt bounds the size of a window, but not that of another grid which has become the
+            // parent
+            parent->resize(parent->width(), qMin(height() + 2 * windowBorder, QWIDGETSIZE_MAX));
         }
     }
     if (QLabel *label = self ? d->label() : nullptr) {

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void survivesTheLossOfItsBar();
     void survivesTheLossOfItsLabel();
     void survivesNumbersThatNoWidgetHas();
+    void resizesNoGridAroundItBeyondTheLargestSize();
     void readsTheMarginAfreshForEachWidget();
 };
 
@@ -265,6 +266,19 @@ void TestGridSurvival::survivesNumbersThatNoWidgetHas()
     wheel(*scene.grid, QPoint(0, 120));
     QCOMPARE(bar->value(), 0);
     QVERIFY(qAbs(scene.grid->y()) <= QWIDGETSIZE_MAX);
+}
+
+void TestGridSurvival::resizesNoGridAroundItBeyondTheLargestSize()
+{
+    QWidget window;
+    auto *inner = new OlvGridLayout(&window);
+    inner->addWidget(makeTile(inner, 50));
+    GridScene scene(true);
+    scene.window.show(); // Qt bounds the size of a widget that has not been shown yet
+    inner->setParent(scene.grid);
+    inner->setMargin(QWIDGETSIZE_MAX);
+    QCOMPARE(inner->height(), QWIDGETSIZE_MAX);
+    QCOMPARE(scene.grid->height(), QWIDGETSIZE_MAX);
 }
 
 void TestGridSurvival::readsTheMarginAfreshForEachWidget()
