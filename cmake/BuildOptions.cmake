@@ -19,6 +19,10 @@ target_compile_definitions(olv_build_options INTERFACE
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_DEPRECATED_WARNINGS)
 
+# In a unity build every source is included by another file, where GCC warns of what is local to it.
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(olv_build_options INTERFACE -Wno-subobject-linkage)
+endif()
 if(OLVWIDGETS_SANITIZE)
     target_compile_options(olv_build_options INTERFACE
         -fsanitize=${OLVWIDGETS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

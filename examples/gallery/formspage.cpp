@@ -30,11 +30,6 @@ constexpr ushort mailGlyph = 0xf0e0;
 constexpr int tileSide = 76;
 constexpr int volume = 60;
 
-QString iconFamily()
-{
-    return QStringLiteral("FontAwesome");
-}
-
 /** A form whose rows are the same on both sides of the page. */
 class Form : public QGroupBox
 {

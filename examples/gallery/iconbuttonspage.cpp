@@ -20,11 +20,6 @@ constexpr ushort fullStar = 0xf005;
 constexpr ushort gear = 0xf013;
 constexpr ushort trash = 0xf014;
 
-QString iconFamily()
-{
-    return QStringLiteral("FontAwesome");
-}
-
 struct Tile
 {
     QString name;

@@ -21,15 +21,10 @@ constexpr QSize lineSize(340, 30);
 constexpr QSize switchSize(50, 24);
 constexpr QSize gridSize(366, 126);
 constexpr QSize panelSize(176, 118);
-constexpr int pollInterval = 20; // milliseconds
+constexpr int fontPollInterval = 20; // milliseconds
 const QColor blue(64, 158, 255);
 const QColor orange(230, 162, 60);
 const QColor red(245, 108, 108);
-
-QString iconFamily()
-{
-    return QStringLiteral("FontAwesome");
-}
 
 /** Widgets in a row under the names of their classes. */
 QVBoxLayout *makeCell(const QString &classes, const QList<QWidget *> &widgets)
@@ -213,7 +208,7 @@ void repaintWithFonts(Page *page)
             page->update(); // and with it all that lies on it
         }
     });
-    poll->start(pollInterval);
+    poll->start(fontPollInterval);
 }
 
 } // namespace

@@ -59,3 +59,8 @@ void Page::log(const QString &line)
 {
     m_log->appendPlainText(line);
 }
+
+QString iconFamily()
+{
+    return QStringLiteral("FontAwesome");
+}

@@ -23,3 +23,6 @@ private:
     QVBoxLayout *m_content;
     QPlainTextEdit *m_log;
 };
+
+/** The family of the icon font, whose glyphs the pages show. */
+QString iconFamily();

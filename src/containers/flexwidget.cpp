@@ -18,12 +18,12 @@ namespace {
 constexpr char stayProperty[] = "stay";
 constexpr char headerWayProperty[] = "headerWay";
 constexpr char headerColorProperty[] = "headerWayColor";
-constexpr char resizeTimerProperty[] = "resizeTimer";
+constexpr char panelTimerProperty[] = "resizeTimer";
 
 constexpr int noHeader = 0;
 constexpr int smallestSide = 50;
 constexpr int handleWidth = 3;
-constexpr int settlingTime = 2000; // milliseconds
+constexpr int panelSettlingTime = 2000; // milliseconds
 constexpr int cornerRadius = 5;
 constexpr int frameWidth = 1;
 constexpr int headerThickness = 10;
@@ -77,8 +77,8 @@ OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
     auto *mover = new OlvMoveWidget(this);
     mover->setMoveArea(rect());
     auto *timer = new QTimer(this);
-    timer->setInterval(settlingTime);
-    setProperty(resizeTimerProperty, reinterpret_cast<qulonglong>(timer));
+    timer->setInterval(panelSettlingTime);
+    setProperty(panelTimerProperty, reinterpret_cast<qulonglong>(timer));
     const QPointer<OlvResizeWidget> resizing(resizer);
     const QPointer<OlvMoveWidget> moving(mover);
     connect(timer, &QTimer::timeout, this, [=, self = static_cast<QObject *>(this)] {
@@ -171,7 +171,7 @@ void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)
 
 void OlvFlexWidget::resizeEvent(QResizeEvent * /*event*/)
 {
-    if (auto *timer = childAtAddress<QTimer>(this, property(resizeTimerProperty))) {
+    if (auto *timer = childAtAddress<QTimer>(this, property(panelTimerProperty))) {
         timer->start(); // restarts a running timer
     }
 }

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int maxCacheBytes = 1024 * 1024;
+constexpr int maxCaptionBytes = 1024 * 1024;
 constexpr int maxLength = 256;
 /** What a cached caption takes besides its image: the key, and in it the text. */
 constexpr int bytesPerKey = 1024;
@@ -122,7 +122,7 @@ struct Pixels
 PixelCache<Key, Pixels> &captionCache()
 {
     // never destroyed: a widget may be painted while the program destroys its statics
-    static auto *const cache = new PixelCache<Key, Pixels>(maxCacheBytes);
+    static auto *const cache = new PixelCache<Key, Pixels>(maxCaptionBytes);
     static auto *const connection = new QMetaObject::Connection;
     static std::atomic<bool> isOutdated{ false };
     if (!*connection) { // at the first paint, and when there is another application

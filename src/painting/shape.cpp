@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int maxCacheBytes = 1024 * 1024;
+constexpr int maxShapeBytes = 1024 * 1024;
 constexpr int smallestDiameter = 4;
 
 /** How many pixels an outline reaches beyond the shape: its outer half. */
@@ -185,7 +185,7 @@ void Shape::stroke(const Canvas &canvas, const QColor &color, int width) const
 bool Shape::drawCached(const Canvas &canvas, const Key &key) const
 {
     // never destroyed: a widget may be painted while the program destroys its statics
-    static auto &cache = *new PixelCache<Key, Pixels>(maxCacheBytes);
+    static auto &cache = *new PixelCache<Key, Pixels>(maxShapeBytes);
     const int margin = marginOf(key.lineWidth);
     if (!canvas.copyTarget() || !cache.accepts(m_rect.size() + QSize(2 * margin, 2 * margin))
         || !isPositionIndependent(m_rect.size(), m_radius, key.lineWidth)) {

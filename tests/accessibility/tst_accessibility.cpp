@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "accessiblekinds.h"
 #include "assistant.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -380,5 +381,5 @@ void TestAccessibility::tellsNothingOfAWidgetThatGoes()
     QCOMPARE(assistant.heardOf(address), QStringList());
 }
 
-QTEST_MAIN(TestAccessibility)
+ADD_TEST(TestAccessibility, QApplication)
 #include "tst_accessibility.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "accessiblekinds.h"
+#include "testprogram.h"
 
 #include <OlvSwitch>
 
@@ -116,5 +117,5 @@ void TestAccessibilityLifetime::outlivesItsWidget()
     QVERIFY(waitForDeferred());
 }
 
-QTEST_APPLESS_MAIN(TestAccessibilityLifetime)
+ADD_TEST(TestAccessibilityLifetime, NoApplication)
 #include "tst_accessibilitylifetime.moc"

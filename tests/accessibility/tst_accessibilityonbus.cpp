@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "freeshortcut.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -281,5 +282,5 @@ void TestAccessibilityOnBus::updatesAreHeard()
     QTRY_VERIFY_WITH_TIMEOUT(hears("state-changed:checked|Wi-Fi|1"), patience);
 }
 
-QTEST_MAIN(TestAccessibilityOnBus)
+ADD_TEST(TestAccessibilityOnBus, QApplication)
 #include "tst_accessibilityonbus.moc"

@@ -2,6 +2,7 @@
 #include "assistant.h"
 #include "fakeshortcut.h"
 #include "onevent.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -147,5 +148,5 @@ void TestAccessibilitySwitchedOff::tellsAgainOnceItIsSwitchedOn()
     QCOMPARE(assistant.heardOf(&button), QStringList{ QStringLiteral("name Save as") });
 }
 
-QTEST_MAIN(TestAccessibilitySwitchedOff)
+ADD_TEST(TestAccessibilitySwitchedOff, QApplication)
 #include "tst_accessibilityswitchedoff.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
 #include "pointer.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 
@@ -230,5 +231,5 @@ void TestAccessibleButton::survivesItsDeletionByAListenerToAChange()
     QVERIFY(button.isNull());
 }
 
-QTEST_MAIN(TestAccessibleButton)
+ADD_TEST(TestAccessibleButton, QApplication)
 #include "tst_accessiblebutton.moc"

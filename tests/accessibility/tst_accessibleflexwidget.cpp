@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
 #include "deferred.h"
+#include "testprogram.h"
 
 #include <OlvFlexWidget>
 
@@ -75,5 +76,5 @@ void TestAccessibleFlexWidget::canBeMovedAndResizedUnlessMaximised()
     QVERIFY(!accessible(&panel)->state().sizeable);
 }
 
-QTEST_MAIN(TestAccessibleFlexWidget)
+ADD_TEST(TestAccessibleFlexWidget, QApplication)
 #include "tst_accessibleflexwidget.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What assistive programs get to know of the focus in a form that has a support.
 #include "assistant.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -114,5 +115,5 @@ void TestAccessibleForms::tellNothingOfTheSupport()
     QCOMPARE(accessible(&form)->childCount(), before);
 }
 
-QTEST_MAIN(TestAccessibleForms)
+ADD_TEST(TestAccessibleForms, QApplication)
 #include "tst_accessibleforms.moc"

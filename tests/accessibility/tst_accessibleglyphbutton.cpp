@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
+#include "testprogram.h"
 
 #include <OlvControlBar>
 #include <OlvLineEdit>
@@ -341,5 +342,5 @@ void TestAccessibleGlyphButton::showsThePassword()
     QCOMPARE(nameOf(button), QStringLiteral("Show the password"));
 }
 
-QTEST_MAIN(TestAccessibleGlyphButton)
+ADD_TEST(TestAccessibleGlyphButton, QApplication)
 #include "tst_accessibleglyphbutton.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
 #include "pointer.h"
+#include "testprogram.h"
 
 #include <OlvIconButton>
 
@@ -186,5 +187,5 @@ void TestAccessibleIconButton::tellsOfChanges()
     QCOMPARE(assistant.heardOf(&tile), QStringList{ QStringLiteral("state checked") });
 }
 
-QTEST_MAIN(TestAccessibleIconButton)
+ADD_TEST(TestAccessibleIconButton, QApplication)
 #include "tst_accessibleiconbutton.moc"

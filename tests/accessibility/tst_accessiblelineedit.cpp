@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
+#include "testprogram.h"
 
 #include <OlvLineEdit>
 
@@ -136,5 +137,5 @@ void TestAccessibleLineEdit::standsTheEndOfAnotherAsItIsNamed()
                          [](const QPointer<OlvLineEdit> &edit) { return !edit.isNull(); }));
 }
 
-QTEST_MAIN(TestAccessibleLineEdit)
+ADD_TEST(TestAccessibleLineEdit, QApplication)
 #include "tst_accessiblelineedit.moc"

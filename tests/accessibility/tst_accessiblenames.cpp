@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 #include <OlvIconButton>
@@ -148,5 +149,5 @@ void TestAccessibleNames::tellsNothingWhileItIsPolished()
     QCOMPARE(assistant.heardOf(&wifi), QStringList({ QStringLiteral("name Wi-Fi") }));
 }
 
-QTEST_MAIN(TestAccessibleNames)
+ADD_TEST(TestAccessibleNames, QApplication)
 #include "tst_accessiblenames.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
 #include "fakeshortcut.h"
+#include "testprogram.h"
 
 #include <OlvShortcutEdit>
 
@@ -283,5 +284,5 @@ void TestAccessibleShortcutEdit::asksTheShortcutOnlyWhileSomebodyLooks()
     QVERIFY(shortcut->asked > 0);
 }
 
-QTEST_MAIN(TestAccessibleShortcutEdit)
+ADD_TEST(TestAccessibleShortcutEdit, QApplication)
 #include "tst_accessibleshortcutedit.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
 #include "mouse.h"
+#include "testprogram.h"
 
 #include <OlvSlider>
 
@@ -268,5 +269,5 @@ void TestAccessibleSlider::tellsOfEveryChange()
     QCOMPARE(told(), QStringList());
 }
 
-QTEST_MAIN(TestAccessibleSlider)
+ADD_TEST(TestAccessibleSlider, QApplication)
 #include "tst_accessibleslider.moc"

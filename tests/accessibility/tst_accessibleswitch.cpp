@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "assistant.h"
 #include "mouse.h"
+#include "testprogram.h"
 
 #include <OlvSwitch>
 
@@ -154,5 +155,5 @@ void TestAccessibleSwitch::tellsOfAnOverwrittenProperty()
     QCOMPARE(assistant.heardOf(&widget), QStringList{ QStringLiteral("state checked") });
 }
 
-QTEST_MAIN(TestAccessibleSwitch)
+ADD_TEST(TestAccessibleSwitch, QApplication)
 #include "tst_accessibleswitch.moc"

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "buttonstate.h"
 #include "paintwatch.h"
 #include "pointer.h"
 #include "propertyrecord.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 
@@ -11,11 +13,6 @@
 #include <utility>
 
 namespace {
-
-QString stateOf(const OlvButton &button)
-{
-    return button.property("state").toString();
-}
 
 using Call = void (*)(OlvButton &button);
 
@@ -230,5 +227,5 @@ void TestButton::survivesPropertiesOfOtherTypes()
     QCOMPARE(stateOf(button), QStringLiteral("init"));
 }
 
-QTEST_MAIN(TestButton)
+ADD_TEST(TestButton, QApplication)
 #include "tst_button.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "buttonstate.h"
 #include "paintwatch.h"
 #include "pointer.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 
@@ -23,11 +25,6 @@ QStringList *recordSignals(OlvButton &button, QObject *context)
     QObject::connect(&button, &OlvWidget::valueChanged, context,
                      [=] { record->append(QStringLiteral("valueChanged")); });
     return record;
-}
-
-QString stateOf(const OlvButton &button)
-{
-    return button.property("state").toString();
 }
 
 } // namespace
@@ -234,5 +231,5 @@ void TestButtonClicks::handlersLeaveTheEventAccepted()
     }
 }
 
-QTEST_MAIN(TestButtonClicks)
+ADD_TEST(TestButtonClicks, QApplication)
 #include "tst_buttonclicks.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 #include <OlvGlobal>
@@ -224,5 +225,5 @@ void TestButtonPainting::freshButtonIsFilledPrimaryWithoutText()
     COMPARE_PICTURES(pictureOf(button), pictureOf(expected));
 }
 
-QTEST_MAIN(TestButtonPainting)
+ADD_TEST(TestButtonPainting, QApplication)
 #include "tst_buttonpainting.moc"

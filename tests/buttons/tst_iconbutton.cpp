@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pixels.h"
 #include "pointer.h"
+#include "testprogram.h"
 #include "tile.h"
 
 #include <QSignalSpy>
@@ -156,5 +157,5 @@ void TestIconButton::survivesHostileProperties()
     }
 }
 
-QTEST_MAIN(TestIconButton)
+ADD_TEST(TestIconButton, QApplication)
 #include "tst_iconbutton.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pointer.h"
 #include "propertyrecord.h"
+#include "testprogram.h"
 #include "tile.h"
 
 #include <QTest>
@@ -154,5 +155,5 @@ void TestIconButtonClicks::reportsOnceToASlotWithAnEventLoop()
     QVERIFY(!timerOf(tile)->isActive());
 }
 
-QTEST_MAIN(TestIconButtonClicks)
+ADD_TEST(TestIconButtonClicks, QApplication)
 #include "tst_iconbuttonclicks.moc"

@@ -2,6 +2,7 @@
 #include "paintwatch.h"
 #include "pixels.h"
 #include "pointer.h"
+#include "testprogram.h"
 #include "tile.h"
 
 #include <QPainter>
@@ -146,5 +147,5 @@ void TestIconButtonPainting::drawsOnlyTheFrameWithoutAGlyph()
     COMPARE_PICTURES(pictureOf(button), pictureOf(expected));
 }
 
-QTEST_MAIN(TestIconButtonPainting)
+ADD_TEST(TestIconButtonPainting, QApplication)
 #include "tst_iconbuttonpainting.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvSimpleIconButton>
 
 #include <QSignalSpy>
@@ -159,5 +161,5 @@ void TestSimpleIconButton::looksGreyAndDark()
     QCOMPARE(colorOf(button), QColor(32, 32, 32));
 }
 
-QTEST_MAIN(TestSimpleIconButton)
+ADD_TEST(TestSimpleIconButton, QApplication)
 #include "tst_simpleiconbutton.moc"

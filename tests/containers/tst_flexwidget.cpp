@@ -2,6 +2,7 @@
 #include "mouse.h"
 #include "paintwatch.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <OlvFlexWidget>
 #include <OlvMoveWidget>
@@ -380,5 +381,5 @@ void TestFlexWidget::survivesMisuse()
     bare.resize(200, 200);
 }
 
-QTEST_MAIN(TestFlexWidget)
+ADD_TEST(TestFlexWidget, QApplication)
 #include "tst_flexwidget.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
 #include "onevent.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QTest>
@@ -253,5 +254,5 @@ void TestGridHiding::survivesDeletionsBeforeItScrolls()
     QCOMPARE(bar->value(), 0);
 }
 
-QTEST_MAIN(TestGridHiding)
+ADD_TEST(TestGridHiding, QApplication)
 #include "tst_gridhiding.moc"

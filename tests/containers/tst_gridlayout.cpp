@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QRandomGenerator>
@@ -271,5 +272,5 @@ void TestGridLayout::resizesItsWindow()
     QCOMPARE(scene.grid->pos(), QPoint(1, 1));
 }
 
-QTEST_MAIN(TestGridLayout)
+ADD_TEST(TestGridLayout, QApplication)
 #include "tst_gridlayout.moc"

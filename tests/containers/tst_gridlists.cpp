@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
 #include "onevent.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QTest>
@@ -289,5 +290,5 @@ void TestGridLists::survivesItsOwnDeletion()
     }));
 }
 
-QTEST_MAIN(TestGridLists)
+ADD_TEST(TestGridLists, QApplication)
 #include "tst_gridlists.moc"

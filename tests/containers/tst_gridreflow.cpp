@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -253,5 +254,5 @@ void TestGridReflow::filterConsumesNothing()
     QVERIFY(!scene.grid->eventFilter(scene.viewport, &other));
 }
 
-QTEST_MAIN(TestGridReflow)
+ADD_TEST(TestGridReflow, QApplication)
 #include "tst_gridreflow.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -352,5 +353,5 @@ void TestGridScrolling::reachesTheLastPixelsOfWhatIsLeft()
     QCOMPARE(barOf(*scene.grid)->maximum(), 3);
 }
 
-QTEST_MAIN(TestGridScrolling)
+ADD_TEST(TestGridScrolling, QApplication)
 #include "tst_gridscrolling.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
 #include "onevent.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QTest>
@@ -296,5 +297,5 @@ void TestGridSurvival::readsTheMarginAfreshForEachWidget()
     QCOMPARE(second->x(), 60);
 }
 
-QTEST_MAIN(TestGridSurvival)
+ADD_TEST(TestGridSurvival, QApplication)
 #include "tst_gridsurvival.moc"

@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int interval = 100;     // milliseconds
+constexpr int callInterval = 100; // milliseconds
 constexpr int settlingTime = 700; // milliseconds, in which what was asked for gets drawn
 
 QString reportPath(const char *name)
@@ -56,7 +56,7 @@ void DesignerProbe::initialize(QDesignerFormEditorInterface *core)
 {
     m_core = core;
     connect(&m_timer, &QTimer::timeout, this, &DesignerProbe::look);
-    m_timer.start(interval);
+    m_timer.start(callInterval);
 }
 
 void DesignerProbe::look()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms.h"
 #include "plugin.h"
+#include "testprogram.h"
 
 #include <OlvGridLayout>
 
@@ -349,5 +350,5 @@ void TestDesignerOnServer::dropsTheGridInsideAViewport()
     QCOMPARE(grid->height(), 120);
 }
 
-QTEST_MAIN(TestDesignerOnServer)
+ADD_TEST(TestDesignerOnServer, QApplication)
 #include "tst_designeronserver.moc"

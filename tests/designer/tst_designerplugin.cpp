@@ -2,6 +2,7 @@
 #include "deferred.h"
 #include "forms.h"
 #include "plugin.h"
+#include "testprogram.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -184,5 +185,5 @@ void TestDesignerPlugin::makesTheWidgetWithASensibleSize()
     }
 }
 
-QTEST_MAIN(TestDesignerPlugin)
+ADD_TEST(TestDesignerPlugin, QApplication)
 #include "tst_designerplugin.moc"

@@ -2,6 +2,7 @@
 // One form with every widget, loaded at run time and compiled by uic: both give the same widgets,
 // which look as they do when they are made in code.
 #include "forms.h"
+#include "testprogram.h"
 #include "ui_everywidget.h"
 
 #include <QFile>
@@ -163,5 +164,5 @@ void TestForms::putsChildrenIntoThePanel()
     QVERIFY(find("noteText")->isVisible());
 }
 
-QTEST_MAIN(TestForms)
+ADD_TEST(TestForms, QApplication)
 #include "tst_forms.moc"

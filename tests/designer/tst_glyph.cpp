@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "glyph.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -75,5 +76,5 @@ void TestGlyph::leavesTextsOfOtherLengthsAlone()
     QCOMPARE(glyphCode(QStringLiteral("abc")), QStringLiteral("abc"));
 }
 
-QTEST_MAIN(TestGlyph)
+ADD_TEST(TestGlyph, QApplication)
 #include "tst_glyph.moc"

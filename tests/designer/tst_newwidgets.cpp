@@ -3,6 +3,7 @@
 #include "deferred.h"
 #include "forms.h"
 #include "plugin.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -222,5 +223,5 @@ void TestNewWidgets::haveStringsOfOneLine()
     QCOMPARE(seenUntranslated, untranslated);
 }
 
-QTEST_MAIN(TestNewWidgets)
+ADD_TEST(TestNewWidgets, QApplication)
 #include "tst_newwidgets.moc"

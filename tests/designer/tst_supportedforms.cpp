@@ -2,6 +2,7 @@
 // A form that was drawn in Designer, loaded and given a form support in one line.
 #include "forms.h"
 #include "plugin.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -175,5 +176,5 @@ void TestSupportedForms::followTheirFontWhereTheMinimumIsReset()
     QVERIFY(find("volume")->minimumWidth() > 200);
 }
 
-QTEST_MAIN(TestSupportedForms)
+ADD_TEST(TestSupportedForms, QApplication)
 #include "tst_supportedforms.moc"

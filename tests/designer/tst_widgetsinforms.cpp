@@ -3,6 +3,7 @@
 #include "deferred.h"
 #include "forms.h"
 #include "plugin.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -183,5 +184,5 @@ void TestWidgetsInForms::makeAGridOnAFormActAsAWindow()
     QCOMPARE(form->height(), 40 + 2 * 15 + 2);
 }
 
-QTEST_MAIN(TestWidgetsInForms)
+ADD_TEST(TestWidgetsInForms, QApplication)
 #include "tst_widgetsinforms.moc"

@@ -2,6 +2,7 @@
 #include "deferred.h"
 #include "pointer.h"
 #include "surroundings.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestClassExamples)
+ADD_TEST(TestClassExamples, QApplication)
 #include "tst_classexamples.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exampleprogram.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -86,5 +87,5 @@ void TestExamplesOnBus::everyWidgetToUseHasAName()
     QTRY_COMPARE_WITH_TIMEOUT(listOfWidgets(example.processId()), widgets, patience);
 }
 
-QTEST_MAIN(TestExamplesOnBus)
+ADD_TEST(TestExamplesOnBus, QApplication)
 #include "tst_examplesonbus.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exampleprogram.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,9 +14,9 @@ namespace {
 /** The places of the bar's buttons, counted from the window's right edge. */
 enum Button { Open = 7, Save = 6, Float = 5, Bottom = 4, Top = 3, Close = 0 };
 
-constexpr QPoint writing(100, 150);
+constexpr QPoint inText(100, 150);
 
-QString title()
+QString editorTitle()
 {
     return QStringLiteral("Editor");
 }
@@ -41,7 +42,7 @@ private Q_SLOTS:
 
 private:
     void start(const QString &program = QStringLiteral(OLV_FRAMELESSEDITOR),
-               const QStringList &options = QStringList(), const QString &name = title());
+               const QStringList &options = QStringList(), const QString &name = editorTitle());
     void press(Button button);
     void write(const QString &text);
     void awaitDialog();
@@ -73,7 +74,7 @@ void TestFramelessEditor::press(Button button)
 
 void TestFramelessEditor::write(const QString &text)
 {
-    m_editor->click(writing);
+    m_editor->click(inText);
     QTRY_VERIFY_WITH_TIMEOUT(m_editor->isActive(), patience);
     m_editor->type(text);
 }
@@ -129,7 +130,7 @@ void TestFramelessEditor::staysBelowOrAboveOthers()
 {
     start();
     const auto stands = [&](bool below, bool above) {
-        const bool isThere = m_editor->findWindow(title());
+        const bool isThere = m_editor->findWindow(editorTitle());
         const QByteArray state = m_editor->property(QStringLiteral("_NET_WM_STATE"));
         return isThere && state.contains("_NET_WM_STATE_BELOW") == below
             && state.contains("_NET_WM_STATE_ABOVE") == above
@@ -149,7 +150,8 @@ void TestFramelessEditor::endsWhenItIsClosedAfloat_data()
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("name");
-    QTest::newRow("editor") << QStringLiteral(OLV_FRAMELESSEDITOR) << QStringList() << title();
+    QTest::newRow("editor") << QStringLiteral(OLV_FRAMELESSEDITOR) << QStringList()
+                            << editorTitle();
     QTest::newRow("gallery") << QStringLiteral(OLV_GALLERY)
                              << QStringList{ QStringLiteral("--frameless") }
                              << QStringLiteral("OlvWidgets gallery");
@@ -179,7 +181,7 @@ void TestFramelessEditor::asksBeforeUnsavedTextIsLost()
     press(Close);
     awaitDialog();
     m_editor->press(QStringLiteral("Escape"));
-    awaitWindow(title());
+    awaitWindow(editorTitle());
     QVERIFY(m_editor->isRunning());
 
     m_editor->close(); // by the window manager
@@ -209,7 +211,7 @@ void TestFramelessEditor::asksBeforeAnotherFileIsOpened()
     press(Open);
     awaitDialog();
     m_editor->press(QStringLiteral("Escape"));
-    awaitWindow(title());
+    awaitWindow(editorTitle());
 
     press(Open);
     awaitDialog();
@@ -267,5 +269,5 @@ void TestFramelessEditor::tellsThatItCouldNotSave()
     QCOMPARE(m_editor->read(name), QByteArray("older"));
 }
 
-QTEST_MAIN(TestFramelessEditor)
+ADD_TEST(TestFramelessEditor, QApplication)
 #include "tst_framelesseditor.moc"

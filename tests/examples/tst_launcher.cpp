@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exampleprogram.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <QFile>
 #include <QTest>
@@ -75,5 +76,5 @@ void TestLauncher::startsTheProgramThatIsDoubleClicked()
     QVERIFY(launcher.ends());
 }
 
-QTEST_MAIN(TestLauncher)
+ADD_TEST(TestLauncher, QApplication)
 #include "tst_launcher.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exampleprogram.h"
+#include "testprogram.h"
 
 #include <QDir>
 #include <QSqlDatabase>
@@ -19,7 +20,7 @@ constexpr int saveHeight = 32;
 constexpr int sliderHeight = 30;
 constexpr int rowHeight = 24 + 18; // a switch, and the gap below it
 
-QString title()
+QString settingsTitle()
 {
     return QStringLiteral("Settings");
 }
@@ -137,7 +138,8 @@ void TestSettingsDialog::open()
 {
     m_dialog->input().moveTo({ 1279, 799 }); // a button under the pointer has another colour
     QVERIFY(m_dialog->start());
-    QTRY_VERIFY_WITH_TIMEOUT(m_dialog->findWindow(title()) && m_dialog->isActive(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_dialog->findWindow(settingsTitle()) && m_dialog->isActive(),
+                             patience);
     QTRY_VERIFY_WITH_TIMEOUT(!saveButton(m_dialog->picture()).isNull(), patience);
 }
 
@@ -238,7 +240,7 @@ void TestSettingsDialog::switchIsStoredAsItWasWhileTheDialogOpens()
     query(QStringLiteral("UPDATE settings SET autostart = 1"));
     m_dialog->input().moveTo({ 1279, 799 });
     QVERIFY(m_dialog->start());
-    QTRY_VERIFY_WITH_TIMEOUT(m_dialog->findWindow(title()), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_dialog->findWindow(settingsTitle()), patience);
     QTRY_VERIFY_WITH_TIMEOUT(!saveButton(m_dialog->picture()).isNull(), patience);
     save();
     QCOMPARE(stored(), QStringLiteral("|1|1|60"));
@@ -273,5 +275,5 @@ void TestSettingsDialog::isWorkedWithTheKeyboardAlone()
     QCOMPARE(stored(), QStringLiteral("olive|0|1|99"));
 }
 
-QTEST_MAIN(TestSettingsDialog)
+ADD_TEST(TestSettingsDialog, QApplication)
 #include "tst_settingsdialog.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exampleprogram.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -14,7 +15,7 @@ constexpr QPoint addButton(211, 27);
 constexpr QPoint removeButton(237, 27);
 constexpr QPoint writing(100, 150);
 
-QString title()
+QString noteTitle()
 {
     return QStringLiteral("Note");
 }
@@ -47,7 +48,7 @@ void TestStickyNote::textIsStoredAsItIsWritten()
         return colorCount(note.picture().copy(60, 45, 70, 20)) > 1;
     };
     QVERIFY(note.start());
-    QTRY_VERIFY_WITH_TIMEOUT(note.findWindow(title()), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(note.findWindow(noteTitle()), patience);
     QTRY_VERIFY_WITH_TIMEOUT(isInviting(), patience);
     // a note is shown first, and put into its place then
     QTRY_COMPARE_WITH_TIMEOUT(note.geometry().topLeft(), QPoint(120, 90), patience);
@@ -61,7 +62,7 @@ void TestStickyNote::textIsStoredAsItIsWritten()
     QVERIFY2(note.read(store()).contains("place=@Point(120 90)\n"), note.read(store()).constData());
 
     QVERIFY(note.start());
-    QTRY_VERIFY_WITH_TIMEOUT(note.findWindow(title()), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(note.findWindow(noteTitle()), patience);
     QTRY_VERIFY_WITH_TIMEOUT(colorCount(note.picture().copy(14, 45, 16, 20)) > 3, patience);
     QVERIFY(!isInviting());
     note.close();
@@ -78,7 +79,7 @@ void TestStickyNote::severalComeBackToTheirPlaces()
     QTRY_COMPARE_WITH_TIMEOUT(notes.windowCount(), 2, patience);
     const auto places = [&] {
         QList<QPoint> result;
-        for (int i = 0; notes.findWindow(title(), i); ++i) {
+        for (int i = 0; notes.findWindow(noteTitle(), i); ++i) {
             result << notes.geometry().topLeft();
         }
         return result;
@@ -95,7 +96,7 @@ void TestStickyNote::placeIsStoredWhereItIsDraggedTo()
     ExampleProgram note(QStringLiteral(OLV_STICKYNOTE));
     note.write(store(), milk);
     QVERIFY(note.start());
-    QTRY_VERIFY_WITH_TIMEOUT(note.findWindow(title()), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(note.findWindow(noteTitle()), patience);
     QTRY_COMPARE_WITH_TIMEOUT(note.geometry().topLeft(), QPoint(200, 150), patience);
     QTRY_VERIFY_WITH_TIMEOUT(colorCount(note.picture()) > 20, patience);
     note.input().moveTo({ 300, 153 });
@@ -117,7 +118,7 @@ void TestStickyNote::oneThatIsThrownAwayDoesNotComeBack()
     QVERIFY(notes.start());
     QTRY_COMPARE_WITH_TIMEOUT(notes.windowCount(), 2, patience);
     const auto findSecond = [&] {
-        for (int i = 0; notes.findWindow(title(), i); ++i) {
+        for (int i = 0; notes.findWindow(noteTitle(), i); ++i) {
             if (notes.geometry().topLeft() == QPoint(600, 300)) {
                 return true;
             }
@@ -138,11 +139,11 @@ void TestStickyNote::anotherComesBackAsWell()
     ExampleProgram notes(QStringLiteral(OLV_STICKYNOTE));
     notes.write(store(), milk);
     QVERIFY(notes.start());
-    QTRY_VERIFY_WITH_TIMEOUT(notes.findWindow(title()), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(notes.findWindow(noteTitle()), patience);
     QTRY_COMPARE_WITH_TIMEOUT(notes.geometry().topLeft(), QPoint(200, 150), patience);
     QTRY_VERIFY_WITH_TIMEOUT(colorCount(notes.picture()) > 20, patience);
     notes.click(addButton);
-    QTRY_VERIFY_WITH_TIMEOUT(notes.findWindow(title(), 1), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(notes.findWindow(noteTitle(), 1), patience);
     QTRY_COMPARE_WITH_TIMEOUT(notes.geometry().topLeft(), QPoint(240, 190), patience);
     notes.click(writing);
     QTRY_VERIFY_WITH_TIMEOUT(notes.isActive(), patience);
@@ -166,7 +167,7 @@ void TestStickyNote::pinKeepsItOnTopOrNot()
         }
         const bool onTop = clicks != 1;
         const auto stays = [&] {
-            return note.findWindow(title()) && note.geometry().topLeft() == QPoint(120, 90)
+            return note.findWindow(noteTitle()) && note.geometry().topLeft() == QPoint(120, 90)
                 && note.property(QStringLiteral("_NET_WM_STATE")).contains("_NET_WM_STATE_ABOVE")
                 == onTop;
         };
@@ -174,5 +175,5 @@ void TestStickyNote::pinKeepsItOnTopOrNot()
     }
 }
 
-QTEST_MAIN(TestStickyNote)
+ADD_TEST(TestStickyNote, QApplication)
 #include "tst_stickynote.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deferred.h"
 #include "pixels.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QGraphicsBlurEffect>
@@ -189,5 +190,5 @@ void TestDisabledLook::isNotForContainers()
     QVERIFY(button->graphicsEffect());
 }
 
-QTEST_MAIN(TestDisabledLook)
+ADD_TEST(TestDisabledLook, QApplication)
 #include "tst_disabledlook.moc"

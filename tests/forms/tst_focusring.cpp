@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ringaround.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -395,5 +396,5 @@ void TestFocusRing::movesToAnotherWindowWithItsWidget()
     QCOMPARE(placeOf(*ringIn(other)), placeAround(*button));
 }
 
-QTEST_MAIN(TestFocusRing)
+ADD_TEST(TestFocusRing, QApplication)
 #include "tst_focusring.moc"

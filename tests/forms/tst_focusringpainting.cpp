@@ -2,6 +2,7 @@
 #include "paintwatch.h"
 #include "pixels.h"
 #include "ringaround.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -193,5 +194,5 @@ void TestFocusRingPainting::isLeftAloneByWidgetsThatItHasLeft()
     QVERIFY(isRaised());
 }
 
-QTEST_MAIN(TestFocusRingPainting)
+ADD_TEST(TestFocusRingPainting, QApplication)
 #include "tst_focusringpainting.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What a form support costs each widget: bytes of heap, and timers.
 #include "deferred.h"
+#include "makewidget.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -32,13 +34,11 @@ namespace {
 
 constexpr int widgetCount = 100;
 
-using Make = QWidget *(*)();
-
 /** A shown window full of widgets of one kind, at their natural sizes in either case. */
 class Window : public QWidget
 {
 public:
-    Window(Make make, OlvFormSupport::Features features)
+    Window(MakeWidget make, OlvFormSupport::Features features)
     {
         setLayoutDirection(Qt::RightToLeft);
         auto *column = new QVBoxLayout(this);
@@ -117,7 +117,7 @@ double heapLeftBehind()
 }
 
 /** The heap in use while a window is shown, in bytes. */
-double heapOfShown(Make make, OlvFormSupport::Features features)
+double heapOfShown(MakeWidget make, OlvFormSupport::Features features)
 {
     const Window window(make, features);
     return heapInUse();
@@ -136,8 +136,6 @@ int timerCount(const QWidget &window)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Make)
 
 class TestFormCosts : public QObject
 {
@@ -169,8 +167,8 @@ private:
 
 void TestFormCosts::addKinds()
 {
-    QTest::addColumn<Make>("make");
-    const QVector<QPair<const char *, Make>> kinds{
+    QTest::addColumn<MakeWidget>("make");
+    const QVector<QPair<const char *, MakeWidget>> kinds{
         { "line edit",
           []() -> QWidget * {
               return new OlvLineEdit;
@@ -215,7 +213,7 @@ void TestFormCosts::addKinds()
 void TestFormCosts::isLittleHeap()
 {
 #ifdef OLV_HAS_HEAP_FIGURES
-    QFETCH(Make, make);
+    QFETCH(MakeWidget, make);
     double bytes = std::numeric_limits<double>::max();
     for (int i = 0; i < rounds; ++i) { // the first ones fill caches of Qt's
         const double without = heapOfShown(make, {});
@@ -233,7 +231,7 @@ void TestFormCosts::isLittleHeap()
 
 void TestFormCosts::isNoTimer()
 {
-    QFETCH(Make, make);
+    QFETCH(MakeWidget, make);
     const Window without(make, {});
     const Window with(make, OlvFormSupport::AllFeatures);
     QCOMPARE(timerCount(with), timerCount(without));
@@ -253,5 +251,5 @@ void TestFormCosts::goesWithTheWidgets()
 #endif
 }
 
-QTEST_MAIN(TestFormCosts)
+ADD_TEST(TestFormCosts, QApplication)
 #include "tst_formcosts.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Supports, forms and widgets that are deleted while a support is at work.
 #include "ringaround.h"
+#include "servedbutton.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -11,12 +13,6 @@
 #include <utility>
 
 namespace {
-
-/** A button takes the focus where a support serves it, and nowhere else. */
-bool isServed(const QWidget &button)
-{
-    return button.focusPolicy() != Qt::NoFocus;
-}
 
 /** A button that does something when the pointer leaves it. */
 class ActingButton : public OlvButton
@@ -44,11 +40,6 @@ public:
         return event->type() == QEvent::Destroy;
     }
 };
-
-OlvButton *addButton(QWidget *parent)
-{
-    return new OlvButton(QStringLiteral("Save"), parent);
-}
 
 } // namespace
 
@@ -182,5 +173,5 @@ void TestFormDeletion::isStoodWhereTheSupportDoesNotHearOfIt()
     QVERIFY(hasRing(window));
 }
 
-QTEST_MAIN(TestFormDeletion)
+ADD_TEST(TestFormDeletion, QApplication)
 #include "tst_formdeletion.moc"

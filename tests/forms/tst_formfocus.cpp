@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Where the focus is in a form, and where it goes.
 #include "notingform.h"
+#include "testprogram.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -325,5 +326,5 @@ void TestFormFocus::followsTheMouse()
     }
 }
 
-QTEST_MAIN(TestFormFocus)
+ADD_TEST(TestFormFocus, QApplication)
 #include "tst_formfocus.moc"

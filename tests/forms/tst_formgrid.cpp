@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gridscene.h"
 #include "notingform.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 #include <OlvFormSupport>
@@ -300,5 +301,5 @@ void TestFormGrid::survivesDeletionByTheFocus()
     QCOMPARE(scene.focused(), 1);
 }
 
-QTEST_MAIN(TestFormGrid)
+ADD_TEST(TestFormGrid, QApplication)
 #include "tst_formgrid.moc"

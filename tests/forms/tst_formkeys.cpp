@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "notingform.h"
+#include "testprogram.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -252,5 +253,5 @@ void TestFormKeys::leaveKeysToFiltersOfTheApplication()
     QCOMPARE(clicked.count(), 0);
 }
 
-QTEST_MAIN(TestFormKeys)
+ADD_TEST(TestFormKeys, QApplication)
 #include "tst_formkeys.moc"

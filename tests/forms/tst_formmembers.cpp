@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Which widgets a support serves: those of its form, whenever and however they come and go.
 #include "deferred.h"
+#include "servedbutton.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QDialog>
@@ -13,20 +15,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-namespace {
-
-/** A button takes the focus where a support serves it, and nowhere else. */
-bool isServed(const QWidget &button)
-{
-    return button.focusPolicy() != Qt::NoFocus;
-}
-
-OlvButton *addButton(QWidget *parent)
-{
-    return new OlvButton(QStringLiteral("Save"), parent);
-}
-
-} // namespace
+namespace { } // namespace
 
 class TestFormMembers : public QObject
 {
@@ -380,5 +369,5 @@ void TestFormMembers::needNoForm()
     QVERIFY(!isServed(*button));
 }
 
-QTEST_MAIN(TestFormMembers)
+ADD_TEST(TestFormMembers, QApplication)
 #include "tst_formmembers.moc"

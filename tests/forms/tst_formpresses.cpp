@@ -2,6 +2,7 @@
 // What Space and Enter do to buttons and tiles.
 #include "notingform.h"
 #include "paintwatch.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -249,5 +250,5 @@ void TestFormPresses::standADeletion()
     delete form;
 }
 
-QTEST_MAIN(TestFormPresses)
+ADD_TEST(TestFormPresses, QApplication)
 #include "tst_formpresses.moc"

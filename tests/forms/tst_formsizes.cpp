@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "makewidget.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QLineEdit>
@@ -6,8 +8,6 @@
 #include <QTest>
 
 namespace {
-
-using Make = QWidget *(*)();
 
 template <class Widget> QWidget *make()
 {
@@ -27,11 +27,9 @@ QWidget *makeBar()
 
 constexpr int smallest = 20;
 /** A caption gets smaller where it does not fit into its button; this is what it has at first. */
-constexpr int captionPointSize = 9;
+constexpr int fullPointSize = 9;
 
 } // namespace
-
-Q_DECLARE_METATYPE(Make)
 
 class TestFormSizes : public QObject
 {
@@ -60,7 +58,7 @@ private Q_SLOTS:
 
 void TestFormSizes::areLargeEnoughInABareForm_data()
 {
-    QTest::addColumn<Make>("make");
+    QTest::addColumn<MakeWidget>("make");
     QTest::newRow("OlvButton") << &make<OlvButton>;
     QTest::newRow("OlvIconButton") << &make<OlvIconButton>;
     QTest::newRow("OlvIconButton with a glyph") << &makeTile;
@@ -77,7 +75,7 @@ void TestFormSizes::areLargeEnoughInABareForm_data()
 
 void TestFormSizes::areLargeEnoughInABareForm()
 {
-    QFETCH(Make, make);
+    QFETCH(MakeWidget, make);
     QWidget window;
     auto *rows = new QFormLayout(&window);
     rows->setSizeConstraint(QLayout::SetNoConstraint);
@@ -175,9 +173,9 @@ void TestFormSizes::showACaptionAtItsFullSize()
     new OlvFormSupport(&form);
     QFont font = form.font();
     font.setFamily(QStringLiteral("宋体"));
-    font.setPointSize(captionPointSize);
+    font.setPointSize(fullPointSize);
     QCOMPARE(OlvGlobal::adaptDocumentToPointSize(caption, form.save->minimumSize(), font),
-             captionPointSize);
+             fullPointSize);
 }
 
 void TestFormSizes::followTheCaption()
@@ -351,5 +349,5 @@ void TestFormSizes::areSwitchedOnAndOff()
     QCOMPARE(form.save->minimumSize(), QSize(0, 0));
 }
 
-QTEST_MAIN(TestFormSizes)
+ADD_TEST(TestFormSizes, QApplication)
 #include "tst_formsizes.moc"

@@ -3,6 +3,7 @@
 #include "deferred.h"
 #include "gridscene.h"
 #include "onevent.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 #include <OlvFormSupport>
@@ -189,5 +190,5 @@ void TestMirroredGrid::standsADeletion()
     QCOMPARE(scene.grid->count(), 10);
 }
 
-QTEST_MAIN(TestMirroredGrid)
+ADD_TEST(TestMirroredGrid, QApplication)
 #include "tst_mirroredgrid.moc"

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Which widgets are mirrored and when, and what is left of that.
 #include "deferred.h"
+#include "mirrored.h"
 #include "onevent.h"
 #include "pixels.h"
 #include "sizedlineedit.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QHash>
@@ -13,14 +15,7 @@
 
 #include <algorithm>
 
-namespace {
-
-QRect mirrored(const QRect &rect, const QWidget *in)
-{
-    return QRect(QPoint(in->width() - rect.width() - rect.x(), rect.y()), rect.size());
-}
-
-} // namespace
+namespace { } // namespace
 
 class TestMirroredMembers : public QObject
 {
@@ -200,5 +195,5 @@ void TestMirroredMembers::standsADeletionWhileItMovesParts()
     QVERIFY(!form.grab().isNull());
 }
 
-QTEST_MAIN(TestMirroredMembers)
+ADD_TEST(TestMirroredMembers, QApplication)
 #include "tst_mirroredmembers.moc"

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Widgets that are laid out from the right to the left: places, the mouse and the keyboard.
 #include "deferred.h"
+#include "mirrored.h"
 #include "sizedlineedit.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <OlvFormSupport>
 
@@ -44,11 +46,6 @@ QPoint pointAt(const QWidget *widget, int x)
 {
     const bool isMirrored = widget->layoutDirection() == Qt::RightToLeft;
     return widget->mapTo(widget->window(), QPoint(isMirrored ? widget->width() - x : x, 12));
-}
-
-QRect mirrored(const QRect &rect, const QWidget *in)
-{
-    return QRect(QPoint(in->width() - rect.width() - rect.x(), rect.y()), rect.size());
 }
 
 } // namespace
@@ -322,5 +319,5 @@ void TestMirroring::followsTheDirectionDuringADrag()
     QCOMPARE(knob->geometry(), knobOf(*other.widget)->geometry());
 }
 
-QTEST_MAIN(TestMirroring)
+ADD_TEST(TestMirroring, QApplication)
 #include "tst_mirroring.moc"

@@ -5,6 +5,7 @@
 #include "sizedlineedit.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -31,7 +32,7 @@ QImage mirrorImage(const QImage &image)
 /** Qt rounds curves to one side, and blends them with the ground in one step or in two. */
 constexpr int roundingError = 3;
 
-using Make = QWidget *(*)(QWidget *parent);
+using MakeIn = QWidget *(*)(QWidget *parent);
 
 OlvSlider *slider(QWidget *parent, int percent)
 {
@@ -56,7 +57,7 @@ template <bool on, int steps> QWidget *sliding(QWidget *parent)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Make)
+Q_DECLARE_METATYPE(MakeIn)
 
 class TestMirroringPainting : public QObject
 {
@@ -77,9 +78,9 @@ private Q_SLOTS:
 
 void TestMirroringPainting::isTheOtherDirectionInAMirror_data()
 {
-    QTest::addColumn<Make>("make");
+    QTest::addColumn<MakeIn>("make");
     QTest::addColumn<qreal>("ratio");
-    const QVector<QPair<const char *, Make>> kinds{
+    const QVector<QPair<const char *, MakeIn>> kinds{
         { "slider at 0",
           [](QWidget *parent) -> QWidget * {
               return slider(parent, 0);
@@ -120,7 +121,7 @@ void TestMirroringPainting::isTheOtherDirectionInAMirror_data()
 
 void TestMirroringPainting::isTheOtherDirectionInAMirror()
 {
-    QFETCH(Make, make);
+    QFETCH(MakeIn, make);
     QFETCH(qreal, ratio);
     QWidget window;
     window.resize(300, 100);
@@ -236,5 +237,5 @@ void TestMirroringPainting::isDrawnInRotatedPictures()
     COMPARE_PICTURES(image.transformed(QTransform().rotate(-90)), upright);
 }
 
-QTEST_MAIN(TestMirroringPainting)
+ADD_TEST(TestMirroringPainting, QApplication)
 #include "tst_mirroringpainting.moc"

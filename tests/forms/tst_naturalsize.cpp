@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // OlvFormSupport::naturalSize(): in exact figures, from the metrics of fonts.
 #include "deferred.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -289,5 +290,5 @@ void TestNaturalSize::isUnknownOfOtherWidgets()
     QVERIFY(!OlvFormSupport::naturalSize(edit.lineEdit()).isValid());
 }
 
-QTEST_MAIN(TestNaturalSize)
+ADD_TEST(TestNaturalSize, QApplication)
 #include "tst_naturalsize.moc"

@@ -5,6 +5,7 @@
 #include "fakeshortcut.h"
 #include "pixels.h"
 #include "sizedlineedit.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -357,5 +358,5 @@ void TestReadableText::keepsTheHue()
     QVERIFY(color.red() > 2 * color.green());
 }
 
-QTEST_MAIN(TestReadableText)
+ADD_TEST(TestReadableText, QApplication)
 #include "tst_readabletext.moc"

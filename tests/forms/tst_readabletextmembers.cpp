@@ -5,6 +5,7 @@
 #include "pixels.h"
 #include "resolvemask.h"
 #include "sizedlineedit.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -347,5 +348,5 @@ void TestReadableTextMembers::standsADeletion()
     QVERIFY(!form.grab().isNull());
 }
 
-QTEST_MAIN(TestReadableTextMembers)
+ADD_TEST(TestReadableTextMembers, QApplication)
 #include "tst_readabletextmembers.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Which colour is painted where a style sheet of the application's has one for a text.
 #include "contrast.h"
+#include "testprogram.h"
 #include "widgetform.h"
 
 #include <QApplication>
@@ -68,5 +69,5 @@ void TestTextSheets::leavesTheColorOfAStyleSheet()
     QVERIFY(paints(color));
 }
 
-QTEST_MAIN(TestTextSheets)
+ADD_TEST(TestTextSheets, QApplication)
 #include "tst_textsheets.moc"

@@ -4,6 +4,7 @@
 #include "recordform.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QTest>
@@ -13,14 +14,11 @@
 
 namespace {
 
-constexpr int animationTime = 250; // milliseconds
+constexpr int switchingTime = 250; // milliseconds
 constexpr int hurry = 20;          // milliseconds
-
-using Action = std::function<void(RecordForm &)>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(Action)
 Q_DECLARE_METATYPE(QDataWidgetMapper::SubmitPolicy)
 
 class TestValueDelegate : public QObject
@@ -111,7 +109,7 @@ void TestValueDelegate::navigatesInAHurry()
         QCOMPARE(form.notify->getValue(), QVariant(true));
         QCOMPARE(knobOf(*form.notify)->x(), 40);
     }
-    QTest::qWait(animationTime + hurry);
+    QTest::qWait(switchingTime + hurry);
     QCOMPARE(form.notify->getValue(), QVariant(true));
     QCOMPARE(RecordDatabase::stored(), before);
     for (int column = NameColumn; column < ColumnCount; ++column) {
@@ -125,14 +123,14 @@ void TestValueDelegate::storesWhatTheUserDoes_data()
     QTest::addColumn<bool>("backwards");
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("column");
-    QTest::addColumn<Action>("act");
+    QTest::addColumn<RecordAction>("act");
     QTest::addColumn<QVariant>("value");
 
     const struct
     {
         const char *name;
         Column column;
-        Action act;
+        RecordAction act;
         QVariant values[3]; // in each of the records
     } widgets[] = {
         { "line edit",
@@ -185,7 +183,7 @@ void TestValueDelegate::storesWhatTheUserDoes()
     QFETCH(bool, backwards);
     QFETCH(int, row);
     QFETCH(int, column);
-    QFETCH(Action, act);
+    QFETCH(RecordAction, act);
     QFETCH(QVariant, value);
     RecordForm form(policy);
     form.show();
@@ -207,7 +205,7 @@ void TestValueDelegate::storesWhatTheUserDoes()
     backwards ? form.mapper.toNext() : form.mapper.toPrevious();
     QCOMPARE(form.model.index(row, column).data(), value);
     if (column == NotifyColumn) {
-        QTest::qWait(animationTime);
+        QTest::qWait(switchingTime);
     }
     QCOMPARE(RecordDatabase::stored(), expected);
 }
@@ -270,7 +268,7 @@ void TestValueDelegate::storesTheSwitchThatStillSlides()
     form.mapper.toNext();
     QVERIFY(!form.notify->isChecked());
     QCOMPARE(knobOf(*form.notify)->x(), 0);
-    QTest::qWait(animationTime + hurry);
+    QTest::qWait(switchingTime + hurry);
     QCOMPARE(RecordDatabase::stored(0, NotifyColumn), QVariant(0));
     QCOMPARE(RecordDatabase::stored(1, NotifyColumn), QVariant(0));
     form.mapper.toPrevious();
@@ -283,7 +281,7 @@ void TestValueDelegate::aSecondClickIsNotTakenForTheNextRecord()
     releaseMouse(*form.notify);
     releaseMouse(*form.notify); // before the first step: the switch would flip back and forth
     form.mapper.toNext();
-    QTest::qWait(3 * animationTime);
+    QTest::qWait(3 * switchingTime);
     QCOMPARE(form.notify->getValue(), QVariant(false));
     QCOMPARE(RecordDatabase::stored(1, NotifyColumn), QVariant(0));
 }
@@ -358,21 +356,22 @@ void TestValueDelegate::submitsASliderThatIsHiddenDuringADrag()
 
 void TestValueDelegate::standsADeletionWhileItStores_data()
 {
-    QTest::addColumn<Action>("act");
-    QTest::newRow("line edit") << Action(
+    QTest::addColumn<RecordAction>("act");
+    QTest::newRow("line edit") << RecordAction(
         [](RecordForm &form) { type(*form.name, QStringLiteral("Eve")); });
-    QTest::newRow("switch") << Action([](RecordForm &form) { releaseMouse(*form.notify); });
-    QTest::newRow("slider") << Action([](RecordForm &form) { dragKnobToTheEnd(*form.volume); });
-    QTest::newRow("tile") << Action([](RecordForm &form) { click(*form.tile); });
-    QTest::newRow("button") << Action([](RecordForm &form) { form.starred->setValue(true); });
-    QTest::newRow("shortcut edit") << Action([](RecordForm &form) {
+    QTest::newRow("switch") << RecordAction([](RecordForm &form) { releaseMouse(*form.notify); });
+    QTest::newRow("slider") << RecordAction(
+        [](RecordForm &form) { dragKnobToTheEnd(*form.volume); });
+    QTest::newRow("tile") << RecordAction([](RecordForm &form) { click(*form.tile); });
+    QTest::newRow("button") << RecordAction([](RecordForm &form) { form.starred->setValue(true); });
+    QTest::newRow("shortcut edit") << RecordAction([](RecordForm &form) {
         form.keys->setShortcut(new FakeShortcut(QStringLiteral("Ctrl+F6")));
     });
 }
 
 void TestValueDelegate::standsADeletionWhileItStores()
 {
-    QFETCH(Action, act);
+    QFETCH(RecordAction, act);
     RecordForm form;
     const QObjectList widgets = form.children();
     connect(&form.model, &QAbstractItemModel::dataChanged, this, [&] {
@@ -384,5 +383,5 @@ void TestValueDelegate::standsADeletionWhileItStores()
     QVERIFY(form.children().size() < widgets.size());
 }
 
-QTEST_MAIN(TestValueDelegate)
+ADD_TEST(TestValueDelegate, QApplication)
 #include "tst_valuedelegate.moc"

@@ -3,6 +3,7 @@
 #include "lateform.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 #include <OlvIconButton>
@@ -390,5 +391,5 @@ void TestValueEditors::leavesTheKeysToALineThatIsNoLongerMapped()
     QVERIFY(dialog.isVisible());
 }
 
-QTEST_MAIN(TestValueEditors)
+ADD_TEST(TestValueEditors, QApplication)
 #include "tst_valueeditors.moc"

@@ -4,6 +4,7 @@
 #include "recordform.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -18,8 +19,6 @@
 namespace {
 
 constexpr int slidingTime = 300; // milliseconds
-
-using Action = std::function<void(RecordForm &)>;
 
 /** What the widgets of a form show, and where their knobs stand. */
 QVariantList shownIn(const RecordForm &form)
@@ -75,7 +74,6 @@ QVariantList leftByEscape(QDialog &dialog, const QStandardItemModel &model, QWid
 
 } // namespace
 
-Q_DECLARE_METATYPE(Action)
 Q_DECLARE_METATYPE(QSqlTableModel::EditStrategy)
 
 class TestValueSubmits : public QObject
@@ -112,9 +110,9 @@ void TestValueSubmits::cleanup()
 
 void TestValueSubmits::dropsWhatIsNotSubmittedBeforeTheNextRecord_data()
 {
-    QTest::addColumn<Action>("act");
+    QTest::addColumn<RecordAction>("act");
     QTest::addColumn<bool>("backwards");
-    const QVector<QPair<const char *, Action>> actions{
+    const QVector<QPair<const char *, RecordAction>> actions{
         { "line edit",
           [](RecordForm &form) {
               type(*form.name, QStringLiteral("Eve"));
@@ -154,7 +152,7 @@ void TestValueSubmits::dropsWhatIsNotSubmittedBeforeTheNextRecord_data()
 
 void TestValueSubmits::dropsWhatIsNotSubmittedBeforeTheNextRecord()
 {
-    QFETCH(Action, act);
+    QFETCH(RecordAction, act);
     QFETCH(bool, backwards);
     const int row = backwards ? 1 : 0;
     const QVector<QVariantList> before = RecordDatabase::stored();
@@ -343,5 +341,5 @@ void TestValueSubmits::leavesAtEscapeWhatAShortcutEditOfQtsLeaves()
     QCOMPARE(play(new OlvShortcutEdit(nullptr), {}), expected);
 }
 
-QTEST_MAIN(TestValueSubmits)
+ADD_TEST(TestValueSubmits, QApplication)
 #include "tst_valuesubmits.moc"

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Texts that a validator refuses: an OlvLineEdit holds them back where a QLineEdit does.
+#include "testprogram.h"
+
 #include <OlvFormSupport>
 #include <OlvLineEdit>
 #include <OlvValueDelegate>
@@ -287,5 +289,5 @@ void TestValueValidators::standsADeletionByAFixUp()
     QVERIFY(!model.index(0, 0).data().isValid());
 }
 
-QTEST_MAIN(TestValueValidators)
+ADD_TEST(TestValueValidators, QApplication)
 #include "tst_valuevalidators.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvAutoDestroy>
 
 #include <QTest>
@@ -182,5 +184,5 @@ void TestAutoDestroy::cannotBeCopied()
     QVERIFY(!std::is_copy_assignable<OlvAutoDestroy>::value);
 }
 
-QTEST_APPLESS_MAIN(TestAutoDestroy)
+ADD_TEST(TestAutoDestroy, NoApplication)
 #include "tst_autodestroy.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvWidgets/foundation.h>
 
 #include <QTest>
@@ -108,5 +110,5 @@ void TestColors::packsChannelsAsQRgba()
     QCOMPARE(OlvColorToRgb(color), qRgba(color.red(), color.green(), color.blue(), color.alpha()));
 }
 
-QTEST_APPLESS_MAIN(TestColors)
+ADD_TEST(TestColors, NoApplication)
 #include "tst_colors.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fontfiles.h"
 #include "fontjobprogram.h"
+#include "testprogram.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -230,5 +231,5 @@ void TestFontFolders::takesStrangeNames()
     QVERIFY(lines.contains(QString(251, QLatin1Char('x')) + QLatin1String("=bad")));
 }
 
-QTEST_GUILESS_MAIN(TestFontFolders)
+ADD_TEST(TestFontFolders, QCoreApplication)
 #include "tst_fontfolders.moc"

@@ -2,6 +2,7 @@
 #include "fontfiles.h"
 #include "jobhold.h"
 #include "jobthreads.h"
+#include "testprogram.h"
 
 #include <OlvGlobal>
 
@@ -235,5 +236,5 @@ void TestFontJob::withoutADirectoryNothingIsRegistered()
     QVERIFY(QDir::setCurrent(m_home.path()));
 }
 
-QTEST_MAIN(TestFontJob)
+ADD_TEST(TestFontJob, QApplication)
 #include "tst_fontjob.moc"

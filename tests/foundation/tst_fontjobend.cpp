@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fontfiles.h"
 #include "fontjobprogram.h"
+#include "testprogram.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -80,5 +81,5 @@ void TestFontJobEnd::endsInTime()
     QVERIFY2(run.errors.contains(warning), qPrintable(run.errors));
 }
 
-QTEST_GUILESS_MAIN(TestFontJobEnd)
+ADD_TEST(TestFontJobEnd, QCoreApplication)
 #include "tst_fontjobend.moc"

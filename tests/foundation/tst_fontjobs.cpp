@@ -2,6 +2,7 @@
 #include "fontfiles.h"
 #include "jobhold.h"
 #include "jobthreads.h"
+#include "testprogram.h"
 
 #include <OlvGlobal>
 
@@ -108,5 +109,5 @@ void TestFontJobs::theGuiGetsFontsBetweenFiles()
     QVERIFY2(answers > jobs, QByteArray::number(answers).constData());
 }
 
-QTEST_MAIN(TestFontJobs)
+ADD_TEST(TestFontJobs, QApplication)
 #include "tst_fontjobs.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvGlobal>
 
 #include <QDir>
@@ -35,5 +37,5 @@ void TestFontJobWithoutGui::isNotStarted()
     QCOMPARE(OlvGlobal::DPI, 0.0);
 }
 
-QTEST_GUILESS_MAIN(TestFontJobWithoutGui)
+ADD_TEST(TestFontJobWithoutGui, QCoreApplication)
 #include "tst_fontjobwithoutgui.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvInt>
 
 #include <QTest>
@@ -135,5 +137,5 @@ void TestInt::staysAtAMinimumAboveTheMaximum()
     QCOMPARE(int(++number), 8);
 }
 
-QTEST_APPLESS_MAIN(TestInt)
+ADD_TEST(TestInt, NoApplication)
 #include "tst_int.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvLastOnceFunction>
 
 #include <QElapsedTimer>
@@ -146,5 +148,5 @@ void TestLastOnceFunction::anEmptyCallableThrowsOutOfTheLoop()
     QVERIFY_EXCEPTION_THROWN(runLoop(), std::bad_function_call);
 }
 
-QTEST_GUILESS_MAIN(TestLastOnceFunction)
+ADD_TEST(TestLastOnceFunction, QCoreApplication)
 #include "tst_lastoncefunction.moc"

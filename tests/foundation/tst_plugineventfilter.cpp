@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvPluginEventFilter>
 
 #include <QPointer>
@@ -351,5 +353,5 @@ void TestPluginEventFilter::whatAListenerHoldsMayDestroyTheFilterWhenItIsReplace
     QVERIFY(filter.isNull());
 }
 
-QTEST_GUILESS_MAIN(TestPluginEventFilter)
+ADD_TEST(TestPluginEventFilter, QCoreApplication)
 #include "tst_plugineventfilter.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
 #include "wrappedslowly.h"
 
 #include <OlvGlobal>
@@ -352,5 +353,5 @@ void TestTextFitting::handlesAMegabyteOfText()
     QCOMPARE(OlvGlobal::adaptDocumentToPointSize(words, { 100, 100 }, fixedFont()), 1);
 }
 
-QTEST_MAIN(TestTextFitting)
+ADD_TEST(TestTextFitting, QApplication)
 #include "tst_textfitting.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
 #include "wrappedslowly.h"
 
 #include <OlvGlobal>
@@ -96,5 +97,5 @@ void TestTextFittingRandom::findsTheSizeThatTryingEachFindsFromLargeSizes()
     }
 }
 
-QTEST_MAIN(TestTextFittingRandom)
+ADD_TEST(TestTextFittingRandom, QApplication)
 #include "tst_textfittingrandom.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <QGuiApplication>
 #include <QLibrary>
 #include <QTest>
@@ -29,5 +31,5 @@ void TestUnloading::aPluginOfWidgetsMayBeUnloaded()
     QVERIFY(plugin.unload());
 }
 
-QTEST_MAIN(TestUnloading)
+ADD_TEST(TestUnloading, QApplication)
 #include "tst_unloading.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvControlBar>
 
 #include <QHBoxLayout>
@@ -361,5 +363,5 @@ void TestControlBar::namesItsButtons()
     QCOMPARE(same.customButton(1)->toolTip(), QStringLiteral("Help"));
 }
 
-QTEST_MAIN(TestControlBar)
+ADD_TEST(TestControlBar, QApplication)
 #include "tst_controlbar.moc"

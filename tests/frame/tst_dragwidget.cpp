@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvDragWidget>
 
 #include <QTest>
@@ -26,5 +28,5 @@ void TestDragWidget::isAPlainWidgetWhateverItIsTold()
     }
 }
 
-QTEST_MAIN(TestDragWidget)
+ADD_TEST(TestDragWidget, QApplication)
 #include "tst_dragwidget.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mouse.h"
 #include "movablewidget.h"
+#include "testprogram.h"
 
 #include <OlvMoveWidget>
 #include <OlvPluginEventFilter>
@@ -326,5 +327,5 @@ void TestMoveWidget::survivesNumbersThatNoWidgetHas()
     QVERIFY(!mover.property("CanMove").toBool());
 }
 
-QTEST_MAIN(TestMoveWidget)
+ADD_TEST(TestMoveWidget, QApplication)
 #include "tst_movewidget.moc"

@@ -2,6 +2,7 @@
 #include "deferred.h"
 #include "onevent.h"
 #include "resizehandles.h"
+#include "testprogram.h"
 
 #include <OlvResizeWidget>
 
@@ -242,5 +243,5 @@ void TestResizeDrag::survivesNumbersThatNoWidgetHas()
     QVERIFY(target.width() <= 2000 && target.height() <= 2000);
 }
 
-QTEST_MAIN(TestResizeDrag)
+ADD_TEST(TestResizeDrag, QApplication)
 #include "tst_resizedrag.moc"

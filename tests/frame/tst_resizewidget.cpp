@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deferred.h"
 #include "resizehandles.h"
+#include "testprogram.h"
 
 #include <OlvResizeWidget>
 
@@ -229,5 +230,5 @@ void TestResizeWidget::survivesAResetWhileAHandleIsDestroyed()
     QCOMPARE(handles.bottom->geometry(), QRect(0, 95, 190, 5));
 }
 
-QTEST_MAIN(TestResizeWidget)
+ADD_TEST(TestResizeWidget, QApplication)
 #include "tst_resizewidget.moc"

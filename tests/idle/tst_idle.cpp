@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvWidgets/OlvWidgets>
 
 #include <QAbstractEventDispatcher>
@@ -204,5 +206,5 @@ void TestIdle::doesNothingWhileHidden()
     QCOMPARE(unrestOf(*m_window, updateAll), QStringList());
 }
 
-QTEST_MAIN(TestIdle)
+ADD_TEST(TestIdle, QApplication)
 #include "tst_idle.moc"

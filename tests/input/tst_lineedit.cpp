@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "sizedlineedit.h"
+#include "testprogram.h"
 
 #include <QFontMetrics>
 #include <QInputMethodEvent>
@@ -334,5 +335,5 @@ void TestLineEdit::survivesTheLossOfItsChildren()
     QVERIFY(!edit.grab().isNull());
 }
 
-QTEST_MAIN(TestLineEdit)
+ADD_TEST(TestLineEdit, QApplication)
 #include "tst_lineedit.moc"

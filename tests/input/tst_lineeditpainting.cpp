@@ -2,6 +2,7 @@
 #include "paintwatch.h"
 #include "pixels.h"
 #include "sizedlineedit.h"
+#include "testprogram.h"
 
 #include <QPainter>
 #include <QTest>
@@ -90,5 +91,5 @@ void TestLineEditPainting::survivesHostileProperties()
     }
 }
 
-QTEST_MAIN(TestLineEditPainting)
+ADD_TEST(TestLineEditPainting, QApplication)
 #include "tst_lineeditpainting.moc"

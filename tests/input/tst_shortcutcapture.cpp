@@ -2,6 +2,7 @@
 #include "keyplay.h"
 #include "paintwatch.h"
 #include "shortcutcapture.h"
+#include "testprogram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -147,5 +148,5 @@ void TestShortcutCapture::repaintsForEveryCombinationThatIsTried()
     QCOMPARE(seen, repaints);
 }
 
-QTEST_MAIN(TestShortcutCapture)
+ADD_TEST(TestShortcutCapture, QApplication)
 #include "tst_shortcutcapture.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fakeshortcut.h"
 #include "shortcutcapture.h"
+#include "testprogram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -193,5 +194,5 @@ void TestShortcutEdit::destructorDeletesWithoutDestroying()
     QCOMPARE(takeRecord(), QStringList({ QStringLiteral("one deleted") }));
 }
 
-QTEST_MAIN(TestShortcutEdit)
+ADD_TEST(TestShortcutEdit, QApplication)
 #include "tst_shortcutedit.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fakeshortcut.h"
 #include "keyplay.h"
+#include "testprogram.h"
 
 #include <OlvShortcutEdit>
 
@@ -153,5 +154,5 @@ void TestShortcutEditMisuse::hostilePropertiesNameNoShortcut()
     }
 }
 
-QTEST_MAIN(TestShortcutEditMisuse)
+ADD_TEST(TestShortcutEditMisuse, QApplication)
 #include "tst_shortcuteditmisuse.moc"

@@ -3,6 +3,7 @@
 #include "keyplay.h"
 #include "paintwatch.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <OlvShortcutEdit>
 
@@ -86,5 +87,5 @@ void TestShortcutEditPainting::drawsItsFocus()
     COMPARE_PICTURES(pictureOf(edit), pictureOf(expected));
 }
 
-QTEST_MAIN(TestShortcutEditPainting)
+ADD_TEST(TestShortcutEditPainting, QApplication)
 #include "tst_shortcuteditpainting.moc"

@@ -255,7 +255,7 @@ Subject viewport()
     return { QStringLiteral("viewport of an OlvGridLayout"), make, deeds };
 }
 
-Deed dragHandle(const char *name, OlvResizeItem *Handles::*handle)
+Deed dragPanelHandle(const char *name, OlvResizeItem *Handles::*handle)
 {
     return { QString::fromLatin1(name),
              [=](QWidget *panel) {
@@ -307,8 +307,8 @@ Subject panel()
                   Mouse::move(panel, { 35, 25 });
               },
               press, true },
-            dragHandle("drag the right edge", &Handles::right),
-            dragHandle("drag the corner", &Handles::corner),
+            dragPanelHandle("drag the right edge", &Handles::right),
+            dragPanelHandle("drag the corner", &Handles::corner),
         },
         true,
     };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "subjects.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -25,10 +26,5 @@ void TestDeletionByAssistants::survives()
     check(everySubject(), Listener::UpdateHandler);
 }
 
-int main(int argc, char **argv)
-{
-    Application application(argc, argv);
-    TestDeletionByAssistants test;
-    return QTest::qExec(&test, argc, argv);
-}
+ADD_TEST(TestDeletionByAssistants, Application)
 #include "tst_deletionbyassistants.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "subjects.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -25,10 +26,5 @@ void TestDeletionByFilters::survives()
     check(everySubject(), Listener::EventFilter);
 }
 
-int main(int argc, char **argv)
-{
-    Application application(argc, argv);
-    TestDeletionByFilters test;
-    return QTest::qExec(&test, argc, argv);
-}
+ADD_TEST(TestDeletionByFilters, Application)
 #include "tst_deletionbyfilters.moc"

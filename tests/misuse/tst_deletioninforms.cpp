@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deletion.h"
 #include "fakeshortcut.h"
+#include "testprogram.h"
 
 #include <OlvWidgets>
 
@@ -354,5 +355,5 @@ void TestDeletionInForms::survivesAMove()
     QVERIFY(!window.grab().isNull());
 }
 
-QTEST_MAIN(TestDeletionInForms)
+ADD_TEST(TestDeletionInForms, QApplication)
 #include "tst_deletioninforms.moc"

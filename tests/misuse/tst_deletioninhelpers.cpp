@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deletion.h"
 #include "gridscene.h"
+#include "testprogram.h"
 
 #include <OlvWidgets>
 
@@ -113,5 +114,5 @@ void TestDeletionInHelpers::survives()
     Deletion::check(emission, victim);
 }
 
-QTEST_MAIN(TestDeletionInHelpers)
+ADD_TEST(TestDeletionInHelpers, QApplication)
 #include "tst_deletioninhelpers.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "deletion.h"
 #include "fakeshortcut.h"
+#include "testprogram.h"
 
 #include <OlvWidgets>
 
@@ -200,5 +201,5 @@ void TestDeletionInSlots::survives()
     Deletion::check(emission, victim);
 }
 
-QTEST_MAIN(TestDeletionInSlots)
+ADD_TEST(TestDeletionInSlots, QApplication)
 #include "tst_deletioninslots.moc"

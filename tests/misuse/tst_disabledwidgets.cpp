@@ -5,6 +5,7 @@
 #include "resizehandles.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <OlvMoveWidget>
 #include <OlvResizeWidget>
@@ -214,5 +215,5 @@ void TestDisabledWidgets::resizeStops()
     QCOMPARE(target.size(), QSize(410, 320));
 }
 
-QTEST_MAIN(TestDisabledWidgets)
+ADD_TEST(TestDisabledWidgets, QApplication)
 #include "tst_disabledwidgets.moc"

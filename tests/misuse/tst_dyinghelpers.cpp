@@ -3,6 +3,7 @@
 #include "gridscene.h"
 #include "mouse.h"
 #include "resizehandles.h"
+#include "testprogram.h"
 
 #include <OlvControlBar>
 #include <OlvFlexWidget>
@@ -204,5 +205,5 @@ void TestDyingHelpers::standWhatComesMeanwhile()
     QVERIFY(!window.grab().isNull());
 }
 
-QTEST_MAIN(TestDyingHelpers)
+ADD_TEST(TestDyingHelpers, QApplication)
 #include "tst_dyinghelpers.moc"

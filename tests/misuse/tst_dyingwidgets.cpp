@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fakeshortcut.h"
 #include "pointer.h"
+#include "testprogram.h"
 
 #include <OlvIconButton>
 #include <OlvLineEdit>
@@ -97,5 +98,5 @@ void TestDyingWidgets::dyingFieldTakesNoShortcut()
     QVERIFY(takeRecord().contains(QStringLiteral("next deleted")));
 }
 
-QTEST_MAIN(TestDyingWidgets)
+ADD_TEST(TestDyingWidgets, QApplication)
 #include "tst_dyingwidgets.moc"

@@ -3,6 +3,7 @@
 #include "gridscene.h"
 #include "pointer.h"
 #include "sizedswitch.h"
+#include "testprogram.h"
 
 #include <OlvWidgets>
 
@@ -273,5 +274,5 @@ void TestHostileAddresses::propertyThatNamesADeadHelperUsesNone()
     QCOMPARE(holder.owner(widget)->property(holder.property), QVariant(dead));
 }
 
-QTEST_MAIN(TestHostileAddresses)
+ADD_TEST(TestHostileAddresses, QApplication)
 #include "tst_hostileaddresses.moc"

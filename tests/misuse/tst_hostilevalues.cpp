@@ -3,6 +3,7 @@
 #include "everywidget.h"
 #include "mouse.h"
 #include "pointer.h"
+#include "testprogram.h"
 #include "unheard.h"
 
 #include <QAccessible>
@@ -279,5 +280,5 @@ void TestHostileValues::hugeTextIsStood()
     QVERIFY(scene.isInBounds());
 }
 
-QTEST_MAIN(TestHostileValues)
+ADD_TEST(TestHostileValues, QApplication)
 #include "tst_hostilevalues.moc"

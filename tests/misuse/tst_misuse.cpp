@@ -4,6 +4,7 @@
 #include "mouse.h"
 #include "movablewidget.h"
 #include "sizedswitch.h"
+#include "testprogram.h"
 
 #include <OlvWidgets>
 
@@ -214,5 +215,5 @@ void TestMisuse::shortcutThatDestroysItselfInPlaceOfAnother()
     QCOMPARE(edit.property("HasOlvShortcut"), QVariant(false));
 }
 
-QTEST_MAIN(TestMisuse)
+ADD_TEST(TestMisuse, QApplication)
 #include "tst_misuse.moc"

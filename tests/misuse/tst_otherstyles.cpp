@@ -4,6 +4,7 @@
 #include "mouse.h"
 #include "pixels.h"
 #include "pointer.h"
+#include "testprogram.h"
 #include "unheard.h"
 
 #include <QApplication>
@@ -191,5 +192,5 @@ void TestOtherStyles::standsAnotherStyle()
     QVERIFY(!scene.window.grab().isNull());
 }
 
-QTEST_MAIN(TestOtherStyles)
+ADD_TEST(TestOtherStyles, QApplication)
 #include "tst_otherstyles.moc"

@@ -3,6 +3,7 @@
 #include "everywidget.h"
 #include "mouse.h"
 #include "pointer.h"
+#include "testprogram.h"
 #include "unheard.h"
 
 #include <QBuffer>
@@ -245,5 +246,5 @@ void TestVectorDevices::svgShowsTheSame()
     QVERIFY(looksLike(shown(svg, *m_widget), onScreen(*m_widget)));
 }
 
-QTEST_MAIN(TestVectorDevices)
+ADD_TEST(TestVectorDevices, QApplication)
 #include "tst_vectordevices.moc"

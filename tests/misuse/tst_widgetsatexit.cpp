@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <QProcess>
 #include <QTest>
 
@@ -41,5 +43,5 @@ void TestWidgetsAtExit::endsWithoutACrash()
     QCOMPARE(program.exitCode(), 0);
 }
 
-QTEST_MAIN(TestWidgetsAtExit)
+ADD_TEST(TestWidgetsAtExit, QApplication)
 #include "tst_widgetsatexit.moc"

@@ -48,3 +48,6 @@ int copiesIn(const Scene &scene, const Target &target, int pictures);
 
 /** Compares the third picture of @p scene with the reference. */
 void compareThirdPicture(const Scene &scene, const Target &target, bool *wasCopied);
+
+Q_DECLARE_METATYPE(Scene)
+Q_DECLARE_METATYPE(Target)

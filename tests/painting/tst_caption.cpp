@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "captionscene.h"
+#include "testprogram.h"
 
 #include <QPainter>
 #include <QRandomGenerator>
@@ -33,8 +34,6 @@ bool isShort(const QString &text)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Target)
 
 /** The pixels of captions, copied or not. */
 class TestCaption : public QObject
@@ -156,5 +155,5 @@ void TestCaption::smoothsAsTheFontsAreSetUp()
     }
 }
 
-QTEST_MAIN(TestCaption)
+ADD_TEST(TestCaption, QApplication)
 #include "tst_caption.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "captionscene.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QFile>
@@ -32,5 +33,5 @@ void TestCaptionApplications::noticesTheFontsOfEachApplication()
     }
 }
 
-QTEST_APPLESS_MAIN(TestCaptionApplications)
+ADD_TEST(TestCaptionApplications, NoApplication)
 #include "tst_captionapplications.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "captionscene.h"
+#include "testprogram.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -28,8 +29,6 @@ void setMeasuringScale(qreal dotsPerInch)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Scene)
-Q_DECLARE_METATYPE(Target)
 Q_DECLARE_METATYPE(Change)
 
 /** Which captions are copied, and which are written. */
@@ -255,5 +254,5 @@ void TestCaptionCopies::evictsTheLeastRecentlyUsed()
     QCOMPARE(copiesIn(numbered(0), {}, 1), 0);
 }
 
-QTEST_MAIN(TestCaptionCopies)
+ADD_TEST(TestCaptionCopies, QApplication)
 #include "tst_captioncopies.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "painting/contrast_p.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -103,5 +104,5 @@ void TestContrast::endsAtBlackOrWhite()
     QCOMPARE(Contrast::atLeast(22.0, Qt::red, QColor(128, 128, 128)), QColor(Qt::black));
 }
 
-QTEST_APPLESS_MAIN(TestContrast)
+ADD_TEST(TestContrast, NoApplication)
 #include "tst_contrast.moc"

@@ -3,6 +3,7 @@
 #include "painting/caption_p.h"
 #include "painting/shape_p.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -101,5 +102,5 @@ void TestOtherDevices::getTheCommands()
     QVERIFY(render(widget).size() > render(empty).size());
 }
 
-QTEST_MAIN(TestOtherDevices)
+ADD_TEST(TestOtherDevices, QApplication)
 #include "tst_otherdevices.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "painting/pixelcache_p.h"
+#include "testprogram.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -109,5 +110,5 @@ void TestPixelCache::isEmptyAfterClear()
     QCOMPARE(Pixels::existing, 0);
 }
 
-QTEST_APPLESS_MAIN(TestPixelCache)
+ADD_TEST(TestPixelCache, NoApplication)
 #include "tst_pixelcache.moc"

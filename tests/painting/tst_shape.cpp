@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pixels.h"
 #include "shapedrawing.h"
+#include "testprogram.h"
 
 #include <QPainter>
 #include <QRandomGenerator>
@@ -230,5 +231,5 @@ void TestShape::standsEveryRectangle()
     }
 }
 
-QTEST_MAIN(TestShape)
+ADD_TEST(TestShape, QApplication)
 #include "tst_shape.moc"

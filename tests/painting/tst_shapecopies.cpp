@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pixels.h"
 #include "shapedrawing.h"
+#include "testprogram.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -177,5 +178,5 @@ void TestShapeCopies::forgetsWhatIsOldest()
     QVERIFY(!isCopied(100));
 }
 
-QTEST_MAIN(TestShapeCopies)
+ADD_TEST(TestShapeCopies, QApplication)
 #include "tst_shapecopies.moc"

@@ -18,6 +18,8 @@
 #include <QSqlTableModel>
 #include <QTest>
 
+#include <functional>
+
 /** A table with a column for each kind of widget and three records, the last one of nulls. */
 constexpr const char *recordStatements[] = {
     ("CREATE TABLE people (id INTEGER PRIMARY KEY, name TEXT, notify BOOLEAN, volume INTEGER, "
@@ -147,3 +149,8 @@ inline void type(OlvLineEdit &edit, const QString &text)
     QTest::keyClicks(edit.lineEdit(), text);
     QTest::keyClick(edit.lineEdit(), Qt::Key_Return);
 }
+
+/** What a user does to a form, in the rows of a test. */
+using RecordAction = std::function<void(RecordForm &)>;
+
+Q_DECLARE_METATYPE(RecordAction)

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvShortcut>
 
 #include <QElapsedTimer>
@@ -86,5 +88,5 @@ void TestShortcut::isFoundByItsAddressWhileItLives()
     QCOMPARE(OlvShortcut::fromAddress(address), nullptr);
 }
 
-QTEST_MAIN(TestShortcut)
+ADD_TEST(TestShortcut, QApplication)
 #include "tst_shortcut.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvShortcut>
 
 #include <QTest>
@@ -55,5 +57,5 @@ void TestShortcutThreads::fromAddressFindsThoseOfOtherThreads()
     QCOMPARE(found, &shortcut);
 }
 
-QTEST_MAIN(TestShortcutThreads)
+ADD_TEST(TestShortcutThreads, QApplication)
 #include "tst_shortcutthreads.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvControlBar>
 #include <OlvGridLayout>
 #include <OlvLineEdit>
@@ -172,5 +174,5 @@ void TestTranslations::nameTheButtonThatRestores()
     QCOMPARE(maximise->toolTip(), QStringLiteral("Maximise"));
 }
 
-QTEST_MAIN(TestTranslations)
+ADD_TEST(TestTranslations, QApplication)
 #include "tst_translations.moc"

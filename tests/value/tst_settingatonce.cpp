@@ -2,6 +2,7 @@
 #include "mouse.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <QAbstractEventDispatcher>
 #include <QPointer>
@@ -284,5 +285,5 @@ void TestSettingAtOnce::needsNoKnob()
     QCOMPARE(toggle.getValue(), QVariant(true));
 }
 
-QTEST_MAIN(TestSettingAtOnce)
+ADD_TEST(TestSettingAtOnce, QApplication)
 #include "tst_settingatonce.moc"

@@ -3,6 +3,7 @@
 #include "paintwatch.h"
 #include "pixels.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <QPainter>
 #include <QSignalSpy>
@@ -167,5 +168,5 @@ void TestSlider::drawsTheKnob()
     COMPARE_PICTURES(pictureOf(*knob, ratio), pictureOf(expected, ratio));
 }
 
-QTEST_MAIN(TestSlider)
+ADD_TEST(TestSlider, QApplication)
 #include "tst_slider.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mouse.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -345,5 +346,5 @@ void TestSliderDrag::survivesADragWhileItIsDestroyed()
     QCOMPARE(x, 50);
 }
 
-QTEST_MAIN(TestSliderDrag)
+ADD_TEST(TestSliderDrag, QApplication)
 #include "tst_sliderdrag.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "sizedswitch.h"
+#include "testprogram.h"
 
 #include <OlvPluginEventFilter>
 
@@ -261,5 +262,5 @@ void TestSwitch::drawsAKnobWithAnyInset()
     }
 }
 
-QTEST_MAIN(TestSwitch)
+ADD_TEST(TestSwitch, QApplication)
 #include "tst_switch.moc"

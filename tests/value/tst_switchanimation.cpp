@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "paintwatch.h"
 #include "sizedswitch.h"
+#include "testprogram.h"
 
 #include <QAbstractEventDispatcher>
 #include <QRegularExpression>
@@ -236,5 +237,5 @@ void TestSwitchAnimation::secondStartBeforeTheFirstStepLeavesATimerBehind()
     toggle.killTimer(first);
 }
 
-QTEST_MAIN(TestSwitchAnimation)
+ADD_TEST(TestSwitchAnimation, QApplication)
 #include "tst_switchanimation.moc"

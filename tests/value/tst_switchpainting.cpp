@@ -2,6 +2,7 @@
 #include "paintwatch.h"
 #include "pixels.h"
 #include "sizedswitch.h"
+#include "testprogram.h"
 
 #include <QPainter>
 #include <QTest>
@@ -167,5 +168,5 @@ void TestSwitchPainting::drawsTheKnob()
     }
 }
 
-QTEST_MAIN(TestSwitchPainting)
+ADD_TEST(TestSwitchPainting, QApplication)
 #include "tst_switchpainting.moc"

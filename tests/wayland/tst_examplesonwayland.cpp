@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "compositor.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QFile>
@@ -223,5 +224,5 @@ void TestExamplesOnWayland::editorIsMovedAndClosed()
     clickToEnd(QPoint(moved.right() + 50 - 12, moved.top() + 18));
 }
 
-QTEST_MAIN(TestExamplesOnWayland)
+ADD_TEST(TestExamplesOnWayland, QApplication)
 #include "tst_examplesonwayland.moc"

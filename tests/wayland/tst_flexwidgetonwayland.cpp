@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "compositor.h"
 #include "deferred.h"
+#include "testprogram.h"
 
 #include <OlvFlexWidget>
 
@@ -98,5 +99,5 @@ void TestFlexWidgetOnWayland::childBecomesAWindowAndAChildAgain()
     QVERIFY(panel.isVisible());
 }
 
-QTEST_MAIN(TestFlexWidgetOnWayland)
+ADD_TEST(TestFlexWidgetOnWayland, QApplication)
 #include "tst_flexwidgetonwayland.moc"

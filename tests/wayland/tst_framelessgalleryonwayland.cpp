@@ -4,6 +4,7 @@
 #include "fakeportal.h"
 #include "framelesswindow.h"
 #include "gallerywindow.h"
+#include "testprogram.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -80,5 +81,5 @@ void TestFramelessGalleryOnWayland::isMovedMaximisedAndClosed()
     QTRY_VERIFY(!window.isVisible());
 }
 
-QTEST_MAIN(TestFramelessGalleryOnWayland)
+ADD_TEST(TestFramelessGalleryOnWayland, QApplication)
 #include "tst_framelessgalleryonwayland.moc"

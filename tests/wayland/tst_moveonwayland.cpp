@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "compositor.h"
+#include "testprogram.h"
 
 #include <OlvMoveWidget>
 #include <OlvPluginEventFilter>
@@ -262,5 +263,5 @@ void TestMoveOnWayland::listenerMayDeleteTheWindow()
     QTRY_VERIFY(!m_window);
 }
 
-QTEST_MAIN(TestMoveOnWayland)
+ADD_TEST(TestMoveOnWayland, QApplication)
 #include "tst_moveonwayland.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "compositor.h"
+#include "testprogram.h"
 
 #include <OlvMoveWidget>
 #include <OlvResizeWidget>
@@ -11,8 +12,8 @@
 
 namespace {
 
-constexpr QRgb windowColor = qRgb(30, 144, 255);
-constexpr QSize windowSize(400, 300);
+constexpr QRgb frameColor = qRgb(30, 144, 255);
+constexpr QSize startSize(400, 300);
 
 } // namespace
 
@@ -33,7 +34,7 @@ private Q_SLOTS:
 private:
     QRect area() const
     {
-        return m_compositor.areaOf(windowColor);
+        return m_compositor.areaOf(frameColor);
     }
     /** The handle that the screen shows at a place. */
     QWidget *handleAt(QPoint place) const
@@ -64,16 +65,16 @@ private:
 void TestResizeOnWayland::init()
 {
     m_window = std::make_unique<QWidget>(nullptr, Qt::FramelessWindowHint);
-    m_window->resize(windowSize);
+    m_window->resize(startSize);
     QPalette palette;
-    palette.setColor(QPalette::Window, QColor(windowColor));
+    palette.setColor(QPalette::Window, QColor(frameColor));
     m_window->setPalette(palette);
     auto *mover = new OlvMoveWidget(m_window.get());
     mover->setMoveArea(QRect(0, 0, 390, 40));
     m_resizer = new OlvResizeWidget(m_window.get(), 8);
     m_window->show();
-    m_area = m_compositor.waitFor(*m_window, windowColor);
-    QCOMPARE(m_area.size(), windowSize);
+    m_area = m_compositor.waitFor(*m_window, frameColor);
+    QCOMPARE(m_area.size(), startSize);
     // where it has room to grow
     m_compositor.drag(*m_window, m_area.topLeft() + QPoint(100, 20),
                       QPoint(101, 102) - m_area.topLeft());
@@ -127,8 +128,8 @@ void TestResizeOnWayland::resizesExactly()
         m_compositor.input.moveTo(start + QPoint(150, 90) * i / 50);
     }
     m_compositor.input.release();
-    QTRY_COMPARE(area(), QRect(m_area.topLeft(), windowSize + grows));
-    QCOMPARE(m_window->size(), windowSize + grows);
+    QTRY_COMPARE(area(), QRect(m_area.topLeft(), startSize + grows));
+    QCOMPARE(m_window->size(), startSize + grows);
     compareWithTold();
 }
 
@@ -154,7 +155,7 @@ void TestResizeOnWayland::isMaximisedAndRestored()
     m_window->showNormal();
     QTRY_COMPARE(area(), m_area);
     QVERIFY(!m_window->isMaximized());
-    QCOMPARE(m_window->size(), windowSize);
+    QCOMPARE(m_window->size(), startSize);
 }
 
 void TestResizeOnWayland::isMinimisedForGood()
@@ -178,8 +179,8 @@ void TestResizeOnWayland::isClosed()
     QVERIFY(m_window->close());
     QTRY_VERIFY(area().isNull());
     m_window->show();
-    QTRY_COMPARE(area().size(), windowSize);
+    QTRY_COMPARE(area().size(), startSize);
 }
 
-QTEST_MAIN(TestResizeOnWayland)
+ADD_TEST(TestResizeOnWayland, QApplication)
 #include "tst_resizeonwayland.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "keyplay.h"
 #include "portalscene.h"
+#include "testprogram.h"
 
 #include <OlvShortcutEdit>
 
@@ -151,5 +152,5 @@ void TestShortcutEditPortal::keepsWhatTheDesktopTakesBack()
     QCOMPARE(m_signals, QStringList());
 }
 
-QTEST_MAIN(TestShortcutEditPortal)
+ADD_TEST(TestShortcutEditPortal, QApplication)
 #include "tst_shortcuteditportal.moc"

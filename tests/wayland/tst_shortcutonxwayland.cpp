@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fakeportal.h"
 #include "notingshortcut.h"
+#include "testprogram.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -44,5 +45,5 @@ void TestShortcutOnXWayland::isOfThePortal()
     QTRY_COMPARE(shortcut.presses, 1);
 }
 
-QTEST_MAIN(TestShortcutOnXWayland)
+ADD_TEST(TestShortcutOnXWayland, QApplication)
 #include "tst_shortcutonxwayland.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "portalscene.h"
+#include "testprogram.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -279,5 +280,5 @@ void TestShortcutPortal::slotsMayDeleteIt()
     QTRY_VERIFY(!three);
 }
 
-QTEST_MAIN(TestShortcutPortal)
+ADD_TEST(TestShortcutPortal, QApplication)
 #include "tst_shortcutportal.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "portalscene.h"
+#include "testprogram.h"
 
 #include <QGuiApplication>
 #include <QTimer>
@@ -236,5 +237,5 @@ void TestShortcutPortalAnswers::programTellsItsName()
                            QStringLiteral("BindShortcuts org_example_recorder_CTRL_F6") }));
 }
 
-QTEST_MAIN(TestShortcutPortalAnswers)
+ADD_TEST(TestShortcutPortalAnswers, QApplication)
 #include "tst_shortcutportalanswers.moc"

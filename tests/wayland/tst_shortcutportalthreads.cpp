@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "portalscene.h"
+#include "testprogram.h"
 
 #include <QThread>
 
@@ -199,5 +200,5 @@ void TestShortcutPortalThreads::otherThreadsMayEndSessions()
     QVERIFY(one.active());
 }
 
-QTEST_MAIN(TestShortcutPortalThreads)
+ADD_TEST(TestShortcutPortalThreads, QApplication)
 #include "tst_shortcutportalthreads.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "notingshortcut.h"
+#include "testprogram.h"
 
 #include <QTest>
 
@@ -45,5 +46,5 @@ void TestShortcutWithoutBus::isToldInOneWarning()
     QCOMPARE(one.states, QVector<OlvShortcut::State>());
 }
 
-QTEST_MAIN(TestShortcutWithoutBus)
+ADD_TEST(TestShortcutWithoutBus, QApplication)
 #include "tst_shortcutwithoutbus.moc"

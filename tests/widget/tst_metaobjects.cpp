@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvSystemInfo/OlvSystemInfo>
 #include <OlvWidgets/OlvWidgets>
 
@@ -115,5 +117,5 @@ void TestMetaObjects::helpersHaveNone()
     QCOMPARE(&OlvPluginEventFilter::staticMetaObject, &QObject::staticMetaObject);
 }
 
-QTEST_MAIN(TestMetaObjects)
+ADD_TEST(TestMetaObjects, QApplication)
 #include "tst_metaobjects.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvWidget>
 
 #include <QInputMethodEvent>
@@ -163,5 +165,5 @@ void TestWidget::signalsBeforeTheBaseHandlesTheEvent()
     QVERIFY(!event.isAccepted());
 }
 
-QTEST_MAIN(TestWidget)
+ADD_TEST(TestWidget, QApplication)
 #include "tst_widget.moc"

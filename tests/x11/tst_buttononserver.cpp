@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <OlvButton>
 
@@ -122,5 +123,5 @@ void TestButtonOnServer::releasedOverItAfterAPressElsewhereDoesNothing()
     QCOMPARE(m_clicked->count(), 0);
 }
 
-QTEST_MAIN(TestButtonOnServer)
+ADD_TEST(TestButtonOnServer, QApplication)
 #include "tst_buttononserver.moc"

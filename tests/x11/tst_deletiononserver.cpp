@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "keyplay.h"
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <OlvShortcutEdit>
 
@@ -105,5 +106,5 @@ void TestDeletionOnServer::survivesDeletionByATypedShortcut()
     delete parent;
 }
 
-QTEST_MAIN(TestDeletionOnServer)
+ADD_TEST(TestDeletionOnServer, QApplication)
 #include "tst_deletiononserver.moc"

@@ -2,6 +2,7 @@
 #include "realinput.h"
 #include "sizedswitch.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <OlvMoveWidget>
 #include <OlvResizeWidget>
@@ -173,5 +174,5 @@ void TestDisabledOnServer::resizeStops()
     QCOMPARE(m_panel->geometry(), QRect(40, 40, 220, 130));
 }
 
-QTEST_MAIN(TestDisabledOnServer)
+ADD_TEST(TestDisabledOnServer, QApplication)
 #include "tst_disabledonserver.moc"

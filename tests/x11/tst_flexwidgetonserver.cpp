@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "patience.h"
+#include "testprogram.h"
 
 #include <OlvFlexWidget>
 
@@ -65,5 +66,5 @@ void TestFlexWidgetOnServer::windowManagerSeesATool()
     }
 }
 
-QTEST_MAIN(TestFlexWidgetOnServer)
+ADD_TEST(TestFlexWidgetOnServer, QApplication)
 #include "tst_flexwidgetonserver.moc"

@@ -2,6 +2,7 @@
 #include "keyboard.h"
 #include "serverform.h"
 #include "sliderknob.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QHash>
@@ -330,5 +331,5 @@ void TestFormKeysOnServer::combinationsReachTheShortcutEdit()
     QCOMPARE(shortcut->getValue().toString(), QStringLiteral("Ctrl+F5"));
 }
 
-QTEST_MAIN(TestFormKeysOnServer)
+ADD_TEST(TestFormKeysOnServer, QApplication)
 #include "tst_formkeysonserver.moc"

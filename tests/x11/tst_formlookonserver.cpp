@@ -4,6 +4,7 @@
 #include "pixels.h"
 #include "ringaround.h"
 #include "serverform.h"
+#include "testprogram.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -254,5 +255,5 @@ void TestFormLookOnServer::assistiveProgramsHearOfTheFocus()
     QCOMPARE(nameOf(m_dialog->form->volume), QStringLiteral("Volume"));
 }
 
-QTEST_MAIN(TestFormLookOnServer)
+ADD_TEST(TestFormLookOnServer, QApplication)
 #include "tst_formlookonserver.moc"

@@ -2,6 +2,7 @@
 #include "framelesswindow.h"
 #include "gallerywindow.h"
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -76,5 +77,5 @@ void TestFramelessGalleryOnServer::isMovedResizedAndControlled()
     QTRY_VERIFY(!window.isVisible());
 }
 
-QTEST_MAIN(TestFramelessGalleryOnServer)
+ADD_TEST(TestFramelessGalleryOnServer, QApplication)
 #include "tst_framelessgalleryonserver.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <OlvMoveWidget>
 #include <OlvResizeWidget>
@@ -177,5 +178,5 @@ void TestFrameOnServer::popUpOpensBesideAMovedWindow()
     QTRY_VERIFY(!popUp.isVisible());
 }
 
-QTEST_MAIN(TestFrameOnServer)
+ADD_TEST(TestFrameOnServer, QApplication)
 #include "tst_frameonserver.moc"

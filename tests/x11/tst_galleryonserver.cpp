@@ -3,6 +3,7 @@
 #include "gallerywindow.h"
 #include "patience.h"
 #include "pixels.h"
+#include "testprogram.h"
 
 #include <OlvWidgets/OlvWidgets>
 
@@ -252,5 +253,5 @@ void TestGalleryOnServer::shipsTheIconFontUnderBothFolderNames()
              QStringLiteral("FontAwesome"));
 }
 
-QTEST_MAIN(TestGalleryOnServer)
+ADD_TEST(TestGalleryOnServer, QApplication)
 #include "tst_galleryonserver.moc"

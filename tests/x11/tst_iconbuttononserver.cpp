@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <OlvIconButton>
 
@@ -10,7 +11,7 @@
 namespace {
 // milliseconds; a coarse timer, which a QTimer is, may be 5 % early
 constexpr int burstTime = 400 * 95 / 100;
-}
+} // namespace
 
 class TestIconButtonOnServer : public QObject
 {
@@ -55,5 +56,5 @@ void TestIconButtonOnServer::tellsAClickFromADoubleClick()
     QCOMPARE(dClicked.count(), 1);
 }
 
-QTEST_MAIN(TestIconButtonOnServer)
+ADD_TEST(TestIconButtonOnServer, QApplication)
 #include "tst_iconbuttononserver.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <OlvLineEdit>
 
@@ -54,5 +55,5 @@ void TestLineEditOnServer::aClickPutsTheCaretIntoTheText()
     QTRY_COMPARE(edit->property("state").toString(), QStringLiteral("normal"));
 }
 
-QTEST_MAIN(TestLineEditOnServer)
+ADD_TEST(TestLineEditOnServer, QApplication)
 #include "tst_lineeditonserver.moc"

@@ -2,6 +2,7 @@
 // A shortcut editor on a table of a database, on a server that can grab combinations.
 #include "recordform.h"
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QStandardItemModel>
 #include <QTest>
@@ -131,5 +132,5 @@ void TestRecordOnServer::storesTheShortcutThatIsPressed()
     QCOMPARE(RecordDatabase::stored(), expected);
 }
 
-QTEST_MAIN(TestRecordOnServer)
+ADD_TEST(TestRecordOnServer, QApplication)
 #include "tst_recordonserver.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <QProcess>
 #include <QTest>
 
@@ -69,5 +71,5 @@ void TestShortcutAtExit::endsWithTheServerWithoutACrash()
     QCOMPARE(program.exitCode(), 1);
 }
 
-QTEST_MAIN(TestShortcutAtExit)
+ADD_TEST(TestShortcutAtExit, QApplication)
 #include "tst_shortcutatexit.moc"

@@ -2,6 +2,7 @@
 #include "keyplay.h"
 #include "otherprogram.h"
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <OlvShortcutEdit>
 
@@ -153,5 +154,5 @@ void TestShortcutEditOnServer::combinationThatIsTakenLeavesTheOneBefore()
     QCOMPARE(edit.getValue().toString(), QStringLiteral("Ctrl+F6"));
 }
 
-QTEST_MAIN(TestShortcutEditOnServer)
+ADD_TEST(TestShortcutEditOnServer, QApplication)
 #include "tst_shortcuteditonserver.moc"

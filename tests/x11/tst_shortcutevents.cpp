@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QSignalSpy>
 
@@ -180,5 +181,5 @@ void TestShortcutEvents::tellsOfAPressWhileAnotherIsLetGoOf()
     QCOMPARE(told, tries);
 }
 
-QTEST_MAIN(TestShortcutEvents)
+ADD_TEST(TestShortcutEvents, QApplication)
 #include "tst_shortcutevents.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "otherprogram.h"
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QSignalSpy>
 
@@ -330,5 +331,5 @@ void TestShortcutGroups::staysWithTheFirstGroupWhenTheOthersGo()
     QVERIFY(isSilent(symbolY, *shortcut));
 }
 
-QTEST_MAIN(TestShortcutGroups)
+ADD_TEST(TestShortcutGroups, QApplication)
 #include "tst_shortcutgroups.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "otherprogram.h"
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -349,5 +350,5 @@ void TestShortcutOnServer::anotherMayTakeOverInASlot()
     QTRY_COMPARE(activated.count(), 1);
 }
 
-QTEST_MAIN(TestShortcutOnServer)
+ADD_TEST(TestShortcutOnServer, QApplication)
 #include "tst_shortcutonserver.moc"

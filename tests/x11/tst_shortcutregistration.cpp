@@ -2,6 +2,7 @@
 #include "opensockets.h"
 #include "otherprogram.h"
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QAbstractEventDispatcher>
 #include <QSignalSpy>
@@ -223,5 +224,5 @@ void TestShortcutRegistration::aDeadConnectionIsInactive()
     QVERIFY2(awake.count() < 200, QByteArray::number(awake.count()).constData());
 }
 
-QTEST_MAIN(TestShortcutRegistration)
+ADD_TEST(TestShortcutRegistration, QApplication)
 #include "tst_shortcutregistration.moc"

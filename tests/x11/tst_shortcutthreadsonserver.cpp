@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -241,5 +242,5 @@ void TestShortcutThreadsOnServer::mayBeDestroyedThereWhileItIsPressed()
     QTRY_VERIFY(last->active());
 }
 
-QTEST_MAIN(TestShortcutThreadsOnServer)
+ADD_TEST(TestShortcutThreadsOnServer, QApplication)
 #include "tst_shortcutthreadsonserver.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shortcutkeys.h"
+#include "testprogram.h"
 
 #include <QLibrary>
 
@@ -28,5 +29,5 @@ void TestShortcutUnloading::aPluginOfShortcutsMayBeUnloaded()
     // the library's objects go with the application, when the program ends
 }
 
-QTEST_MAIN(TestShortcutUnloading)
+ADD_TEST(TestShortcutUnloading, QApplication)
 #include "tst_shortcutunloading.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "testprogram.h"
+
 #include <OlvShortcut>
 
 #include <QTest>
@@ -40,5 +42,5 @@ void TestShortcutWithoutConnection::canBeLetGoOfAllTheSame()
     QVERIFY(!shortcut.active());
 }
 
-QTEST_MAIN(TestShortcutWithoutConnection)
+ADD_TEST(TestShortcutWithoutConnection, QApplication)
 #include "tst_shortcutwithoutconnection.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallerywindow.h"
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <OlvSlider>
 
@@ -48,5 +49,5 @@ void TestSliderOnServer::dragsFromEndToEndWithTheRealPointer()
     QCOMPARE(slider->getValue().toInt(), 0);
 }
 
-QTEST_MAIN(TestSliderOnServer)
+ADD_TEST(TestSliderOnServer, QApplication)
 #include "tst_slideronserver.moc"

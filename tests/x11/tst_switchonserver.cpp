@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "realinput.h"
+#include "testprogram.h"
 
 #include <OlvSwitch>
 
@@ -56,5 +57,5 @@ void TestSwitchOnServer::aClickSwitchesAQuarterOfASecondLater()
     QCOMPARE(knob->geometry(), QRect(0, 0, 40, 40));
 }
 
-QTEST_MAIN(TestSwitchOnServer)
+ADD_TEST(TestSwitchOnServer, QApplication)
 #include "tst_switchonserver.moc"

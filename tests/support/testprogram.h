@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+
+#include <type_traits>
+
+/**
+ * A test of the program that it is linked into: a program has the tests of a folder, since linking
+ * one for each took longer than compiling them. Its first argument says which of them runs, as in
+ *
+ *     build/dev/tests/value/value_tests tst_slider
+ *
+ * and the test gets the others, with its own name as that of the program.
+ */
+class TestProgram
+{
+public:
+    using Main = int (*)(int argc, char **argv);
+
+    /** Adds the test in the source file @p file, whose name it gets. */
+    TestProgram(const char *file, Main main);
+};
+
+/** The application of a test that makes its own, or none. */
+struct NoApplication
+{
+    NoApplication(int &, char **) { }
+};
+
+template <typename Test, typename Application> int runTest(int argc, char **argv)
+{
+    Application application(argc, argv);
+    if constexpr (!std::is_same_v<Application, NoApplication>) {
+        QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // as in Qt's own QTEST_MAIN()
+    }
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+/** Makes a class of the test in its source file, which runs in an @p Application. */
+#define ADD_TEST(Test, Application)                                                                \
+    static const TestProgram program##Test(__FILE__, runTest<Test, Application>);
