@@ -199,7 +199,6 @@ void Storm::processEvents(int milliseconds)
 int Storm::run(int argc, char **argv, const char *family, const Maker &make)
 {
     fixAddresses(argv);
-    VirtualClock::real();
     qSetGlobalQHashSeed(0);
     qputenv("QT_NO_GLIB", "1"); // only Qt's own event loop uses the virtual clock
     currentFamily = family;
@@ -213,9 +212,9 @@ int Storm::run(int argc, char **argv, const char *family, const Maker &make)
     const QCommandLineOption eventsOption(QStringLiteral("events"),
                                           QStringLiteral("Stop after so many events."),
                                           QStringLiteral("N"));
-    const QCommandLineOption secondsOption(QStringLiteral("seconds"),
-                                           QStringLiteral("Stop after so many seconds."),
-                                           QStringLiteral("N"), QStringLiteral("20"));
+    const QCommandLineOption secondsOption(
+        QStringLiteral("seconds"), QStringLiteral("Stop after so many seconds of a processor."),
+        QStringLiteral("N"), QStringLiteral("20"));
     const QCommandLineOption replayOption(QStringLiteral("replay"),
                                           QStringLiteral("First run the seeds in this file."),
                                           QStringLiteral("file"));
@@ -237,7 +236,7 @@ int Storm::run(int argc, char **argv, const char *family, const Maker &make)
     quint64 seed = firstSeed;
     quint64 left = wanted;
     const auto isOver = [&] {
-        return wanted > 0 ? left == 0 : VirtualClock::real() >= time;
+        return wanted > 0 ? left == 0 : VirtualClock::processorTime() >= time;
     };
     for (; !isOver(); ++seed) {
         const quint64 ran =
@@ -249,7 +248,7 @@ int Storm::run(int argc, char **argv, const char *family, const Maker &make)
         "storm %s: passed %llu events, seeds %llu to %llu, in %lld s; %llu warnings of Qt's\n",
         family, static_cast<unsigned long long>(events), static_cast<unsigned long long>(firstSeed),
         static_cast<unsigned long long>(seed - 1),
-        static_cast<long long>(VirtualClock::real().count() / 1000),
+        static_cast<long long>(VirtualClock::processorTime().count() / 1000),
         static_cast<unsigned long long>(warnings));
     return EXIT_SUCCESS;
 }

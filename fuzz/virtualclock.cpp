@@ -39,14 +39,10 @@ void VirtualClock::advanceToHour()
     virtualNanoseconds = (virtualNanoseconds / hour + 1) * hour;
 }
 
-std::chrono::milliseconds VirtualClock::real()
+std::chrono::milliseconds VirtualClock::processorTime()
 {
-    const auto now = [] {
-        timespec time{};
-        syscall(SYS_clock_gettime, CLOCK_MONOTONIC, &time);
-        return std::chrono::duration_cast<std::chrono::milliseconds>(
-            std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
-    };
-    static const std::chrono::milliseconds begin = now();
-    return now() - begin;
+    timespec time{};
+    syscall(SYS_clock_gettime, CLOCK_PROCESS_CPUTIME_ID, &time);
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
 }

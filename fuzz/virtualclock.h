@@ -15,7 +15,7 @@ void advance(std::chrono::milliseconds time);
 /** Advances the clock to the next full hour, since Qt aligns its timers within a second. */
 void advanceToHour();
 
-/** The real time since the program started. */
-std::chrono::milliseconds real();
+/** What the program has really taken of a processor, however many others ran beside it. */
+std::chrono::milliseconds processorTime();
 
 } // namespace VirtualClock

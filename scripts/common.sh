@@ -36,6 +36,9 @@ qt6_test_packages=(
     "${qt6_designer_packages[@]}"
     qt6-wayland qt6-base-private-dev libqt6sql6-sqlite libqt6svg6-dev
 )
+# Most tests wait more than they compute.
+test_jobs=$((2 * $(nproc)))
+
 # what makes Debian packages; debian/control says what these are built with
 package_packages=(debhelper dpkg-dev git lintian xz-utils)
 # what tries them in an empty Debian, and checks what distributors look at

@@ -27,7 +27,7 @@ namespace {
 constexpr ushort starGlyph = 0xf006;
 constexpr ushort fullStarGlyph = 0xf005;
 constexpr ushort mailGlyph = 0xf0e0;
-constexpr int tileSide = 76;
+constexpr int mailSide = 76;
 constexpr int volume = 60;
 
 /** A form whose rows are the same on both sides of the page. */
@@ -78,7 +78,7 @@ QWidget *makeLibraryForm(Page *page)
     favourite->setToggle(QChar(fullStarGlyph));
     QObject::connect(favourite, &QPushButton::clicked, page, log("OlvSimpleIconButton: clicked()"));
     auto *mail = new OlvIconButton(QChar(mailGlyph), QStringLiteral("Mail"), iconFamily(), nullptr,
-                                   tileSide, tileSide);
+                                   mailSide, mailSide);
     QObject::connect(mail, &OlvIconButton::clicked, page, log("OlvIconButton: clicked()"));
     auto *save = new OlvButton(QStringLiteral("Save"));
     QObject::connect(save, &OlvButton::clicked, page, log("OlvButton: clicked()"));
@@ -114,7 +114,7 @@ QWidget *makeQtForm(Page *page)
     favourite->setFocusPolicy(Qt::StrongFocus);
     QObject::connect(favourite, &QToolButton::clicked, page, log("QToolButton: clicked()"));
     auto *mail = new QPushButton(QStringLiteral("Mail"));
-    mail->setFixedSize(tileSide, tileSide);
+    mail->setFixedSize(mailSide, mailSide);
     QObject::connect(mail, &QPushButton::clicked, page, log("QPushButton: clicked()"));
     auto *save = new QPushButton(QStringLiteral("Save"));
     QObject::connect(save, &QPushButton::clicked, page, log("QPushButton: clicked()"));

@@ -21,7 +21,7 @@ constexpr int handleWidth = 5;
 constexpr QSize smallestSize(480, 360);
 
 /** The glyphs of the six window buttons, that of "restore", and one of the application's own. */
-QList<QChar> glyphs()
+QList<QChar> windowGlyphs()
 {
     return {
         u'\uf08e', u'\uf103', u'\uf102', u'\uf2d1', u'\uf2d0', u'\uf00d', u'\uf2d2', u'\uf129'
@@ -31,7 +31,7 @@ QList<QChar> glyphs()
 } // namespace
 
 FramelessWindow::FramelessWindow(const QString &title, QWidget *content)
-    : m_bar(new OlvControlBar(glyphs(), nullptr, { QStringLiteral("About") }))
+    : m_bar(new OlvControlBar(windowGlyphs(), nullptr, { QStringLiteral("About") }))
 {
     setWindowTitle(title);
     setWindowFlags(Qt::FramelessWindowHint);

@@ -17,7 +17,7 @@ constexpr ushort userGlyph = 0xf007;
 constexpr ushort lockGlyph = 0xf023;
 constexpr ushort eyeGlyph = 0xf06e;
 constexpr ushort struckEyeGlyph = 0xf070;
-constexpr ushort mailGlyph = 0xf0e0;
+constexpr ushort envelopeGlyph = 0xf0e0;
 
 OlvLineEdit *addLine(Page *page, const QString &heading, const QString &name, QSize size)
 {
@@ -60,7 +60,7 @@ Page *createLineEditsPage(QWidget *parent)
     OlvLineEdit *large =
         addLine(page, QStringLiteral("44 pixels high, and its glyph as with the focus"),
                 QStringLiteral("largeLine"), { 400, 44 });
-    large->setIcon(QChar(mailGlyph));
+    large->setIcon(QChar(envelopeGlyph));
     large->setPlaceholderText(QStringLiteral("Mail address"));
     large->setProperty("state", QStringLiteral("edit"));
 

@@ -30,7 +30,7 @@ constexpr double iconSizeOfPart = 1.56;
 constexpr double textSizeOfPart = 0.52;
 constexpr QRgb initialAccent = qRgb(0, 255, 255);
 constexpr int halfRed = 127;
-constexpr int frameWidth = 1;
+constexpr int tileFrameWidth = 1;
 
 } // namespace
 
@@ -172,7 +172,7 @@ void OlvIconButton::paintEvent(QPaintEvent * /*event*/)
     painter.drawText(QRect(0, glyphHeight, width(), partSize), Qt::AlignCenter,
                      property(ButtonsProperties::text).toString());
     Shape::roundedRect(rect(), ButtonMetrics::tileCornerRadius)
-        .stroke(Canvas(painter), color, frameWidth);
+        .stroke(Canvas(painter), color, tileFrameWidth);
 }
 
 void OlvIconButton::report()

@@ -21,14 +21,14 @@ constexpr char headerColorProperty[] = "headerWayColor";
 constexpr char panelTimerProperty[] = "resizeTimer";
 
 constexpr int noHeader = 0;
-constexpr int smallestSide = 50;
+constexpr int smallestPanel = 50;
 constexpr int handleWidth = 3;
 constexpr int panelSettlingTime = 2000; // milliseconds
-constexpr int cornerRadius = 5;
-constexpr int frameWidth = 1;
+constexpr int panelRadius = 5;
+constexpr int panelFrameWidth = 1;
 constexpr int headerThickness = 10;
 constexpr QRgb frameColor = qRgb(207, 207, 207);
-constexpr QRgb fillColor = qRgb(245, 245, 245);
+constexpr QRgb panelColor = qRgb(245, 245, 245);
 
 Qt::WindowFlags hintOf(int stayType)
 {
@@ -68,7 +68,7 @@ OlvFlexWidget::OlvFlexWidget(int width, int height, QWidget *parent)
     Accessibility::prepare(this);
     setProperty(stayProperty, int(StayNormal));
     setProperty(headerWayProperty, noHeader);
-    setMinimumSize(smallestSide, smallestSide);
+    setMinimumSize(smallestPanel, smallestPanel);
     resize(width, height);
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -157,10 +157,10 @@ void OlvFlexWidget::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const Canvas canvas(painter);
-    const int radius = isMaximized() ? 0 : cornerRadius;
+    const int radius = isMaximized() ? 0 : panelRadius;
     const Shape panel = Shape::roundedRect(rect(), radius);
-    panel.fill(canvas, QColor(fillColor));
-    panel.stroke(canvas, QColor(frameColor), frameWidth);
+    panel.fill(canvas, QColor(panelColor));
+    panel.stroke(canvas, QColor(frameColor), panelFrameWidth);
 
     const int way = property(headerWayProperty).toInt();
     if (way != noHeader) {

@@ -15,7 +15,7 @@ namespace {
 constexpr int cornerOfGlyph = 4;
 
 /** The radius of the corners that a widget is drawn with. */
-int cornerRadius(const QWidget *widget, FormKind kind)
+int ringedRadius(const QWidget *widget, FormKind kind)
 {
     switch (kind) {
     case FormKind::Button:
@@ -118,5 +118,5 @@ void FormFocus::surround(QWidget *widget, FormKind kind)
     if (!m_ring) {
         m_ring = new FocusRing;
     }
-    m_ring->surround(widget, cornerRadius(widget, kind));
+    m_ring->surround(widget, ringedRadius(widget, kind));
 }

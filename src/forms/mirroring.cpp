@@ -12,7 +12,7 @@
 
 namespace {
 
-void mirror(const FormMember &member, bool isOn)
+void mirrorMember(const FormMember &member, bool isOn)
 {
     QWidget *widget = member.widget;
     switch (member.kind) {
@@ -40,10 +40,10 @@ void mirror(const FormMember &member, bool isOn)
 
 void Mirroring::fit(const FormMember &member)
 {
-    mirror(member, member.widget->layoutDirection() == Qt::RightToLeft);
+    mirrorMember(member, member.widget->layoutDirection() == Qt::RightToLeft);
 }
 
 void Mirroring::take(const FormMember &member)
 {
-    mirror(member, false);
+    mirrorMember(member, false);
 }

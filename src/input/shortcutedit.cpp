@@ -24,7 +24,7 @@ constexpr char shortcutProperty[] = "OlvShortcut";
 constexpr char captureProperty[] = "Temp";
 
 constexpr int frameInset = 2;
-constexpr int frameWidth = 1;
+constexpr int editFrameWidth = 1;
 
 void drawFrame(QPainter &painter, QSize size, const QColor &color)
 {
@@ -33,7 +33,7 @@ void drawFrame(QPainter &painter, QSize size, const QColor &color)
     const QRect rect(QPoint(0, 0), size - QSize(frameInset, frameInset));
     const Shape frame = Shape::roundedRect(rect, InputMetrics::cornerRadius);
     frame.fill(canvas, Qt::white);
-    frame.stroke(canvas, color, frameWidth);
+    frame.stroke(canvas, color, editFrameWidth);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "deferred.h"
+#include "makewidget.h"
 #include "pixels.h"
 #include "testprogram.h"
 #include "widgetform.h"
@@ -12,11 +13,7 @@ namespace {
 
 constexpr qreal opacity = 0.4;
 
-using Make = QWidget *(*)(QWidget *parent);
-
 } // namespace
-
-Q_DECLARE_METATYPE(Make)
 
 class TestDisabledLook : public QObject
 {
@@ -39,9 +36,9 @@ private Q_SLOTS:
 
 void TestDisabledLook::isTheEnabledOneFaded_data()
 {
-    QTest::addColumn<Make>("make");
+    QTest::addColumn<MakeIn>("make");
     QTest::addColumn<qreal>("ratio");
-    const QVector<QPair<const char *, Make>> kinds{
+    const QVector<QPair<const char *, MakeIn>> kinds{
         { "button",
           [](QWidget *parent) -> QWidget * {
               return new OlvButton(QStringLiteral("Save"), parent);
@@ -82,7 +79,7 @@ void TestDisabledLook::isTheEnabledOneFaded_data()
 
 void TestDisabledLook::isTheEnabledOneFaded()
 {
-    QFETCH(Make, make);
+    QFETCH(MakeIn, make);
     QFETCH(qreal, ratio);
     QWidget window;
     window.resize(140, 100);

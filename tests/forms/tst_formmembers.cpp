@@ -15,8 +15,6 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-namespace { } // namespace
-
 class TestFormMembers : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ template <class Widget> QWidget *make()
     return new Widget(static_cast<QWidget *>(nullptr));
 }
 
-QWidget *makeTile()
+QWidget *makeOwnTile()
 {
     return new OlvIconButton(QLatin1Char('M'), QStringLiteral("Mail"), QStringLiteral("Sans"),
                              nullptr, 100, 100);
@@ -61,7 +61,7 @@ void TestFormSizes::areLargeEnoughInABareForm_data()
     QTest::addColumn<MakeWidget>("make");
     QTest::newRow("OlvButton") << &make<OlvButton>;
     QTest::newRow("OlvIconButton") << &make<OlvIconButton>;
-    QTest::newRow("OlvIconButton with a glyph") << &makeTile;
+    QTest::newRow("OlvIconButton with a glyph") << &makeOwnTile;
     QTest::newRow("OlvSimpleIconButton") << &make<OlvSimpleIconButton>;
     QTest::newRow("OlvLineEdit") << &make<OlvLineEdit>;
     QTest::newRow("OlvShortcutEdit") << &make<OlvShortcutEdit>;

@@ -15,8 +15,6 @@
 
 #include <algorithm>
 
-namespace { } // namespace
-
 class TestMirroredMembers : public QObject
 {
     Q_OBJECT

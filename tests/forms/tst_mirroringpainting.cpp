@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What mirrored widgets draw: their pixels from the right to the left, and texts as they are.
 #include "deferred.h"
+#include "makewidget.h"
 #include "pixels.h"
 #include "sizedlineedit.h"
 #include "sizedswitch.h"
@@ -32,8 +33,6 @@ QImage mirrorImage(const QImage &image)
 /** Qt rounds curves to one side, and blends them with the ground in one step or in two. */
 constexpr int roundingError = 3;
 
-using MakeIn = QWidget *(*)(QWidget *parent);
-
 OlvSlider *slider(QWidget *parent, int percent)
 {
     auto *one = new OlvSlider(parent);
@@ -56,8 +55,6 @@ template <bool on, int steps> QWidget *sliding(QWidget *parent)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(MakeIn)
 
 class TestMirroringPainting : public QObject
 {

@@ -4,8 +4,6 @@
 
 #include <QTest>
 
-using namespace DeletionTable;
-
 /** Listeners to updates of accessibility that delete the widget that they hear of. */
 class TestDeletionByAssistants : public QObject
 {
@@ -18,13 +16,13 @@ private Q_SLOTS:
 
 void TestDeletionByAssistants::survives_data()
 {
-    addRows(everySubject(), Listener::UpdateHandler);
+    DeletionTable::addRows(DeletionTable::everySubject(), DeletionTable::Listener::UpdateHandler);
 }
 
 void TestDeletionByAssistants::survives()
 {
-    check(everySubject(), Listener::UpdateHandler);
+    DeletionTable::check(DeletionTable::everySubject(), DeletionTable::Listener::UpdateHandler);
 }
 
-ADD_TEST(TestDeletionByAssistants, Application)
+ADD_TEST(TestDeletionByAssistants, DeletionTable::Application)
 #include "tst_deletionbyassistants.moc"

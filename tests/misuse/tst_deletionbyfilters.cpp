@@ -4,8 +4,6 @@
 
 #include <QTest>
 
-using namespace DeletionTable;
-
 /** Event filters that delete the widget whose event they see, and consume the event. */
 class TestDeletionByFilters : public QObject
 {
@@ -18,13 +16,13 @@ private Q_SLOTS:
 
 void TestDeletionByFilters::survives_data()
 {
-    addRows(everySubject(), Listener::EventFilter);
+    DeletionTable::addRows(DeletionTable::everySubject(), DeletionTable::Listener::EventFilter);
 }
 
 void TestDeletionByFilters::survives()
 {
-    check(everySubject(), Listener::EventFilter);
+    DeletionTable::check(DeletionTable::everySubject(), DeletionTable::Listener::EventFilter);
 }
 
-ADD_TEST(TestDeletionByFilters, Application)
+ADD_TEST(TestDeletionByFilters, DeletionTable::Application)
 #include "tst_deletionbyfilters.moc"

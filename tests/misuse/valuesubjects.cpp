@@ -36,7 +36,7 @@ Deed step(const char *name, int before)
              true };
 }
 
-Subject toggle()
+Subject toggledSwitch()
 {
     const auto setChecked = [](QWidget *widget) {
         asSwitch(widget)->setChecked(true);
@@ -133,5 +133,5 @@ Subject slider()
 
 QVector<Subject> DeletionTable::valueSubjects()
 {
-    return { toggle(), slider() };
+    return { toggledSwitch(), slider() };
 }

@@ -39,6 +39,6 @@ template <typename Test, typename Application> int runTest(int argc, char **argv
     return QTest::qExec(&test, argc, argv);
 }
 
-/** Makes a class of the test in its source file, which runs in an @p Application. */
+/** Makes the class @p Test the test of its source file, which runs in an @p Application. */
 #define ADD_TEST(Test, Application)                                                                \
     static const TestProgram program##Test(__FILE__, runTest<Test, Application>);
