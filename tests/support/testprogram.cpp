@@ -12,15 +12,16 @@ using Tests = QMap<QString, TestProgram::Main>;
 
 Tests &tests()
 {
-    static Tests tests; // before the objects that add to it, whose files come in any order
+    static Tests tests; // there when the first one is added, whichever source that is in
     return tests;
 }
 
 } // namespace
 
-TestProgram::TestProgram(const char *file, Main main)
+bool TestProgram::add(const char *file, Main main)
 {
     tests().insert(QFileInfo(QString::fromUtf8(file)).baseName(), main);
+    return true;
 }
 
 int main(int argc, char **argv)

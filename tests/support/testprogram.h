@@ -7,21 +7,21 @@
 #include <type_traits>
 
 /**
- * A test of the program that it is linked into: a program has the tests of a folder, since linking
- * one for each took longer than compiling them. Its first argument says which of them runs, as in
+ * A program has the tests of a folder, since linking one for each took longer than compiling them.
+ * Its first argument says which of them runs, as in
  *
  *     build/dev/tests/value/value_tests tst_slider
  *
  * and the test gets the others, with its own name as that of the program.
  */
-class TestProgram
-{
-public:
-    using Main = int (*)(int argc, char **argv);
+namespace TestProgram {
 
-    /** Adds the test in the source file @p file, whose name it gets. */
-    TestProgram(const char *file, Main main);
-};
+using Main = int (*)(int argc, char **argv);
+
+/** Adds the test in the source file @p file, whose name it gets. */
+bool add(const char *file, Main main);
+
+} // namespace TestProgram
 
 /** The application of a test that makes its own, or none. */
 struct NoApplication
@@ -41,4 +41,5 @@ template <typename Test, typename Application> int runTest(int argc, char **argv
 
 /** Makes the class @p Test the test of its source file, which runs in an @p Application. */
 #define ADD_TEST(Test, Application)                                                                \
-    static const TestProgram program##Test(__FILE__, runTest<Test, Application>);
+    [[maybe_unused]] static const bool is##Test##Added =                                           \
+        TestProgram::add(__FILE__, runTest<Test, Application>);
