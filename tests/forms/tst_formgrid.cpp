@@ -11,6 +11,7 @@
 #include <OlvSwitch>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
