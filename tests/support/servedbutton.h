@@ -3,6 +3,7 @@
 
 #include <OlvButton>
 
+/** Adds a button to a form. */
 inline OlvButton *addButton(QWidget *parent)
 {
     return new OlvButton(QStringLiteral("Save"), parent);
